@@ -1,0 +1,114 @@
+#pragma once
+// The interfaces to the machine: everything the logic asks of disk, processes,
+// settings, clipboard and clock. Paths are texts with a drive, such as
+// "C:\pregeo\estratti\X.EMP" (Windows-1252). What fails throws Errore.
+
+#include <base/data.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lirmeto {
+
+// Files and folders under drive letters. Every component of a path is looked up
+// without regard to case, an existing spelling being preferred; "\" and "/"
+// both separate. A path without a drive, with ".." or with an impossible
+// character is error 52.
+class Disco {
+public:
+  virtual ~Disco() = default;
+
+  // Whether something (file or folder) stands there; false for a path that
+  // cannot be.
+  [[nodiscard]] virtual bool Esiste(std::string_view percorso) const = 0;
+  [[nodiscard]] virtual bool EsisteCartella(std::string_view percorso) const = 0;
+
+  // All bytes of a file. Errors: 53 not there, 70 not allowed, 75 not a file or
+  // not readable.
+  [[nodiscard]] virtual std::string Leggi(std::string_view percorso) const = 0;
+
+  // At most the first `byte` bytes of a file. Errors as Leggi.
+  [[nodiscard]] virtual std::string LeggiInizio(std::string_view percorso, std::size_t byte) const = 0;
+
+  // Replaces or creates a file, in place. Errors: 61 disk full (told before the
+  // old content is touched where the machine can tell), 70, 75 read-only or a
+  // folder, 76 its folder is not there.
+  virtual void Scrivi(std::string_view percorso, std::string_view contenuto) = 0;
+
+  // Creates one folder in a folder that exists. Errors: 75 already there, 76
+  // its parent is not there.
+  virtual void CreaCartella(std::string_view percorso) = 0;
+
+  // Copies a file over another. Errors as Leggi and Scrivi.
+  virtual void Copia(std::string_view da, std::string_view a) = 0;
+
+  // Deletes one file. Errors: 53 not there, 70, 75.
+  virtual void Elimina(std::string_view percorso) = 0;
+
+  // Names (not paths) of the files of a folder that end in `estensione`
+  // (".EMP", without regard to case; empty: all), sorted by their upper-cased
+  // bytes. A folder that is not there has none.
+  [[nodiscard]] virtual std::vector<std::string> Elenca(std::string_view cartella,
+                                                        std::string_view estensione) const = 0;
+};
+
+// The shell's special folders, as paths without a closing backslash.
+struct CartelleDiSistema {
+  std::string documenti;  // the user's documents
+  std::string windows;    // where PREGEO.INI lies
+  std::string temporanea; // environment variable "temp"
+  std::string programmi;  // environment variable "ProgramFiles(x86)"
+};
+
+// Processes and the shell.
+class Processi {
+public:
+  virtual ~Processi() = default;
+
+  [[nodiscard]] virtual CartelleDiSistema Cartelle() = 0;
+
+  // Starts a program with its arguments, in the program's own folder, and waits
+  // for its end without limit. The program is a path with a drive; "NAME.exe"
+  // that is not there is looked for as "NAME". Errors: 53 no such program, 70.
+  virtual void AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti) = 0;
+
+  // Process numbers of the same user whose image has this name, this process
+  // among them if it fits.
+  [[nodiscard]] virtual std::vector<long> Elenca(std::string_view immagine) = 0;
+  [[nodiscard]] virtual long QuestoProcesso() const = 0;
+
+  // Ends a process; the answer is 0 when it went, another number when it did
+  // not.
+  [[nodiscard]] virtual int Termina(long processo) = 0;
+
+  // Asks the shell to clear the desktop of windows.
+  virtual void MostraDesktop() = 0;
+};
+
+// Per-user settings: texts by section and key.
+class Impostazioni {
+public:
+  virtual ~Impostazioni() = default;
+  [[nodiscard]] virtual std::string Leggi(std::string_view sezione, std::string_view chiave,
+                                          std::string_view predefinito) const = 0;
+  virtual void Scrivi(std::string_view sezione, std::string_view chiave, std::string_view valore) = 0;
+};
+
+// The clipboard's text, its lines ended by CR LF.
+class Appunti {
+public:
+  virtual ~Appunti() = default;
+  [[nodiscard]] virtual std::string Testo() const = 0;
+  virtual void MettiTesto(std::string_view testo) = 0;
+};
+
+class Orologio {
+public:
+  virtual ~Orologio() = default;
+  [[nodiscard]] virtual Data Oggi() const = 0;
+  [[nodiscard]] virtual Ora Adesso() const = 0;
+};
+
+} // namespace lirmeto
