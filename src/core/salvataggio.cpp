@@ -1,0 +1,125 @@
+#include <core/salvataggio.h>
+
+#include <base/avanzamento.h>
+#include <base/testo.h>
+#include <core/mostra_errore.h>
+#include <core/riga.h>
+#include <core/servizi.h>
+
+#include <utility>
+
+namespace lirmeto {
+
+namespace {
+
+// A note that is not filled in reads "Note:" to Pregeo; the mark of a
+// planimetric point is of the generation only.
+std::string RigaPulita(std::string_view riga) {
+  return Sostituisci(Sostituisci(riga, "<P!>", ""), "||", "|NOTE:|");
+}
+
+bool DaPulire(std::string_view riga) {
+  const double genere = GenereRiga(riga);
+  return genere != 0 && genere != 9 && (Contiene(riga, "||") || Contiene(riga, "<P!>"));
+}
+
+// One pass of plain replacement of pairs of line ends, in place.
+void DimezzaUnaVolta(std::string& testo) {
+  constexpr std::string_view doppio = "\r\n\r\n";
+  std::size_t scritti = testo.find(doppio);
+  if (scritti == std::string::npos) return;
+  for (std::size_t letti = scritti; letti < testo.size();) {
+    if (testo.compare(letti, doppio.size(), doppio) == 0) letti += FineRiga.size();
+    testo[scritti++] = testo[letti++];
+    // the line end that stays is no beginning of another pair
+    if (testo[scritti - 1] == '\r' && letti < testo.size() && testo[letti] == '\n') testo[scritti++] = testo[letti++];
+  }
+  testo.resize(scritti);
+}
+
+// Pairs of line ends halved in two passes. Two is the number: longer runs keep a pair.
+std::string DimezzaFineRiga(std::string testo) {
+  DimezzaUnaVolta(testo);
+  DimezzaUnaVolta(testo);
+  return testo;
+}
+
+std::string PercorsoUltimo(const Sessione& sessione) {
+  return sessione.CartellaProgramma + "\\temp\\" + std::string(NomeDaPercorso(sessione.NomeFileLibretto)) + ".ultimo";
+}
+
+// Keeps the last good content of the libretto's file before it is truncated.
+// Whether there was one.
+bool TieniUltimo(Ambiente& ambiente) {
+  const Sessione& sessione = ambiente.sessione;
+  if (!ambiente.disco.Esiste(sessione.NomeFileLibretto)) return false;
+  ambiente.disco.Copia(sessione.NomeFileLibretto, PercorsoUltimo(sessione));
+  return true;
+}
+
+// The whole save. `tenuto` tells, also when an error ends it, whether a copy of
+// the old content was made.
+void ScriviLibretto(Ambiente& ambiente, bool& tenuto) {
+  const std::string testo = TestoDaSalvare(ambiente.sessione);
+  tenuto = TieniUltimo(ambiente);
+  ambiente.disco.Scrivi(ambiente.sessione.NomeFileLibretto, testo);
+}
+
+} // namespace
+
+void AggiornaLibrettoMisure(Ambiente& ambiente) {
+  Sessione& sessione = ambiente.sessione;
+  ElencoRighe& elenco = sessione.List1;
+  elenco.TogliRipetute();
+  Avanzamento avanzamento(ambiente.dialoghi, "Aggiornamento del libretto", elenco.Quante());
+  std::size_t lunghezza = 0;
+  for (std::size_t i = 0; i < elenco.Quante(); ++i) {
+    avanzamento.Fatto(i);
+    if (DaPulire(elenco.Riga(i))) elenco.Cambia(i, RigaPulita(elenco.Riga(i)));
+    lunghezza += elenco.Riga(i).size() + FineRiga.size();
+  }
+  sessione.Libretto.clear();
+  sessione.Libretto.reserve(lunghezza);
+  for (const auto riga : elenco.Righe())
+    if (!Taglia(riga).empty()) AggiungiRigaLibretto(sessione, riga);
+}
+
+std::string TestoDaSalvare(const Sessione& sessione) {
+  const std::string fine(FineRiga);
+  std::string tag = fine + "6|<EST>" + sessione.EstrattoAssociato + "|" + fine;
+  tag += "6|<COD>" + sessione.CodiceFiscale + "|" + fine;
+  tag += "6|<ISC>" + sessione.NumeroIscrizione + "|";
+  for (const auto linea : Dividi(sessione.Ditta, FineRiga))
+    if (!Taglia(linea).empty()) tag.append(fine).append("6|<DIT>").append(linea).append("|").append(fine);
+  std::string testo;
+  testo.reserve(sessione.Libretto.size() + tag.size() + fine.size());
+  testo += sessione.Libretto;
+  testo += tag;
+  return DimezzaFineRiga(std::move(testo)) + fine;
+}
+
+void SalvaLibrettoSuFile(Ambiente& ambiente) {
+  bool tenuto = false;
+  ScriviLibretto(ambiente, tenuto);
+}
+
+bool EsportaLibrettoInFile(Ambiente& ambiente) {
+  return Intrappola(ambiente, [&] {
+    const std::string scelto = ambiente.dialoghi.ScegliFileDaSalvare({"Esporta Libretto", "c:\\", "zzz.dat", {}});
+    if (Taglia(scelto).empty()) return;
+    ambiente.disco.Scrivi(scelto, DimezzaFineRiga(ambiente.sessione.Libretto));
+  });
+}
+
+bool SalvaLibrettoMisure(Ambiente& ambiente) {
+  ambiente.sessione.PuntoErrore = "SalvaLibrettoMisure";
+  if (ambiente.sessione.NomeFileLibretto.empty()) return EsportaLibrettoInFile(ambiente);
+  bool tenuto = false;
+  const bool riuscito = Intrappola(ambiente, [&] { ScriviLibretto(ambiente, tenuto); });
+  if (!riuscito && tenuto)
+    ambiente.dialoghi.Messaggio(std::string("L'ultimo contenuto valido del libretto è conservato in:"_w) +
+                                std::string(FineRiga) + PercorsoUltimo(ambiente.sessione));
+  return riuscito;
+}
+
+} // namespace lirmeto

@@ -1,0 +1,152 @@
+#pragma once
+// The machine in memory: every interface with a stand-in that records what was
+// said and answers from a script.
+
+#include <base/dialoghi.h>
+#include <base/macchina.h>
+#include <core/ambiente.h>
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace lirmeto::prova {
+
+// Files by their path, folders apart; upper case decides which is which.
+class DiscoInMemoria : public Disco {
+public:
+  std::map<std::string, std::string> file; // upper-cased path, content
+  std::map<std::string, int> rotti;        // upper-cased path, error number that reading or writing it gives
+  std::vector<std::string> cartelle;       // upper-cased
+
+  void Metti(const std::string& percorso, std::string contenuto);
+  [[nodiscard]] std::string Contenuto(const std::string& percorso) const;
+
+  [[nodiscard]] bool Esiste(std::string_view percorso) const override;
+  [[nodiscard]] bool EsisteCartella(std::string_view percorso) const override;
+  [[nodiscard]] std::string Leggi(std::string_view percorso) const override;
+  [[nodiscard]] std::string LeggiInizio(std::string_view percorso, std::size_t byte) const override;
+  void Scrivi(std::string_view percorso, std::string_view contenuto) override;
+  void CreaCartella(std::string_view percorso) override;
+  void Copia(std::string_view da, std::string_view a) override;
+  void Elimina(std::string_view percorso) override;
+  [[nodiscard]] std::vector<std::string> Elenca(std::string_view cartella, std::string_view estensione) const override;
+
+private:
+  void ControllaRotto(std::string_view percorso) const;
+};
+
+struct Detto {
+  std::string testo;
+  std::string titolo;
+  Gravita gravita = Gravita::Informazione;
+};
+
+class DialoghiDiProva : public Dialoghi {
+public:
+  std::vector<Detto> detti;      // messages and questions in order
+  std::deque<Risposta> risposte; // to the next questions; the last one stays, none is No
+  std::string fileScelto;        // "*" cancels
+  Carattere carattereScelto;
+
+  void Messaggio(std::string_view testo, std::string_view titolo, Gravita gravita) override;
+  [[nodiscard]] Risposta Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) override;
+  [[nodiscard]] std::string ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
+  [[nodiscard]] Carattere ScegliCarattere(const Carattere& attuale) override;
+  void Avanzamento(std::string_view, std::size_t, std::size_t) override {}
+
+  [[nodiscard]] std::string UltimoTesto() const { return detti.empty() ? std::string{} : detti.back().testo; }
+};
+
+// A form shown is played by `utente`; a form opened by name is noted.
+class FinestreDiProva : public Finestre {
+public:
+  std::function<void(Modello&)> utente;
+  std::vector<std::string> disponibili;
+  std::vector<std::string> aperte;
+
+  void MostraModale(Modello& modello) override {
+    if (utente) utente(modello);
+  }
+  [[nodiscard]] bool Disponibile(std::string_view nome) const override;
+  void Apri(std::string_view nome) override { aperte.emplace_back(nome); }
+};
+
+class ProcessiDiProva : public Processi {
+public:
+  std::map<std::string, std::vector<long>> vivi; // image name, processes
+  std::vector<long> terminati;
+  std::vector<std::string> avviati;
+  int esitoTermina = 0;
+
+  [[nodiscard]] CartelleDiSistema Cartelle() override {
+    return {"C:\\users\\prova\\Documents", "C:\\WINDOWS", "C:\\users\\prova\\Temp", "C:\\Program Files (x86)"};
+  }
+  void AvviaEAttendi(const std::string& programma, const std::vector<std::string>&) override {
+    avviati.push_back(programma);
+  }
+  [[nodiscard]] std::vector<long> Elenca(std::string_view immagine) override { return vivi[std::string(immagine)]; }
+  [[nodiscard]] long QuestoProcesso() const override { return 1; }
+  [[nodiscard]] int Termina(long processo) override {
+    terminati.push_back(processo);
+    return esitoTermina;
+  }
+  void MostraDesktop() override { avviati.emplace_back("desktop"); }
+};
+
+class ImpostazioniInMemoria : public Impostazioni {
+public:
+  std::map<std::string, std::string> valori; // "SEZIONE/chiave"
+  [[nodiscard]] std::string Leggi(std::string_view sezione, std::string_view chiave,
+                                  std::string_view predefinito) const override;
+  void Scrivi(std::string_view sezione, std::string_view chiave, std::string_view valore) override;
+};
+
+class AppuntiDiProva : public Appunti {
+public:
+  std::string testo;
+  [[nodiscard]] std::string Testo() const override { return testo; }
+  void MettiTesto(std::string_view nuovo) override { testo = nuovo; }
+};
+
+class OrologioFermo : public Orologio {
+public:
+  Data oggi{2026, 11, 21};
+  Ora adesso{9, 5, 7};
+  [[nodiscard]] Data Oggi() const override { return oggi; }
+  [[nodiscard]] Ora Adesso() const override { return adesso; }
+};
+
+// Everything a command needs, with the folders of an installation on a drive C:
+// and a session that knows them.
+struct Banco {
+  Banco();
+
+  Sessione sessione;
+  DiscoInMemoria disco;
+  DialoghiDiProva dialoghi;
+  FinestreDiProva finestre;
+  ProcessiDiProva processi;
+  ImpostazioniInMemoria impostazioni;
+  AppuntiDiProva appunti;
+  OrologioFermo orologio;
+  Ambiente ambiente{sessione, disco, dialoghi, finestre, processi, impostazioni, appunti, orologio};
+
+  // Opens a libretto's text and lists it.
+  void Apri(const std::string& testo, const std::string& nome = "C:\\LIBRETTO.DAT");
+  [[nodiscard]] std::vector<std::string> Righe() const;
+};
+
+// The rows of a list as texts of their own.
+[[nodiscard]] std::vector<std::string> Copia(const ListaRighe& righe);
+[[nodiscard]] ListaRighe Lista(const std::vector<std::string>& righe);
+
+// Rows joined as a file holds them, each with its line end.
+[[nodiscard]] std::string Testo(const std::vector<std::string>& righe);
+
+// A small installation: PREGEO.INI, Pregeo.EXE and the tables of three comuni.
+void MettiInstallazione(DiscoInMemoria& disco);
+
+} // namespace lirmeto::prova
