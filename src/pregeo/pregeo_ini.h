@@ -1,0 +1,24 @@
+#pragma once
+// PREGEO.INI: where Pregeo is installed and who the surveyor is.
+
+#include <core/ambiente.h>
+
+#include <string>
+
+namespace lirmeto {
+
+// Load-time reader: drives, surveyor, version, quality table. Tells of a
+// missing PREGEO.INI or Pregeo.EXE and goes on.
+void LeggiPregeoIni(Ambiente& ambiente);
+
+// Session fields from RighePregeoIni. A line is cut at "=" and its part 1 is
+// the value; keys are found anywhere in the line.
+void SistemaDatiPregeoIni(Sessione& sessione);
+
+// Session fields into RighePregeoIni; lines of other keys pass unchanged.
+void ScriviDatiPregeoIni(Sessione& sessione);
+
+// ScriviDatiPregeoIni, then the file.
+void SalvaPregeoIni(Ambiente& ambiente);
+
+} // namespace lirmeto

@@ -1,0 +1,58 @@
+#include "sostituti/banco.h"
+
+#include <supporto/editor_gen.h>
+
+#include <gtest/gtest.h>
+
+namespace lirmeto {
+namespace {
+
+using prova::Banco;
+using prova::Testo;
+using Righe = std::vector<std::string>;
+
+const std::string Zero = "0|01022024|7|G224|0010|1|ROSSI MARIO|GEOMETRA|PADOVA|";
+const std::string Nove = "9|12|10|20|0|VER|FR|TOTALE|";
+
+// Plays the user: changes the box and closes with the answers given.
+void Modifica(Banco& banco, const std::string& testo) {
+  banco.finestre.utente = [&](Modello& modello) {
+    auto& editor = dynamic_cast<KR_EditorGen&>(modello);
+    EXPECT_EQ(banco.sessione.ModoEditor, 381);
+    EXPECT_EQ(editor.Titolo, "Edit Libretto Misure : [247]");
+    EXPECT_EQ(editor.Testo, Testo({Zero, Nove, "8|1|2|3|"}));
+    editor.Testo = testo;
+    while (!editor.Chiudi()) {
+    }
+    EXPECT_TRUE(editor.Chiusa);
+  };
+  subModificaDiretta(banco.ambiente);
+  EXPECT_EQ(banco.sessione.ModoEditor, 0);
+}
+
+TEST(Editor, SiPrendeLeRigheDelRiquadro) {
+  Banco banco;
+  const std::string residuo = "C:\\users\\prova\\Documents\\LIRMETO\\libretto.lib";
+  banco.Apri(Testo({Zero, Nove, "8|1|2|3|"}));
+  banco.disco.Metti(residuo, "x");
+  banco.dialoghi.risposte = {Risposta::Annulla, Risposta::Si}; // Cancel stays, then Yes
+  Modifica(banco, "  8|9|9||  \n\n   \n8|A|\n8|a|\n");
+  EXPECT_EQ(banco.Righe(), (Righe{Zero, Nove, "8|9|9|NOTE:|", "8|A|"})); // rows 0 and 9 come back
+  EXPECT_EQ(banco.dialoghi.detti.size(), 2U);
+  EXPECT_EQ(banco.dialoghi.detti[0].titolo + "/" + banco.dialoghi.detti[0].testo,
+            "Uscita da Editor/Salvare Libretto modificato?");
+  EXPECT_FALSE(banco.disco.Esiste(residuo));
+}
+
+TEST(Editor, NoNonCambiaNulla) {
+  Banco banco;
+  banco.Apri(Testo({Zero, Nove, "8|1|2|3|"}));
+  banco.sessione.List1.Indice(2);
+  banco.dialoghi.risposte = {Risposta::No};
+  Modifica(banco, "8|altro|\r\n");
+  EXPECT_EQ(banco.Righe(), (Righe{Zero, Nove, "8|1|2|3|"}));
+  EXPECT_EQ(banco.sessione.List1.Indice(), 2);
+}
+
+} // namespace
+} // namespace lirmeto
