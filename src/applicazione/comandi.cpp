@@ -1,0 +1,154 @@
+#include <applicazione/comandi.h>
+
+#include <base/testo.h>
+
+#include <array>
+
+namespace lirmeto {
+
+namespace {
+
+constexpr std::array ElencoPulsanti = {
+    Pulsante{10, "Nuovo Libretto Vuoto", "Libretto", Comando::NuovoLibretto},
+    Pulsante{9, "Apri Libretto da File", "Libretto", Comando::NessunaAzione},
+    Pulsante{21, "Apri Libretto da Pregeo", "Libretto", Comando::NessunaAzione},
+    Pulsante{4, "Salva Libretto", "Libretto", Comando::SalvaLibretto},
+    Pulsante{3, "Stampa Libretto", "Libretto", Comando::NessunaAzione},
+    Pulsante{16, "Modifica Diretta del Libretto", "Righe", Comando::ModificaDiretta},
+    Pulsante{14, "Riordino Righe", "Righe", Comando::MostraRiordino},
+    Pulsante{31, "Copia negli Appunti di Windows", "Righe", Comando::NonDisponibile},
+    Pulsante{27, "Seleziona Stazioni", "Selezione", Comando::NonDisponibile},
+    Pulsante{28, "Seleziona Punti Fiduciali", "Selezione", Comando::NonDisponibile},
+    Pulsante{30, "Inverti Selezione", "Selezione", Comando::NonDisponibile},
+    Pulsante{11, "Assegna [VRS]", "GPS", Comando::NonDisponibile},
+    Pulsante{5, "ELIMINA [VRS]", "GPS", Comando::NonDisponibile},
+    Pulsante{18, "Gestione Estratti di Mappa", "Mappa e Censuario", Comando::NonDisponibile},
+    Pulsante{17, "Compila Censuario/Archivio Particelle", "Mappa e Censuario", Comando::NonDisponibile},
+    Pulsante{1, "Importa da Libretto in Pregeo", "Pregeo", Comando::NessunaAzione},
+    Pulsante{7, "Configura Provincia di Pregeo", "Pregeo", Comando::NessunaAzione},
+    Pulsante{6, "Attiva Pregeo", "Pregeo", Comando::AttivaPregeo},
+    Pulsante{24, "Attiva Pregeo", "Pregeo", Comando::NessunaAzione},
+    Pulsante{20, "Gondella Libretti", "Strumenti", Comando::GondellaLibretti},
+    Pulsante{22, "", "Strumenti", Comando::NessunaAzione},
+    Pulsante{23, "", "Strumenti", Comando::NessunaAzione},
+    Pulsante{15, "Mostra DeskTop", "Strumenti", Comando::MostraDesktop},
+    Pulsante{25, "Utilità Catastali"_w, "Strumenti", Comando::UtilitaCatastali},
+};
+
+constexpr std::string_view File = "File";
+constexpr std::string_view Modifica = "Modifica Libretto";
+constexpr std::string_view Cambia = "Cambia";
+constexpr std::string_view Excel = "Da Excel";
+constexpr std::string_view Gondella = "Gondella";
+constexpr std::string_view Utilita = "Utilità"_w;
+constexpr std::string_view Estratti = "Estratti di Mappa";
+constexpr std::string_view Tipologie = "Tipologie Automatizzate";
+constexpr std::string_view Aiuto = "Aiuto";
+
+constexpr std::array ElencoVoci = {
+    VoceMenu{File, {}, "Nuovo Libretto", Comando::NuovoLibretto},
+    VoceMenu{File, {}, "Apri Libretto da Pregeo", Comando::NessunaAzione},
+    VoceMenu{File, {}, "Apri Libretto da File", Comando::NessunaAzione},
+    VoceMenu{File, {}, "Ripristina da Archivio Libretti", Comando::NessunaAzione},
+    VoceMenu{File, {}, "Salva", Comando::SalvaLibretto},
+    VoceMenu{File, {}, "Esporta Libretto", Comando::EsportaLibretto},
+    VoceMenu{File, {}, "Stampa Libretto", Comando::NessunaAzione},
+    VoceMenu{File, {}, "Seleziona Font", Comando::SelezionaFont},
+    VoceMenu{File, {}, "Kill Pregeo", Comando::KillPregeo},
+    VoceMenu{File, {}, Separatore, Comando::NessunaAzione},
+    VoceMenu{File, {}, "Chiudi", Comando::Chiudi},
+
+    VoceMenu{Modifica, {}, "Modifica Diretta", Comando::ModificaDiretta},
+    VoceMenu{Modifica, {}, "Riga 0-9", Comando::NessunaAzione},
+    VoceMenu{Modifica, {}, "Riordino Righe", Comando::RiordinoRighe},
+    VoceMenu{Modifica, {}, "Relazione Tecnica", Comando::NessunaAzione},
+    VoceMenu{Modifica, {}, "Modello Censuario", Comando::NonDisponibile},
+    VoceMenu{Modifica, {}, "Importa Fiduciali da TAF", Comando::NonDisponibile},
+    VoceMenu{Modifica, {}, "Importa Fiduciali da Estratto", Comando::NessunaAzione},
+    VoceMenu{Modifica, {}, "Incolla da Appunti", Comando::IncollaDaAppunti},
+    VoceMenu{Modifica, Cambia, "Descrizione", Comando::NonDisponibile},
+    VoceMenu{Modifica, Cambia, "Seleziona Stazioni", Comando::NonDisponibile},
+    VoceMenu{Modifica, Cambia, "Seleziona Squadri", Comando::NonDisponibile},
+    VoceMenu{Modifica, Cambia, "Seleziona Contorni", Comando::NonDisponibile},
+
+    VoceMenu{Excel, {}, "Righe 8 - (P, N, E)", Comando::NonDisponibile},
+    VoceMenu{Excel, {}, "Righe 8 Nome Auto (N, E)", Comando::NonDisponibile},
+    VoceMenu{Excel, {}, "Righe Complete", Comando::NonDisponibile},
+
+    VoceMenu{Gondella, {}, "Gondella", Comando::GondellaLibretti},
+
+    VoceMenu{Utilita, {}, "Archivia Libretti", Comando::NessunaAzione},
+    VoceMenu{Utilita, {}, "Grafica Pregeo > DXF", Comando::NonDisponibile},
+    VoceMenu{Utilita, {}, "Ricarica da Storico", Comando::NessunaAzione},
+    VoceMenu{Utilita, {}, "PF-VE", Comando::NessunaAzione},
+    VoceMenu{Utilita, {}, "Crea Collegamenti Pregeo", Comando::NonDisponibile},
+    VoceMenu{Utilita, {}, "Info Misurate PF", Comando::NonDisponibile},
+
+    VoceMenu{Estratti, {}, "Gestione Estratti di Mappa", Comando::NonDisponibile},
+
+    VoceMenu{Tipologie, {}, "Informazioni generali - operative - garanzie", Comando::InformazioniGenerali},
+    VoceMenu{Tipologie, {}, "1 Conferma di Mappa con Conferma di Numero (ex 01)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "2 Conferma di Mappa con Variazione di Nunero (ex 02)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "3 Demolizione Totale Fabbricato/i (ex 03)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "4 Demolizione di Corpo/i di fabbricato (ex 04)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "5 Accorpamento Fabbricato alla Corte (ex 05)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "6 Fusione + Particelle, 1 già all' Urbano (ex 06)"_w, Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "7 Nuova Costruzione su intera particella (ex 07)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "8 Nuova costruzione < 20 mq (ex 08)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "9 Ampl. di fabb. < 20 mq e < 50% esistente  (ex 09)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "10 Ampliamento di fabb. < 50% esistente (ex 10)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, Separatore, Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "15 Scorporo fabbricato dalla corte (ex 15)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, Separatore, Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "20 Subalterni di Fabb. Rurale a E.U. (20)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "21 Tutti i subalterni Rurali a E.U. (21)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "22 Tutti i sub. Rurali a E.U. Cambio Numero (22)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, Separatore, Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "24 Demolizione Parziale Fabbricato ex 24)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "27 Fusione+Partic. + Demolizione Totale (ex 27)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, Separatore, Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "Ampliamento di F.R. ad intera particella (MC)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "Ampliamento di E.U. ad intera particella (MA)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "Fusione+partic.+demol.parz.+nuovo numero (MC)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "TM Modesta Entità Variazione Identificativo (TM)"_w, Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "TM Modesta Entità Conferma Identificativo (TM)"_w, Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "Elimina Tratteggiate-Punteggiate (MA)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, Separatore, Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "Passaggio all'urbano di terreno non edificato (MC)", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, Separatore, Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "Libretto per Coordinate da Polilinee DXF", Comando::NessunaAzione},
+    VoceMenu{Tipologie, {}, "Libretto per coordinate da Elaborazione Pregeo", Comando::NonDisponibile},
+
+    VoceMenu{Aiuto, {}, "Informazioni generali - operative - garanzie", Comando::InformazioniGenerali},
+    VoceMenu{Aiuto, {}, "Autore", Comando::NonDisponibile},
+    VoceMenu{Aiuto, {}, "Configurazione", Comando::NonDisponibile},
+    VoceMenu{Aiuto, {}, "Pagina Web", Comando::NonDisponibile},
+};
+
+// The tags that no command answers to do nothing, in the tools panel too.
+constexpr std::array ElencoStrumenti = {
+    Strumento{"Quota Media Comuni Italiani", "QUOTA_MEDIA", Comando::NessunaAzione},
+    Strumento{"Archivio Tecnici", "tecnici", Comando::NessunaAzione},
+    Strumento{"Configurazione di Pregeo", "CONFIGURA_PREGEO", Comando::NonDisponibile},
+    Strumento{"Modulistica/Atti di Aggiornamento", "Modulistica", Comando::NessunaAzione},
+    Strumento{"Esamina/Corregge Proposta di Aggiornamento", "ANTEPRIMA_PROPOSTA", Comando::NessunaAzione},
+    Strumento{"Archivio Libretti Pregeo", "archivio_libretti", Comando::NessunaAzione},
+    Strumento{"Gestione Grafica Archivio PF", "gestione_pf", Comando::NessunaAzione},
+    Strumento{"Archivio Distanze Misurate", "GESTIONE_MISURATE", Comando::NessunaAzione},
+    Strumento{"Cerca nei Libretti in Pregeo", "CERCA_NEI_LIBRETTI", Comando::NessunaAzione},
+    Strumento{"Archivio Libretti di Backup", "STORICO_LIBRETTI", Comando::NessunaAzione},
+};
+
+} // namespace
+
+std::span<const Pulsante> Pulsanti() {
+  return ElencoPulsanti;
+}
+std::span<const VoceMenu> VociMenu() {
+  return ElencoVoci;
+}
+std::span<const Strumento> Strumenti() {
+  return ElencoStrumenti;
+}
+
+} // namespace lirmeto

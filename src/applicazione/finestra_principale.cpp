@@ -1,0 +1,360 @@
+#include <applicazione/finestra_principale.h>
+
+#include <applicazione/avvio.h>
+#include <base/numeri.h>
+#include <base/testo.h>
+#include <core/apertura.h>
+#include <core/mostra_errore.h>
+#include <core/riga.h>
+#include <core/riordino.h>
+#include <core/salvataggio.h>
+#include <core/servizi.h>
+#include <core/zero_nove.h>
+#include <pregeo/tecnico.h>
+#include <supporto/editor_gen.h>
+
+#include <array>
+
+namespace lirmeto {
+
+namespace {
+
+constexpr std::string_view FormIntestazione = "FormCatasto1TXT";
+
+constexpr std::array<std::string_view, 9> TestiOpzioni = {
+    "Avvisa Protocollo NON Numerico",
+    "Avvisa Assenza Relazione Tecnica",
+    "Avvisa Assenza Modello Censuario",
+    "Riordino Righe",
+    "Attiva Backup Libretti con Pregeo",
+    "Associa e stralcia Mappali di Riga 0",
+    "Aggiorna Config. Pregeo (Dati Tecnico)",
+    "Elabora con Pregeo",
+    "Attiva Pregeo",
+};
+
+// The owners' text as a file of visure holds it, without the line ends around
+// it. The chain of replacements is what tells which ends are cut: bars become
+// blanks on the way.
+std::string DittaDaVisura(std::string_view testo) {
+  const std::string piatto = Sostituisci(Sostituisci(testo, " ", "|"), FineRiga, " ");
+  return Sostituisci(Sostituisci(Taglia(piatto), " ", FineRiga), "|", " ");
+}
+
+// Whether a value of CONFIGURACARATTERE.INI says yes: 0 and False do not.
+bool Vero(std::string_view testo) {
+  return Valore(testo) != 0 || Contiene(Maiuscolo(testo), "TRUE");
+}
+
+std::string TestoVero(bool si) {
+  return si ? "-1" : "0";
+}
+
+std::string TestoInformazioni() {
+  constexpr std::array<std::string_view, 5> frasi = {
+      "Si avvisa l'utente che l'utilizzo di queste Casistiche automatizzate "
+      "abbisogna di una conoscenza preventiva ed "
+      "approndita.",
+      "Inoltre non si garantisce che la soluzione proposta possa funzionare in "
+      "tutti i casi, in tutte le situazioni e "
+      "con qualsiasi Estratto di Mappa.",
+      "Sarà cura ed onere dell'utente approfondire le tematiche quì risolte e "
+      "mettere in atto tutte le tutele "
+      "necessarie."_w,
+      "Non sarà in ogni caso imputabile agli Autori la sospensione o non "
+      "approvazione di Tipi redatti con la seguente "
+      "procedura."_w,
+      "Si ringrazia fin d'ora quanti vorranno segnalare errori, "
+      "malfunzionamenti o proporre suggerimenti."};
+  return Unisci({frasi.begin(), frasi.end()}, FineRiga);
+}
+
+bool EstensioneLibretto(std::string_view percorso) {
+  return FinisceConSenzaCaso(percorso, ".TXT") || FinisceConSenzaCaso(percorso, ".DAT") ||
+         FinisceConSenzaCaso(percorso, ".LXB");
+}
+
+} // namespace
+
+KR_LibrettoOriginale::KR_LibrettoOriginale(Ambiente& ambiente) : ambiente_(ambiente) {
+  for (const auto testo : TestiOpzioni) Opzioni.push_back({std::string(testo), true});
+}
+
+void KR_LibrettoOriginale::Prova(const std::function<void()>& comando) {
+  (void)Intrappola(ambiente_, comando);
+}
+
+bool KR_LibrettoOriginale::Avvia(const std::string& comandoAvvio) {
+  PreparaCartelle(ambiente_);
+  ScriviCartellaDocumenti(ambiente_);
+  if (ambiente_.processi.Elenca("Lirmeto.exe").size() > 1) {
+    ambiente_.dialoghi.Messaggio("Modulo già attivo!"_w);
+    // Ends every process of that name, this one too: the way of clearing an
+    // instance that hangs.
+    TerminaProcesso(ambiente_, "Lirmeto.exe");
+    return false;
+  }
+  Carica(comandoAvvio);
+  return true;
+}
+
+void KR_LibrettoOriginale::Carica(const std::string& comandoAvvio) {
+  Sessione& sessione = ambiente_.sessione;
+  Titolo = "Lirmeto V. 2022 - " + std::string(NumeroRevisione);
+  CaricaInstallazione(ambiente_);
+  CreaCartelle(ambiente_);
+  Prova([&] {
+    ambiente_.disco.Scrivi(sessione.CartellaProgramma + "\\VersioneLirmeto.TXT",
+                           "Ver 6.00 " + std::string(NumeroMaggiore) + "." + std::string(NumeroRevisione) + "\r\n");
+  });
+  sessione.ComandoTag = comandoAvvio;
+  if (comandoAvvio.empty())
+    sessione.ComandoTag = sessione.CartellaProgramma + "\\NUOVO.DAT"; // nobody reads it as a command
+  else
+    Prova([&] { ApriLibretto(ambiente_, comandoAvvio); });
+  sessione.PuntoErrore = "1013";
+  Prova([&] { LeggiCarattere(); });
+  TerminaPregeo(ambiente_);
+  Prova([&] { DecoZeroNove(ambiente_); });
+  Prova([&] { CaricaTecnico(ambiente_, sessione.Tecnico + ".PFS"); });
+  Prova([&] { CaricaLibrettoInList1(ambiente_); });
+  sessione.PuntoErrore = "Decozero_136";
+  Prova([&] { LeggiDitta(); });
+  sessione.PuntoErrore = "Decozero_141";
+  MostraSessione();
+}
+
+void KR_LibrettoOriginale::LeggiDitta() {
+  Sessione& sessione = ambiente_.sessione;
+  const std::string percorso =
+      sessione.RadiceDati + "\\FIDUCIAL\\VISURE\\" + ComponenteFile(sessione.NomeFascicolo + ".VIS");
+  if (ambiente_.disco.Esiste(percorso)) sessione.Ditta = DittaDaVisura(CaricaFileIntero(ambiente_, percorso));
+}
+
+// Boxes and labels from the session.
+void KR_LibrettoOriginale::MostraSessione() {
+  const Sessione& sessione = ambiente_.sessione;
+  CasellaDitta = Maiuscolo(sessione.Ditta);
+  EtichettaMisurate = "Misurate associate : " + sessione.MisurateAssociate;
+  SiglaPulsanteProvincia = sessione.SiglaProvincia;
+  Aggiornami();
+}
+
+void KR_LibrettoOriginale::Aggiornami() {
+  const Sessione& sessione = ambiente_.sessione;
+  CasellaIscrizione = sessione.NumeroIscrizione;
+  CasellaCodiceFiscale = sessione.CodiceFiscale;
+  EtichettaFile = sessione.NomeFileLibretto;
+  EtichettaVersione = "Pregeo 10-G,STDA "; // a version text would follow; none is stored
+  EtichettaEstratto = "Estratto : " + sessione.EstrattoAssociato;
+}
+
+void KR_LibrettoOriginale::Attivazione(bool minimizzata) {
+  ambiente_.sessione.PuntoErrore = "1010";
+  EtichettaEstratto = "Estratto : " + ambiente_.sessione.EstrattoAssociato;
+  if (minimizzata) return;
+  Righe_Indice();
+  ambiente_.sessione.PuntoErrore = "1011";
+  CasellaDitta = Maiuscolo(ambiente_.sessione.Ditta);
+}
+
+void KR_LibrettoOriginale::Righe_Indice() {
+  Sessione& sessione = ambiente_.sessione;
+  sessione.PuntoErrore = "1134";
+  Titolo = "Lirmeto V 5.00 - L'Evoluzione - Libretto Misure : [" + sessione.Protocollo + " " + sessione.DataLibretto +
+           "] [CF Comune : " + sessione.CodiceComune + " - " + sessione.NomeComune +
+           "] [Provincia : " + sessione.NomeProvincia + "]";
+  sessione.EtichettaPosizione =
+      TestoIntero(sessione.List1.Indice() + 1) + "/" + TestoIntero(static_cast<long long>(sessione.List1.Quante()));
+  PannelloStrumenti = false;
+  EtichettaFile = sessione.NomeFileLibretto;
+}
+
+void KR_LibrettoOriginale::PuntatoreSuPulsante(int indice) {
+  PannelloStrumenti = indice == PulsanteUtilita;
+}
+
+bool KR_LibrettoOriginale::Disponibile(Comando comando) const {
+  if (comando == Comando::NuovoLibretto) return ambiente_.finestre.Disponibile(FormIntestazione);
+  return comando != Comando::NonDisponibile;
+}
+
+void KR_LibrettoOriginale::Esegui(Comando comando) {
+  Prova([&] {
+    switch (comando) {
+    case Comando::NessunaAzione:
+    case Comando::NonDisponibile:
+      break;
+    case Comando::NuovoLibretto:
+      return NuovoLibretto();
+    case Comando::SalvaLibretto:
+      SalvaLibrettoMisure(ambiente_);
+      break;
+    case Comando::EsportaLibretto:
+      EsportaLibrettoInFile(ambiente_);
+      break;
+    case Comando::SelezionaFont:
+      return SelezionaCarattere();
+    case Comando::KillPregeo:
+      return TerminaPregeo(ambiente_);
+    case Comando::Chiudi:
+      Finita = true;
+      break;
+    case Comando::ModificaDiretta:
+      return ModificaRiga();
+    case Comando::MostraRiordino:
+      return MostraRiordino();
+    case Comando::RiordinoRighe:
+      AggiornaLibrettoMisure(ambiente_);
+      return subRiordinoRighe(ambiente_);
+    case Comando::IncollaDaAppunti:
+      return IncollaDaAppunti();
+    case Comando::MostraDesktop:
+      return ambiente_.processi.MostraDesktop();
+    case Comando::GondellaLibretti:
+      return AvviaGondella("GondellaLibretti.exe");
+    case Comando::AttivaPregeo:
+      return AvviaGondella("Dervola.exe");
+    case Comando::UtilitaCatastali:
+      PannelloStrumenti = true;
+      break;
+    case Comando::InformazioniGenerali:
+      return ambiente_.dialoghi.Messaggio(TestoInformazioni());
+    }
+  });
+}
+
+void KR_LibrettoOriginale::NuovoLibretto() {
+  ambiente_.sessione.Libretto.clear();
+  ambiente_.sessione.Ditta.clear();
+  CaricaLibrettoInList1(ambiente_);
+  ambiente_.sessione.PuntoErrore = "Decozero_131";
+  ApriIntestazione();
+}
+
+void KR_LibrettoOriginale::MostraRiordino() {
+  AggiornaLibrettoMisure(ambiente_);
+  FormRiordinoRighe form(ambiente_);
+  form.AlCaricamento();
+  ambiente_.finestre.MostraModale(form);
+}
+
+void KR_LibrettoOriginale::ModificaRiga() {
+  AggiornaLibrettoMisure(ambiente_);
+  subModificaDiretta(ambiente_);
+}
+
+void KR_LibrettoOriginale::IncollaDaAppunti() {
+  ambiente_.sessione.Libretto = ambiente_.appunti.Testo();
+  CaricaLibrettoInList1(ambiente_);
+}
+
+void KR_LibrettoOriginale::AvviaGondella(std::string_view programma) {
+  AttendiProgramma(ambiente_, ambiente_.sessione.CartellaProgrammi + "\\Gondella\\" + std::string(programma), {});
+}
+
+void KR_LibrettoOriginale::SelezionaCarattere() {
+  const Carattere scelto = ambiente_.dialoghi.ScegliCarattere(CarattereElenco);
+  CarattereElenco = scelto;
+  ambiente_.disco.Scrivi(ambiente_.sessione.CartellaProgramma + "\\CONFIGURACARATTERE.INI",
+                         TestoPieno(scelto.dimensione) + ",\"" + scelto.nome + "\"," + TestoVero(scelto.grassetto) +
+                             "," + TestoVero(scelto.corsivo) + "\r\n");
+}
+
+// Four values at commas: size in points, name, bold, italic. What makes no
+// sense leaves the font as it is.
+void KR_LibrettoOriginale::LeggiCarattere() {
+  const std::string percorso = ambiente_.sessione.CartellaProgramma + "\\CONFIGURACARATTERE.INI";
+  if (!ambiente_.disco.Esiste(percorso)) return;
+  const std::string testo = Sostituisci(CaricaFileIntero(ambiente_, percorso), "\"", "");
+  const auto valori = Dividi(Parte(testo, '\r', 0), ",");
+  constexpr double minima = 4;
+  constexpr double massima = 72;
+  if (valori.size() < 4 || Valore(valori[0]) < minima || Valore(valori[0]) > massima) return;
+  CarattereElenco = {Valore(valori[0]), std::string(Taglia(valori[1])), Vero(valori[2]), Vero(valori[3])};
+}
+
+void KR_LibrettoOriginale::ApriIntestazione() {
+  if (!ApriForm(ambiente_, FormIntestazione) || ambiente_.sessione.EsitoForm < 0) return;
+  MostraSessione();
+}
+
+void KR_LibrettoOriginale::DoppioClick(std::size_t riga) {
+  if (riga >= ambiente_.sessione.List1.Quante()) return;
+  const std::string testo(ambiente_.sessione.List1.Riga(riga));
+  const double genere = GenereRiga(testo);
+  Prova([&] {
+    if (genere == 0 || genere == 9 || (genere == 6 && Contiene(testo, "DettaglioTipoAgg"))) return ApriIntestazione();
+    if (genere == 8 && Parte(testo, '|', 1).starts_with("PF"))
+      return ambiente_.dialoghi.Messaggio(NonAncoraDisponibile); // the measured distances of the fiducial point
+    ModificaRiga();
+  });
+}
+
+void KR_LibrettoOriginale::TastoInvio(std::size_t riga) {
+  if (riga >= ambiente_.sessione.List1.Quante()) return;
+  const double genere = GenereRiga(ambiente_.sessione.List1.Riga(riga));
+  Prova([&] {
+    if (genere == 0 || genere == 9) return ApriIntestazione();
+    ModificaRiga();
+  });
+}
+
+void KR_LibrettoOriginale::TastoCancella() {
+  constexpr std::size_t righeFisse = 2; // rows 0 and 9 always stay
+  Prova([&] {
+    if (ambiente_.dialoghi.Chiedi("Eliminare le Righe selezionate?", "Elimina righe dal Libretto", Bottoni::SiNo) !=
+        Risposta::Si)
+      return;
+    ambiente_.sessione.List1.TogliSelezionate(righeFisse);
+    AggiornaLibrettoMisure(ambiente_);
+  });
+}
+
+void KR_LibrettoOriginale::Trascina(const std::string& percorso) {
+  const bool pdf = FinisceConSenzaCaso(percorso, ".PDF");
+  if (pdf || EstensioneLibretto(percorso)) return TrascinaLibretto(percorso);
+  ambiente_.dialoghi.Messaggio(FinisceConSenzaCaso(percorso, ".DXF") ? "Processo non attivo!"
+                                                                     : "Ammessi file di Testo: .TXT, .DAT, .LXB, .PDF");
+}
+
+void KR_LibrettoOriginale::TrascinaLibretto(const std::string& percorso) {
+  const Risposta risposta =
+      ambiente_.dialoghi.Chiedi("Sostituire il Libretto Esistente?", "Trascina Libretto", Bottoni::SiNo);
+  if (risposta != Risposta::Si) return;
+  Prova([&] {
+    ApriLibretto(ambiente_, percorso);
+    CaricaLibrettoInList1(ambiente_);
+    ambiente_.sessione.PuntoErrore = FinisceConSenzaCaso(percorso, ".PDF") ? "Decozero_138" : "Decozero_137";
+    MostraSessione();
+  });
+}
+
+void KR_LibrettoOriginale::CambiaIscrizione(std::string_view testo) {
+  CasellaIscrizione = testo;
+  ambiente_.sessione.NumeroIscrizione = testo;
+}
+
+void KR_LibrettoOriginale::CambiaCodiceFiscale(std::string_view testo) {
+  CasellaCodiceFiscale = Maiuscolo(testo);
+  ambiente_.sessione.CodiceFiscale = CasellaCodiceFiscale;
+}
+
+void KR_LibrettoOriginale::CambiaDitta(std::string_view testo) {
+  CasellaDitta = Maiuscolo(testo);
+  ambiente_.sessione.Ditta = CasellaDitta;
+}
+
+void KR_LibrettoOriginale::Chiusura(const PosizioneForm& posizione) {
+  Prova([&] { AggiornaLibrettoMisure(ambiente_); });
+  ambiente_.sessione.Ditta = Maiuscolo(CasellaDitta);
+  const std::string nome = "KR_LibrettoOriginale";
+  ambiente_.impostazioni.Scrivi("POSIZIONE_FORMx", nome, TestoIntero(posizione.sinistra));
+  ambiente_.impostazioni.Scrivi("POSIZIONE_FORMy", nome, TestoIntero(posizione.alto));
+  ambiente_.impostazioni.Scrivi("FORMx", nome, TestoIntero(posizione.larghezza));
+  ambiente_.impostazioni.Scrivi("FORMy", nome, TestoIntero(posizione.altezza));
+  SalvaLibrettoMisure(ambiente_);
+  Finita = true;
+}
+
+} // namespace lirmeto

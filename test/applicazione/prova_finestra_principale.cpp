@@ -1,0 +1,244 @@
+#include "sostituti/banco.h"
+
+#include <applicazione/finestra_principale.h>
+#include <base/errore.h>
+#include <base/testo.h>
+#include <core/riordino.h>
+#include <supporto/editor_gen.h>
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace lirmeto {
+namespace {
+
+using prova::Banco;
+using prova::Testo;
+using Righe = std::vector<std::string>;
+
+const std::string Zero = "0|01022024|7|G224|0010|12,3|ROSSI MARIO|GEOMETRA|PADOVA|";
+const std::string Nove = "9|12|10|20|0|VER|FR|TOTALE|";
+const std::string Programma = "C:\\users\\prova\\Documents\\LIRMETO";
+
+struct Sala : Banco {
+  KR_LibrettoOriginale finestra{ambiente};
+  Sala() {
+    disco.Metti("C:\\ACT.DAT",
+                Testo({Zero, Nove, "6|commento|", "1|1|1.5|N|", "2|2|1|2|3|1|N|", "8|PF01/0010/G224|1|2|3|x|"}));
+  }
+  [[nodiscard]] std::string Domanda() const { return dialoghi.detti.back().titolo + "/" + dialoghi.UltimoTesto(); }
+};
+
+TEST(Avvio, ApreIlLibrettoEPreparaLaSessione) {
+  Sala sala;
+  sala.disco.cartelle.insert(sala.disco.cartelle.end(), {"C:\\FIDUCIAL", "C:\\FIDUCIAL\\VISURE"});
+  sala.disco.Metti("C:\\FIDUCIAL\\VISURE\\2024_ROSSI MARIO_S_FR_7_G224_0010_12_3.VIS",
+                   "\r\n\r\nRossi  Mario\r\nvia Po\r\n\r\n");
+  sala.disco.Metti(Programma + "\\TECNICI\\ROSSI MARIO.PFS",
+                   "\"ROSSI "
+                   "MARIO\",\"INGEGNERE\",\r\n,,\r\n\"55\",\"CFX\"\r\nROSSI\r\nMARIO\r\n");
+  ASSERT_TRUE(sala.finestra.Avvia("C:\\ACT.DAT"));
+  EXPECT_EQ(sala.disco.Contenuto("C:\\users\\prova\\Temp\\CARTELLADOCUMENTI.TXT"), Programma + "\r\n");
+  EXPECT_TRUE(sala.disco.Contenuto(Programma + "\\VersioneLirmeto.TXT").starts_with("Ver 6.00 6."));
+  EXPECT_EQ(sala.Righe().size(), 6U);
+  EXPECT_EQ(sala.sessione.NumeroIscrizione,
+            "55"); // the surveyor's file comes after PREGEO.INI
+  EXPECT_EQ(sala.sessione.Ditta, "Rossi  Mario\r\nvia Po");
+  EXPECT_EQ(sala.finestra.CasellaDitta, "ROSSI  MARIO\r\nVIA PO");
+  EXPECT_EQ(sala.finestra.EtichettaMisurate, "Misurate associate : G224.DDD");
+  EXPECT_EQ(sala.finestra.SiglaPulsanteProvincia, "PD");
+  EXPECT_EQ(sala.finestra.Opzioni.size(), 9U);
+  EXPECT_TRUE(sala.disco.EsisteCartella(Programma + "\\MODELLI_STAMPA"));
+  EXPECT_TRUE(sala.dialoghi.detti.empty()) << sala.dialoghi.UltimoTesto();
+  sala.finestra.Attivazione(false);
+  EXPECT_EQ(sala.finestra.Titolo, "Lirmeto V 5.00 - L'Evoluzione - Libretto Misure : [7 01022024] "
+                                  "[CF Comune : G224 - PADOVA] "
+                                  "[Provincia : PADOVA]");
+  EXPECT_EQ(sala.sessione.EtichettaPosizione, "0/6");
+}
+
+TEST(Avvio, SenzaPregeoESenzaLibretto) {
+  Sala sala;
+  sala.disco.file.clear();
+  ASSERT_TRUE(sala.finestra.Avvia(""));
+  EXPECT_EQ(sala.dialoghi.detti[0].testo, "PREGEO.INI NON trovato - Verificare installazione Pregeo!");
+  EXPECT_EQ(sala.sessione.NomeFileLibretto, "");
+  EXPECT_EQ(sala.Righe(), (Righe{"0|21112026|1|G693|0010|1|COGNOME NOME|GEOMETRA|PADOVA|",
+                                 "9|20|10|20|1070|10.00-G,STDA 2.08|18|TIPO SENZA GEOMETRIA|"}));
+}
+
+TEST(Avvio, UnSecondoAvvioLiTerminaTutti) {
+  Sala sala;
+  sala.processi.vivi["Lirmeto.exe"] = {5, 1};
+  EXPECT_FALSE(sala.finestra.Avvia(""));
+  EXPECT_EQ(sala.dialoghi.UltimoTesto(), "Modulo già attivo!"_w);
+  EXPECT_EQ(sala.processi.terminati, (std::vector<long>{5, 1}));
+}
+
+TEST(Avvio, UnFileIllegginileNonDiventaIlLibretto) {
+  Sala sala;
+  sala.disco.rotti["C:\\ACT.DAT"] = errore::AutorizzazioneNegata;
+  ASSERT_TRUE(sala.finestra.Avvia("C:\\ACT.DAT"));
+  EXPECT_EQ(sala.dialoghi.detti.back().titolo, "Rilevato errore");
+  EXPECT_EQ(sala.sessione.NomeFileLibretto, "");
+  EXPECT_EQ(sala.Righe().size(), 2U);
+}
+
+TEST(Elenco, CancellaSoloDopoLaDomandaEMaiLePrimeDue) {
+  Sala sala;
+  sala.finestra.Avvia("C:\\ACT.DAT");
+  sala.sessione.List1.SelezionaIntervallo(0, 4, true);
+  sala.finestra.TastoCancella();
+  EXPECT_EQ(sala.Domanda(), "Elimina righe dal Libretto/Eliminare le Righe selezionate?");
+  EXPECT_EQ(sala.Righe().size(), 6U);
+  sala.dialoghi.risposte = {Risposta::Si};
+  sala.finestra.TastoCancella();
+  EXPECT_EQ(sala.Righe(), (Righe{Zero, Nove, "8|PF01/0010/G224|1|2|3|x|"}));
+  EXPECT_EQ(sala.sessione.Libretto, Testo(sala.Righe()));
+}
+
+struct CasoTrascina {
+  std::string percorso;
+  std::string detto; // title/text of what is said
+};
+
+class Trascina : public testing::TestWithParam<CasoTrascina> {};
+
+TEST_P(Trascina, PerEstensione) {
+  Sala sala;
+  sala.finestra.Avvia("C:\\ACT.DAT");
+  sala.finestra.Trascina(GetParam().percorso);
+  EXPECT_EQ(sala.Domanda(), GetParam().detto);
+  EXPECT_EQ(sala.sessione.NomeFileLibretto, "C:\\ACT.DAT");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Casi, Trascina,
+    testing::Values(CasoTrascina{"C:\\a.Txt", "Trascina Libretto/Sostituire il Libretto Esistente?"},
+                    CasoTrascina{"C:\\a.LXB", "Trascina Libretto/Sostituire il Libretto Esistente?"},
+                    CasoTrascina{"C:\\a.pdf", "Trascina Libretto/Sostituire il Libretto Esistente?"},
+                    CasoTrascina{"C:\\a.dxf", "Lirmeto/Processo non attivo!"},
+                    CasoTrascina{"C:\\a", "Lirmeto/Ammessi file di Testo: .TXT, .DAT, .LXB, .PDF"}));
+
+TEST(Trascina, SiSostituisceEMostraLaDitta) {
+  Sala sala;
+  sala.finestra.Avvia("C:\\ACT.DAT");
+  sala.disco.Metti("C:\\ALTRO.PDF",
+                   "[TAG1000]|" + Zero + "<nr>" + Nove + "[/TAG][TAG2000]|8|1|1|1|[/TAG][TAG4000]|Neri[/TAG]");
+  sala.dialoghi.risposte = {Risposta::Si};
+  sala.finestra.Trascina("C:\\Altro.pdf");
+  EXPECT_EQ(sala.Righe(), (Righe{Zero, Nove, "8|1|1|1|"}));
+  EXPECT_EQ(sala.finestra.EtichettaFile, "C:\\ALTRO.TXT");
+  EXPECT_EQ(sala.finestra.CasellaDitta, "NERI");
+  EXPECT_FALSE(sala.disco.Esiste("C:\\ALTRO.TXT")) << "nothing is written before a save";
+}
+
+struct CasoApri {
+  std::size_t riga;
+  bool invio;
+  std::string aperto; // "editor", "intestazione", "messaggio"
+};
+
+class ApriRiga : public testing::TestWithParam<CasoApri> {};
+
+TEST_P(ApriRiga, DoppioClickEInvio) {
+  Sala sala;
+  sala.disco.Metti("C:\\ACT.DAT", Testo({Zero, Nove, "6|DettaglioTipoAgg=1|", "8|PF01/0010/G224|1|2|3|", "8|1|2|3|"}));
+  sala.finestra.Avvia("C:\\ACT.DAT");
+  sala.finestre.disponibili = {"FormCatasto1TXT"};
+  std::string aperto;
+  sala.finestre.utente = [&](Modello& modello) { aperto = dynamic_cast<KR_EditorGen*>(&modello) ? "editor" : "altro"; };
+  if (GetParam().invio)
+    sala.finestra.TastoInvio(GetParam().riga);
+  else
+    sala.finestra.DoppioClick(GetParam().riga);
+  if (!sala.finestre.aperte.empty()) aperto = "intestazione";
+  if (sala.dialoghi.UltimoTesto() == NonAncoraDisponibile) aperto = "messaggio";
+  EXPECT_EQ(aperto, GetParam().aperto);
+}
+
+INSTANTIATE_TEST_SUITE_P(Casi, ApriRiga,
+                         testing::Values(CasoApri{0, false, "intestazione"}, CasoApri{1, false, "intestazione"},
+                                         CasoApri{2, false, "intestazione"}, CasoApri{3, false, "messaggio"},
+                                         CasoApri{4, false, "editor"}, CasoApri{99, false, ""},
+                                         CasoApri{0, true, "intestazione"}, CasoApri{2, true, "editor"},
+                                         CasoApri{3, true, "editor"}, CasoApri{99, true, ""}));
+
+TEST(Comandi, IncollaRiordinaESalva) {
+  Sala sala;
+  sala.finestra.Avvia("C:\\ACT.DAT");
+  sala.appunti.testo = Testo({"8|2|2|2|", Zero, "6|a|b|", Nove, "1|1|1.5|N|"}) + "8|dopo l'ultima fine riga|";
+  sala.finestra.Esegui(Comando::IncollaDaAppunti);
+  EXPECT_EQ(sala.Righe().size(),
+            7U); // rows 0 and 9 are put before what is not theirs
+  sala.finestra.Esegui(Comando::RiordinoRighe);
+  EXPECT_EQ(sala.sessione.PuntoErrore, "Decozero_116");
+  EXPECT_EQ(sala.Righe().back(), "8|2|2|2|");
+  sala.finestra.Esegui(Comando::SalvaLibretto);
+  EXPECT_TRUE(sala.disco.Contenuto("C:\\ACT.DAT").starts_with(sala.sessione.Libretto));
+}
+
+TEST(Comandi, IlDialogoDiRiordinoVedeLeRigheDellElenco) {
+  Sala sala;
+  sala.finestra.Avvia("");
+  sala.sessione.List1.Aggiungi("8|nuova|1|2|");
+  sala.finestre.utente = [&](Modello& modello) {
+    auto& form = dynamic_cast<FormRiordinoRighe&>(modello);
+    form.AllAttivazione();
+    EXPECT_EQ(form.List8, (ListaRighe{"8|nuova|1|2|"}));
+    form.Chiudi();
+  };
+  sala.finestra.Esegui(Comando::MostraRiordino);
+  EXPECT_EQ(sala.sessione.EsitoForm, -1);
+}
+
+TEST(Comandi, ProgrammiCaratterePannello) {
+  Sala sala;
+  sala.finestra.Avvia("");
+  sala.finestra.Esegui(Comando::GondellaLibretti);
+  sala.finestra.Esegui(Comando::AttivaPregeo);
+  EXPECT_EQ(sala.processi.avviati, (Righe{"C:\\Program Files (x86)\\Gondella\\GondellaLibretti.exe",
+                                          "C:\\Program Files (x86)\\Gondella\\Dervola.exe"}));
+  sala.dialoghi.carattereScelto = {12.5, "Liberation Mono", true, false};
+  sala.finestra.Esegui(Comando::SelezionaFont);
+  EXPECT_EQ(sala.disco.Contenuto(Programma + "\\CONFIGURACARATTERE.INI"), "12.5,\"Liberation Mono\",-1,0\r\n");
+  KR_LibrettoOriginale altra(sala.ambiente);
+  altra.Avvia("");
+  EXPECT_EQ(altra.CarattereElenco, sala.dialoghi.carattereScelto);
+  sala.finestra.PuntatoreSuPulsante(PulsanteUtilita);
+  EXPECT_TRUE(sala.finestra.PannelloStrumenti);
+  sala.finestra.PuntatoreSuPulsante(4);
+  EXPECT_FALSE(sala.finestra.PannelloStrumenti);
+  sala.finestra.Esegui(Comando::UtilitaCatastali);
+  sala.finestra.Righe_Indice();
+  EXPECT_FALSE(sala.finestra.PannelloStrumenti);
+  EXPECT_FALSE(sala.finestra.Disponibile(Comando::NuovoLibretto));
+  sala.finestre.disponibili = {"FormCatasto1TXT"};
+  EXPECT_TRUE(sala.finestra.Disponibile(Comando::NuovoLibretto));
+}
+
+TEST(Chiusura, ScriveIlFileELaPosizione) {
+  Sala sala;
+  sala.finestra.Avvia("C:\\ACT.DAT");
+  sala.finestra.CambiaDitta("rossi");
+  sala.finestra.CambiaCodiceFiscale("abc");
+  sala.finestra.CambiaIscrizione("9");
+  sala.finestra.Chiusura({1, 2, 300, 400});
+  const std::string scritto = sala.disco.Contenuto("C:\\ACT.DAT");
+  EXPECT_TRUE(scritto.ends_with("6|<EST>|\r\n6|<COD>ABC|\r\n6|<ISC>9|\r\n6|<DIT>ROSSI|\r\n\r\n")) << scritto;
+  EXPECT_EQ(sala.impostazioni.valori["POSIZIONE_FORMx/KR_LibrettoOriginale"], "1");
+  EXPECT_EQ(sala.impostazioni.valori["FORMy/KR_LibrettoOriginale"], "400");
+  EXPECT_TRUE(sala.finestra.Finita);
+}
+
+TEST(Tabelle, OgniPulsanteUnaVolta) {
+  std::set<int> indici;
+  for (const auto& pulsante : Pulsanti()) EXPECT_TRUE(indici.insert(pulsante.indice).second) << pulsante.indice;
+  EXPECT_EQ(indici,
+            (std::set<int>{1, 3, 4, 5, 6, 7, 9, 10, 11, 14, 15, 16, 17, 18, 20, 21, 22, 23, 24, 25, 27, 28, 30, 31}));
+  EXPECT_EQ(Strumenti().size(), 10U);
+}
+
+} // namespace
+} // namespace lirmeto
