@@ -1,0 +1,45 @@
+#pragma once
+// The drives of the logic as folders of the host.
+
+#include <base/macchina.h>
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lirmeto {
+
+// A Disco over a folder that has one subfolder per drive letter: "c", "C", or "c:" as a Wine prefix names them. "Z:" is
+// always the host's root. Host names are UTF-8; a name that Windows-1252 cannot say, or that holds "\" or ":", does not
+// exist here. Nothing is remembered between two calls: other programs work on the same folders.
+//   legal:   "C:\pregeo\x.dat", "c:/pregeo//x.dat", "Z:\home\ada\x.dat", "C:" (the drive's root)
+//   illegal: "pregeo\x.dat", "\pregeo", "C:x.dat", "C:\a\..\b", "C:\a:b" (error 52)
+class DiscoDischi final : public Disco {
+public:
+  explicit DiscoDischi(std::filesystem::path dischi) : dischi_(std::move(dischi)) {}
+
+  [[nodiscard]] bool Esiste(std::string_view percorso) const override;
+  [[nodiscard]] bool EsisteCartella(std::string_view percorso) const override;
+  [[nodiscard]] std::string Leggi(std::string_view percorso) const override;
+  [[nodiscard]] std::string LeggiInizio(std::string_view percorso, std::size_t byte) const override;
+  void Scrivi(std::string_view percorso, std::string_view contenuto) override;
+  void CreaCartella(std::string_view percorso) override;
+  void Copia(std::string_view da, std::string_view a) override;
+  void Elimina(std::string_view percorso) override;
+  [[nodiscard]] std::vector<std::string> Elenca(std::string_view cartella, std::string_view estensione) const override;
+
+  // Where a path lies on the host, whether something stands there or not. Throws Errore 52 for a path that cannot be.
+  [[nodiscard]] std::filesystem::path PercorsoOspite(std::string_view percorso) const;
+
+  [[nodiscard]] const std::filesystem::path& Dischi() const { return dischi_; }
+
+private:
+  std::filesystem::path dischi_;
+};
+
+// A path of the host, made absolute, as "Z:\...". Throws Errore 52 when a component cannot be said: not in
+// Windows-1252, or with "\" or ":" inside.
+[[nodiscard]] std::string PercorsoDaOspite(const std::filesystem::path& ospite);
+
+} // namespace lirmeto

@@ -1,0 +1,26 @@
+#pragma once
+// The machine's clock, and one that stands still.
+
+#include <base/macchina.h>
+
+namespace lirmeto {
+
+// Local date and time.
+class OrologioDiSistema final : public Orologio {
+public:
+  [[nodiscard]] Data Oggi() const override;
+  [[nodiscard]] Ora Adesso() const override;
+};
+
+// Always midnight of one day: runs that can be repeated.
+class OrologioFisso final : public Orologio {
+public:
+  explicit OrologioFisso(const Data& oggi) : oggi_(oggi) {}
+  [[nodiscard]] Data Oggi() const override { return oggi_; }
+  [[nodiscard]] Ora Adesso() const override { return {}; }
+
+private:
+  Data oggi_;
+};
+
+} // namespace lirmeto

@@ -1,0 +1,227 @@
+#include <piattaforma/errori_ospite.h>
+#include <piattaforma/processi_linux.h>
+
+#include <base/errore.h>
+#include <base/testo.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <csignal>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <pwd.h>
+#include <spawn.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace lirmeto {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string NomeUtente() {
+  const passwd* utente = ::getpwuid(::geteuid());
+  return ComponenteSicuro(utente != nullptr ? utente->pw_name : "");
+}
+
+// Attributes and actions of a start, released whatever happens.
+class Avvio {
+public:
+  Avvio() {
+    ::posix_spawnattr_init(&attributi_);
+    ::posix_spawn_file_actions_init(&azioni_);
+    // Signals that this program ignores must not stay ignored in another one.
+    sigset_t segnali;
+    sigemptyset(&segnali);
+    sigaddset(&segnali, SIGPIPE);
+    sigaddset(&segnali, SIGXFSZ);
+    ::posix_spawnattr_setsigdefault(&attributi_, &segnali);
+    ::posix_spawnattr_setflags(&attributi_, POSIX_SPAWN_SETSIGDEF);
+  }
+  Avvio(const Avvio&) = delete;
+  Avvio& operator=(const Avvio&) = delete;
+  ~Avvio() {
+    ::posix_spawn_file_actions_destroy(&azioni_);
+    ::posix_spawnattr_destroy(&attributi_);
+  }
+
+  void Cartella(const fs::path& cartella) { ::posix_spawn_file_actions_addchdir_np(&azioni_, cartella.c_str()); }
+
+  void Muto() {
+    for (const int canale : {STDOUT_FILENO, STDERR_FILENO})
+      ::posix_spawn_file_actions_addopen(&azioni_, canale, "/dev/null", O_WRONLY, 0);
+  }
+
+  // Starts and waits; the answer is the error of the start, 0 when it went.
+  int Esegui(std::vector<std::string> parole, std::vector<std::string> ambiente, bool cercaNelPath) {
+    pid_t figlio = 0;
+    const auto avvia = cercaNelPath ? ::posix_spawnp : ::posix_spawn;
+    const int esito = avvia(&figlio, parole.front().c_str(), &azioni_, &attributi_, Puntatori(parole).data(),
+                            Puntatori(ambiente).data());
+    if (esito != 0) return esito;
+    while (::waitpid(figlio, nullptr, 0) < 0 && errno == EINTR) {
+    }
+    return 0;
+  }
+
+private:
+  static std::vector<char*> Puntatori(std::vector<std::string>& testi) {
+    std::vector<char*> puntatori;
+    puntatori.reserve(testi.size() + 1);
+    for (std::string& testo : testi) puntatori.push_back(testo.data());
+    puntatori.push_back(nullptr);
+    return puntatori;
+  }
+
+  posix_spawnattr_t attributi_{};
+  posix_spawn_file_actions_t azioni_{};
+};
+
+std::vector<std::string> AmbienteConDischi(const fs::path& dischi) {
+  const std::string variabile = "LIRMETO_DISCHI=";
+  std::vector<std::string> ambiente;
+  for (char** voce = ::environ; voce != nullptr && *voce != nullptr; ++voce)
+    if (std::strncmp(*voce, variabile.c_str(), variabile.size()) != 0) ambiente.emplace_back(*voce);
+  std::error_code ignorato;
+  ambiente.push_back(variabile + fs::absolute(dischi, ignorato).string());
+  return ambiente;
+}
+
+constexpr std::string_view EstensioneProgramma = ".exe";
+
+// The executable, "NAME" standing in for a "NAME.exe" that is not there.
+fs::path TrovaProgramma(const DiscoDischi& disco, std::string_view programma) {
+  if (!disco.Esiste(programma) && FinisceConSenzaCaso(programma, EstensioneProgramma))
+    programma.remove_suffix(EstensioneProgramma.size());
+  fs::path ospite = disco.PercorsoOspite(programma);
+  std::error_code guasto;
+  if (!fs::is_regular_file(ospite, guasto)) throw Errore(errore::FileNonTrovato);
+  return fs::absolute(ospite);
+}
+
+std::string_view UltimoComponente(std::string_view percorso) {
+  const std::size_t barra = percorso.find_last_of("/\\");
+  return barra == percorso.npos ? percorso : percorso.substr(barra + 1);
+}
+
+// Whether a process' name is that of the image. Without ".exe" it fits only where the program is known to be of ours: a
+// program of the host that happens to be called "fire" is not Pregeo's fire.exe.
+bool Corrisponde(std::string_view nome, std::string_view immagine, bool nostro) {
+  if (nome.empty()) return false;
+  if (UgualiSenzaCaso(nome, immagine)) return true;
+  return nostro && FinisceConSenzaCaso(immagine, EstensioneProgramma) &&
+         UgualiSenzaCaso(nome, immagine.substr(0, immagine.size() - EstensioneProgramma.size()));
+}
+
+std::string NomeEseguibile(const fs::path& processo) {
+  constexpr std::string_view cancellato = " (deleted)"; // the file went while the process ran
+  std::error_code guasto;
+  std::string nome = fs::read_symlink(processo / "exe", guasto).string();
+  if (FinisceConSenzaCaso(nome, cancellato)) nome.resize(nome.size() - cancellato.size());
+  return DaUtf8(UltimoComponente(nome));
+}
+
+std::string NomeChiamato(const fs::path& processo) {
+  std::ifstream riga(processo / "cmdline", std::ios::binary);
+  std::string nome;
+  std::getline(riga, nome, '\0');
+  return DaUtf8(UltimoComponente(nome));
+}
+
+// Whether a process runs this very program, or one that lies under the drives.
+bool Nostro(const fs::path& processo, const fs::path& dischi) {
+  std::error_code guasto;
+  const std::string programma = fs::read_symlink(processo / "exe", guasto).string();
+  if (guasto) return false;
+  const fs::path questo = fs::read_symlink("/proc/self/exe", guasto);
+  return UltimoComponente(programma) == questo.filename().string() ||
+         programma.starts_with(fs::weakly_canonical(dischi, guasto).string() + "/");
+}
+
+bool StessoUtente(const fs::path& processo) {
+  struct stat stato {};
+  return ::stat(processo.c_str(), &stato) == 0 && stato.st_uid == ::geteuid();
+}
+
+// The number of a folder of /proc; 0 for one that is no process.
+long NumeroProcesso(const fs::path& cartella) {
+  const std::string nome = cartella.filename().string();
+  long numero = 0;
+  const auto [fine, guasto] = std::from_chars(nome.data(), nome.data() + nome.size(), numero);
+  return guasto == std::errc{} && fine == nome.data() + nome.size() ? numero : 0;
+}
+
+} // namespace
+
+std::string ComponenteSicuro(std::string_view utf8) {
+  std::string nome = DaUtf8(utf8);
+  for (char& lettera : nome)
+    if (static_cast<unsigned char>(lettera) < ' ' || std::strchr("\\/:*?\"<>|", lettera) != nullptr) lettera = '_';
+  return nome.find_first_not_of('.') == nome.npos ? "utente" : nome;
+}
+
+CartelleDiSistema ProcessiLinux::Cartelle() {
+  const std::string casa = "C:\\users\\" + NomeUtente();
+  return {casa + "\\Documents", "C:\\WINDOWS", casa + "\\Temp", "C:\\Program Files (x86)"};
+}
+
+void ProcessiLinux::CreaCartelleDiSistema() {
+  const CartelleDiSistema cartelle = Cartelle();
+  const std::string casa = "C:\\users\\" + NomeUtente();
+  for (const std::string& cartella :
+       {std::string("C:\\users"), casa, cartelle.documenti, cartelle.temporanea, cartelle.windows, cartelle.programmi})
+    if (!disco_.EsisteCartella(cartella)) disco_.CreaCartella(cartella);
+}
+
+void ProcessiLinux::AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti) {
+  const fs::path ospite = TrovaProgramma(disco_, programma);
+  std::vector<std::string> parole{ospite.string()};
+  for (const std::string& argomento : argomenti) {
+    if (argomento.find('\0') != argomento.npos) throw Errore(errore::ArgomentoNonValido);
+    parole.push_back(AUtf8(argomento));
+  }
+  Avvio avvio;
+  avvio.Cartella(ospite.parent_path());
+  const int esito = avvio.Esegui(std::move(parole), AmbienteConDischi(disco_.Dischi()), false);
+  if (esito == ENOEXEC) throw Errore(errore::AutorizzazioneNegata); // a program, but not one of this host
+  if (esito != 0) LanciaErrno(esito, errore::FileNonTrovato);
+}
+
+std::vector<long> ProcessiLinux::Elenca(std::string_view immagine) {
+  std::vector<long> processi;
+  std::error_code guasto;
+  for (fs::directory_iterator i("/proc", guasto), fine; !guasto && i != fine; i.increment(guasto)) {
+    const long numero = NumeroProcesso(i->path());
+    if (numero <= 0 || !StessoUtente(i->path())) continue;
+    const bool nostro = Nostro(i->path(), disco_.Dischi());
+    if (Corrisponde(NomeEseguibile(i->path()), immagine, nostro) ||
+        Corrisponde(NomeChiamato(i->path()), immagine, nostro))
+      processi.push_back(numero);
+  }
+  std::sort(processi.begin(), processi.end());
+  return processi;
+}
+
+long ProcessiLinux::QuestoProcesso() const {
+  return ::getpid();
+}
+
+int ProcessiLinux::Termina(long processo) {
+  if (processo <= 0) return EINVAL; // would reach whole groups of processes
+  return ::kill(static_cast<pid_t>(processo), SIGTERM) == 0 ? 0 : errno;
+}
+
+void ProcessiLinux::MostraDesktop() {
+  Avvio avvio;
+  avvio.Muto();
+  static_cast<void>(avvio.Esegui({"wmctrl", "-k", "on"}, AmbienteConDischi(disco_.Dischi()), true));
+}
+
+} // namespace lirmeto

@@ -1,0 +1,167 @@
+#include <piattaforma/cartella_provvisoria.h>
+#include <piattaforma/orologi.h>
+#include <piattaforma/processi_linux.h>
+
+#include <base/errore.h>
+#include <base/testo.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <ctime>
+#include <spawn.h>
+#include <string>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace lirmeto::prova {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class ProvaProcessi : public testing::Test {
+protected:
+  ProvaProcessi() : disco(cartella.Radice()), processi(disco) {}
+
+  void MettiProgramma(const fs::path& nome, std::string_view testo, mode_t permessi = 0755) const {
+    ::chmod(cartella.Metti(nome, testo).c_str(), permessi);
+  }
+
+  int NumeroDellAvvio(const std::string& programma, const std::vector<std::string>& argomenti = {}) {
+    try {
+      processi.AvviaEAttendi(programma, argomenti);
+    } catch (const Errore& errore) {
+      return errore.Numero();
+    }
+    return 0;
+  }
+
+  CartellaProvvisoria cartella;
+  DiscoDischi disco;
+  ProcessiLinux processi;
+};
+
+// What it was given, one a line: folder, drives, arguments.
+constexpr std::string_view Racconta = "#!/bin/sh\nsleep 0.1\n{ pwd; echo \"$LIRMETO_DISCHI\"; for a; do echo "
+                                      "\"<$a>\"; done; } > detto\n";
+
+// A program of our own under another name, asleep until somebody ends it.
+pid_t AvviaDormiente(const fs::path& programma, std::string chiamato) {
+  fs::create_directories(programma.parent_path());
+  fs::copy_file("/bin/sleep", programma);
+  std::string secondi = "60";
+  char* parole[] = {chiamato.data(), secondi.data(), nullptr};
+  pid_t figlio = 0;
+  EXPECT_EQ(::posix_spawn(&figlio, programma.c_str(), nullptr, nullptr, parole, ::environ), 0);
+  // The start returns a moment before the kernel shows the new program's words.
+  const fs::path riga = fs::path("/proc") / std::to_string(figlio) / "cmdline";
+  for (int giro = 0; giro < 1000 && CartellaProvvisoria::Prendi(riga).empty(); ++giro) ::usleep(1000);
+  return figlio;
+}
+
+} // namespace
+
+TEST_F(ProvaProcessi, AspettaLaFineNellaCartellaDelProgramma) {
+  MettiProgramma("c/Program Files (x86)/Gondella/Dervola", Racconta);
+  const std::string strano = "a b\"; $(x) *";
+  processi.AvviaEAttendi("C:\\PROGRAM FILES (x86)\\gondella\\DERVOLA.EXE", {strano, "", "citt\xE0"});
+  const fs::path casa = cartella.Radice() / "c/Program Files (x86)/Gondella";
+  EXPECT_EQ(CartellaProvvisoria::Prendi(casa / "detto"),
+            casa.string() + "\n" + cartella.Radice().string() + "\n<" + strano + ">\n<>\n<citt\xC3\xA0>\n");
+}
+
+TEST_F(ProvaProcessi, IlProgrammaColSuoNomePrimaDelSostituto) {
+  MettiProgramma("c/p/x.exe", "#!/bin/sh\necho exe > detto\n");
+  MettiProgramma("c/p/x", "#!/bin/sh\necho nativo > detto\n");
+  processi.AvviaEAttendi("C:\\p\\X.exe", {});
+  EXPECT_EQ(CartellaProvvisoria::Prendi(cartella.Radice() / "c/p/detto"), "exe\n");
+}
+
+TEST_F(ProvaProcessi, DicePercheNonParte) {
+  MettiProgramma("c/p/dato.exe", "MZ solo byte\n");
+  MettiProgramma("c/p/vietato.exe", Racconta, 0644);
+  MettiProgramma("c/p/cartella.exe/x", Racconta);
+  MettiProgramma("c/p/buono", Racconta);
+  EXPECT_EQ(NumeroDellAvvio("C:\\p\\manca.exe"), 53);
+  EXPECT_EQ(NumeroDellAvvio("C:\\p\\cartella.exe"), 53);
+  EXPECT_EQ(NumeroDellAvvio("C:\\p\\dato.exe"), 70);
+  EXPECT_EQ(NumeroDellAvvio("C:\\p\\vietato.exe"), 70);
+  EXPECT_EQ(NumeroDellAvvio("buono"), 52);
+  EXPECT_EQ(NumeroDellAvvio("C:\\p\\buono", {std::string("a\0b", 3)}), 5);
+  EXPECT_EQ(NumeroDellAvvio("C:\\p\\buono"), 0);
+}
+
+TEST_F(ProvaProcessi, ElencaPerNomeETermina) {
+  const struct {
+    const char* programma;
+    const char* chiamato;
+    const char* immagine;
+  } casi[] = {
+      {"a/provalirmeto1", "x", "ProvaLirmeto1.EXE"},
+      {"a/provalirmeto2.exe", "x", "provalirmeto2.exe"},
+      {"a/caricatore", "C:\\pregeo\\ProvaLirmeto3.exe", "provalirmeto3.exe"},
+      {"a/provalirmeto4", "/x/y/qualunque", "qualunque.exe"},
+  };
+  for (const auto& [programma, chiamato, immagine] : casi) {
+    EXPECT_TRUE(processi.Elenca(immagine).empty());
+    const pid_t figlio = AvviaDormiente(cartella.Radice() / programma, chiamato);
+    EXPECT_EQ(processi.Elenca(immagine), std::vector<long>{figlio}) << immagine;
+    EXPECT_EQ(processi.Termina(figlio), 0);
+    int stato = 0;
+    ASSERT_EQ(::waitpid(figlio, &stato, 0), figlio);
+    EXPECT_TRUE(WIFSIGNALED(stato) && WTERMSIG(stato) == SIGTERM);
+    EXPECT_TRUE(processi.Elenca(immagine).empty());
+    EXPECT_NE(processi.Termina(figlio), 0) << "already gone";
+    fs::remove_all(cartella.Radice() / "a");
+  }
+}
+
+TEST_F(ProvaProcessi, NonTerminaInteriGruppi) {
+  EXPECT_NE(processi.Termina(0), 0);
+  EXPECT_NE(processi.Termina(-1), 0);
+}
+
+TEST_F(ProvaProcessi, QuestoProcessoETraISuoi) {
+  const auto miei = processi.Elenca(fs::read_symlink("/proc/self/exe").filename().string());
+  EXPECT_NE(std::find(miei.begin(), miei.end(), processi.QuestoProcesso()), miei.end());
+}
+
+TEST_F(ProvaProcessi, CreaSoloLeCartelleCheMancano) {
+  fs::create_directories(cartella.Radice() / "c/Windows");
+  processi.CreaCartelleDiSistema();
+  processi.CreaCartelleDiSistema();
+  const auto [documenti, windows, temporanea, programmi] = processi.Cartelle();
+  for (const auto& percorso : {documenti, windows, temporanea, programmi})
+    EXPECT_TRUE(disco.EsisteCartella(percorso)) << percorso;
+  EXPECT_FALSE(fs::exists(cartella.Radice() / "c/WINDOWS"));
+  EXPECT_EQ(windows, "C:\\WINDOWS");
+  EXPECT_EQ(programmi, "C:\\Program Files (x86)");
+  EXPECT_EQ(documenti.substr(0, 9), "C:\\users\\");
+}
+
+TEST(ProvaComponenteSicuro, NonEsceDallaCartella) {
+  EXPECT_EQ(ComponenteSicuro("ada.rossi"), "ada.rossi");
+  EXPECT_EQ(ComponenteSicuro("DOM\\ada/x:y"), "DOM_ada_x_y");
+  EXPECT_EQ(ComponenteSicuro(".."), "utente");
+  EXPECT_EQ(ComponenteSicuro(""), "utente");
+  EXPECT_EQ(ComponenteSicuro("nicol\xC3\xB2\n"), std::string("nicolò_"_w));
+}
+
+TEST(ProvaOrologi, OggiEIlGiornoLocale) {
+  const OrologioDiSistema orologio;
+  const auto giorno = [] {
+    const std::time_t ora = std::time(nullptr);
+    const std::tm* tempo = std::localtime(&ora);
+    return Data{tempo->tm_year + 1900, tempo->tm_mon + 1, tempo->tm_mday};
+  };
+  const Data prima = giorno();
+  const Data letta = orologio.Oggi();
+  EXPECT_LE(prima, letta);
+  EXPECT_LE(letta, giorno());
+  EXPECT_EQ(OrologioFisso(Data{2022, 2, 28}).Oggi(), (Data{2022, 2, 28}));
+}
+
+} // namespace lirmeto::prova
