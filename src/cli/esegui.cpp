@@ -1,0 +1,132 @@
+#include <cli/esegui.h>
+
+#include <cli/console.h>
+#include <cli/opzioni.h>
+
+#include <applicazione/avvio.h>
+#include <base/errore.h>
+#include <base/testo.h>
+#include <core/ambiente.h>
+#include <core/mostra_errore.h>
+#include <core/sessione.h>
+#include <piattaforma/disco_dischi.h>
+#include <piattaforma/file_ospite.h>
+#include <piattaforma/orologi.h>
+#include <piattaforma/processi_linux.h>
+#include <piattaforma/trova_dischi.h>
+
+#include <memory>
+#include <optional>
+
+namespace lirmeto {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int Fatto = 0;
+constexpr int ErroreMostrato = 1;
+constexpr int FileIllegibile = 3;
+
+bool Stampa(std::FILE* canale, std::string_view byte) {
+  return std::fwrite(byte.data(), 1, byte.size(), canale) == byte.size() && std::fflush(canale) == 0;
+}
+
+// Why a file cannot be opened, Windows-1252; empty when it can.
+std::string MotivoIllegibile(const fs::path& file) {
+  const std::string nome = DaUtf8(file.string());
+  std::error_code guasto;
+  const fs::file_status stato = fs::status(file, guasto);
+  if (!fs::exists(stato)) return "Il file " + nome + " non esiste.";
+  if (fs::is_directory(stato)) return nome + std::string(" è una cartella, non un file."_w);
+  if (!fs::is_regular_file(stato)) return nome + std::string(" non è un file che si possa leggere."_w);
+  try {
+    static_cast<void>(LeggiFileOspite(file, 1));
+    static_cast<void>(PercorsoDaOspite(file));
+  } catch (const Errore& errore) {
+    return "Il file " + nome + " non si legge: " + errore.Descrizione() + ".";
+  }
+  return {};
+}
+
+// The machine of one run, and its session.
+class Giro {
+public:
+  Giro(const Opzioni& opzioni, std::FILE* errori)
+      : disco_(TrovaDischi(opzioni.dischi)), processi_(disco_), dialoghi_(errori, opzioni.risposte) {
+    if (opzioni.oggi)
+      orologio_ = std::make_unique<OrologioFisso>(*opzioni.oggi);
+    else
+      orologio_ = std::make_unique<OrologioDiSistema>();
+  }
+
+  // The result of a command; none when an error report was shown.
+  std::optional<std::string> Esegui(const ComandoCli& comando, const std::string& argomento) {
+    Ambiente ambiente = DammiAmbiente();
+    std::string risultato;
+    const bool riuscito = Intrappola(ambiente, [&] {
+      PreparaCartelle(ambiente);
+      CaricaInstallazione(ambiente);
+      risultato = comando.esegui(ambiente, argomento);
+    });
+    if (!riuscito || RapportoMostrato()) return std::nullopt;
+    return risultato;
+  }
+
+  bool Scrivi(const fs::path& file, std::string_view risultato) {
+    Ambiente ambiente = DammiAmbiente();
+    sessione_.PuntoErrore = "Uscita";
+    return Intrappola(ambiente, [&] { ScriviFileOspite(file, risultato); });
+  }
+
+private:
+  Ambiente DammiAmbiente() {
+    return {sessione_, disco_, dialoghi_, finestre_, processi_, impostazioni_, appunti_, *orologio_};
+  }
+
+  // A routine that traps its own errors has told of them already. A cancelled dialog is no error.
+  [[nodiscard]] bool RapportoMostrato() const {
+    return sessione_.NumeroErrore != 0 && sessione_.NumeroErrore != errore::DialogoAnnullato;
+  }
+
+  Sessione sessione_;
+  DiscoDischi disco_;
+  ProcessiLinux processi_;
+  DialoghiConsole dialoghi_;
+  FinestreAssenti finestre_;
+  ImpostazioniDiUnGiro impostazioni_;
+  AppuntiDiUnGiro appunti_;
+  std::unique_ptr<Orologio> orologio_;
+};
+
+int Consegna(Giro& giro, const Opzioni& opzioni, const std::string& risultato, const Canali& canali) {
+  if (opzioni.uscita) return giro.Scrivi(*opzioni.uscita, risultato) ? Fatto : ErroreMostrato;
+  if (Stampa(canali.uscita, risultato)) return Fatto;
+  Stampa(canali.errori, RigaMessaggio(TitoloProgramma, "Impossibile scrivere sull'uscita standard."));
+  return ErroreMostrato;
+}
+
+} // namespace
+
+int Esegui(const std::vector<std::string>& parole, const Canali& canali) {
+  const auto letto = LeggiOpzioni(parole);
+  if (const auto* niente = std::get_if<NienteDaFare>(&letto)) {
+    Stampa(canali.errori, niente->errore);
+    return Stampa(canali.uscita, niente->uscita) ? niente->codice : ErroreMostrato;
+  }
+  const auto& opzioni = std::get<Opzioni>(letto);
+  const bool conFile = opzioni.comando->genere == ArgomentoCli::File;
+  if (conFile) {
+    const std::string motivo = MotivoIllegibile(opzioni.argomento);
+    if (!motivo.empty()) {
+      Stampa(canali.errori, RigaMessaggio(TitoloProgramma, motivo));
+      return FileIllegibile;
+    }
+  }
+  Giro giro(opzioni, canali.errori);
+  const auto risultato =
+      giro.Esegui(*opzioni.comando, conFile ? PercorsoDaOspite(opzioni.argomento) : DaUtf8(opzioni.argomento));
+  return risultato ? Consegna(giro, opzioni, *risultato, canali) : ErroreMostrato;
+}
+
+} // namespace lirmeto
