@@ -1,0 +1,51 @@
+#pragma once
+// The look all windows share: palette, fonts, icons, and one quiet colour for
+// each kind of row.
+
+#include <base/dialoghi.h>
+
+#include <QColor>
+#include <QFont>
+#include <QIcon>
+#include <QString>
+
+#include <string_view>
+
+class QApplication;
+class QWidget;
+
+namespace lirmeto::ui {
+
+// Sets style, palette, Italian texts of the toolkit's own dialogs and the
+// window icon.
+void VestiApplicazione(QApplication& applicazione);
+
+struct ColoriRiga {
+  QColor fondo;    // behind the text
+  QColor striscia; // the mark beside it
+};
+
+// Colours by kind of row (0 to 9); any other kind has those of kind 0.
+[[nodiscard]] ColoriRiga ColoriDelGenere(std::string_view riga);
+
+[[nodiscard]] QColor ColoreSelezione();
+[[nodiscard]] QColor ColoreNumeri();  // row numbers
+[[nodiscard]] QColor ColoreMargine(); // behind the row numbers
+[[nodiscard]] QColor ColoreBarre();   // the bars between fields
+[[nodiscard]] QColor ColoreTrovato(); // behind a text that was looked for
+
+// An icon by the name of its file, without extension; a null icon for one that
+// is not there.
+[[nodiscard]] QIcon Icona(const QString& nome);
+
+// Name of the icon of a button of the main window's array.
+[[nodiscard]] QString NomeIconaPulsante(int indice);
+
+[[nodiscard]] QFont FontDa(const Carattere& carattere);
+[[nodiscard]] Carattere CarattereDa(const QFont& font);
+[[nodiscard]] QFont FontMonospazio(double punti);
+
+// Size of a window that fits the screen it will stand on.
+void AdattaAlloSchermo(QWidget& finestra, int larghezza, int altezza);
+
+} // namespace lirmeto::ui

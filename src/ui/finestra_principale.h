@@ -1,0 +1,79 @@
+#pragma once
+// The main window over its model: it shows, passes on what the user does, and shows again; it decides nothing.
+
+#include <applicazione/finestra_principale.h>
+
+#include <QMainWindow>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QLabel;
+class QVBoxLayout;
+
+namespace lirmeto::ui {
+
+class BarraRicerca;
+class PannelloDati;
+class PannelloPulsanti;
+class PannelloStrumenti;
+class RigaDiStato;
+class VistaRighe;
+
+class FinestraPrincipale : public QMainWindow {
+  Q_OBJECT
+public:
+  // Turns a path of the host into one of the logic's; empty, and the user told, for one that cannot be said.
+  using PercorsoDaOspite = std::function<std::string(const QString&)>;
+
+  // The model must outlive the window and have been started.
+  FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDaOspite percorso, QWidget* padre = nullptr);
+
+  // Shows the model as it now is.
+  void Mostra();
+
+protected:
+  void changeEvent(QEvent* evento) override;
+  void resizeEvent(QResizeEvent* evento) override;
+  void closeEvent(QCloseEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+
+private:
+  [[nodiscard]] QWidget* CreaCentro();
+  [[nodiscard]] QWidget* CreaTestata();
+  void CollegaElenco();
+  void CollegaRicerca();
+  void CreaScorciatoie();
+  void Comanda(Comando comando);
+  void Fa(const std::function<void()>& azione);
+  void Lascia(const QString& percorsoOspite);
+  void MostraElenco();
+  void MostraStrumenti();
+  void MostraSpiegazione();
+  void Cerca();
+  void VaiATrovata(bool avanti);
+  void ChiudiSeFinita();
+  [[nodiscard]] std::function<bool(Comando)> Disponibile() const {
+    return [this](Comando comando) { return modello_.Disponibile(comando); };
+  }
+  [[nodiscard]] ElencoRighe& Elenco() { return modello_.DatiSessione().List1; }
+
+  KR_LibrettoOriginale& modello_;
+  PercorsoDaOspite percorso_;
+  PannelloPulsanti* pulsanti_;
+  PannelloDati* dati_;
+  PannelloStrumenti* strumenti_;
+  VistaRighe* righe_;
+  BarraRicerca* ricerca_;
+  RigaDiStato* spiegazione_;
+  QLabel* nomeFile_;
+  QLabel* posizione_;
+  std::vector<std::size_t> trovate_; // rows that hold the text looked for
+  std::optional<unsigned long> versioneTrovate_;
+  bool occupata_ = false; // a command is running
+  bool chiusa_ = false;   // the model has been told of the closing
+};
+
+} // namespace lirmeto::ui

@@ -1,0 +1,78 @@
+// The program with its windows.
+
+#include <ui/appunti_qt.h>
+#include <ui/aspetto.h>
+#include <ui/dialoghi_qt.h>
+#include <ui/finestra_principale.h>
+#include <ui/finestre_qt.h>
+#include <ui/impostazioni_qt.h>
+#include <ui/percorsi_qt.h>
+#include <ui/testo_qt.h>
+
+#include <applicazione/avvio.h>
+#include <core/mostra_errore.h>
+#include <piattaforma/orologi.h>
+#include <piattaforma/processi_linux.h>
+#include <piattaforma/trova_dischi.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+namespace {
+
+using namespace lirmeto;
+
+struct Opzioni {
+  std::optional<std::filesystem::path> dischi;
+  QString file;
+};
+
+Opzioni LeggiOpzioni(const QApplication& applicazione) {
+  QCommandLineParser lettore;
+  lettore.setApplicationDescription(QStringLiteral("Libretti delle misure per tecnici del catasto."));
+  lettore.addHelpOption();
+  lettore.addVersionOption();
+  lettore.addOption({QStringLiteral("dischi"),
+                     QStringLiteral("Cartella con una sottocartella per ogni unità (c, d, ...)."),
+                     QStringLiteral("DIR")});
+  lettore.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Libretto da aprire."),
+                                QStringLiteral("[FILE]"));
+  lettore.process(applicazione);
+  Opzioni opzioni;
+  if (lettore.isSet(QStringLiteral("dischi"))) opzioni.dischi = lettore.value(QStringLiteral("dischi")).toStdString();
+  opzioni.file = lettore.positionalArguments().join(u' ');
+  return opzioni;
+}
+
+int Lavora(const Opzioni& opzioni) {
+  // A message shown before the window is there must not end the program when it is closed.
+  QApplication::setQuitOnLastWindowClosed(false);
+  Sessione sessione;
+  DiscoDischi disco(TrovaDischi(opzioni.dischi));
+  ProcessiLinux processi(disco);
+  ui::DialoghiQt dialoghi(ui::PercorsiDi(disco));
+  ui::FinestreQt finestre;
+  ui::ImpostazioniQt impostazioni;
+  ui::AppuntiQt appunti;
+  OrologioDiSistema orologio;
+  Ambiente ambiente{sessione, disco, dialoghi, finestre, processi, impostazioni, appunti, orologio};
+
+  (void)Intrappola(ambiente, [&] { processi.CreaCartelleDiSistema(); });
+  KR_LibrettoOriginale modello(ambiente);
+  const auto percorso = ui::PercorsoDetto(ambiente);
+  if (!modello.Avvia(opzioni.file.isEmpty() ? std::string() : percorso(opzioni.file))) return 0;
+  ui::FinestraPrincipale finestra(modello, percorso);
+  finestra.show();
+  QApplication::setQuitOnLastWindowClosed(true);
+  return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  QApplication applicazione(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("lirmeto"));
+  QApplication::setApplicationVersion(QString::fromUtf8(NumeroMaggiore) + u'.' + QString::fromUtf8(NumeroRevisione));
+  ui::VestiApplicazione(applicazione);
+  return Lavora(LeggiOpzioni(applicazione));
+}

@@ -1,0 +1,29 @@
+#pragma once
+// A class of rows as Qt's list views want it; reads the logic's list directly.
+
+#include <core/riordino.h>
+
+#include <QAbstractListModel>
+#include <QFont>
+#include <QSize>
+
+namespace lirmeto::ui {
+
+class ModelloClasse : public QAbstractListModel {
+  Q_OBJECT
+public:
+  // The list must outlive the model.
+  ModelloClasse(const ListaRighe& righe, const QFont& carattere, QObject* padre = nullptr);
+
+  void Ricarica();
+
+  [[nodiscard]] int rowCount(const QModelIndex& padre = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& indice, int ruolo) const override;
+
+private:
+  const ListaRighe& righe_;
+  QFont carattere_; // the view's
+  QSize misura_;    // of every row, as wide as the widest
+};
+
+} // namespace lirmeto::ui

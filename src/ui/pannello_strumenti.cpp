@@ -1,0 +1,41 @@
+#include <ui/pannello_strumenti.h>
+
+#include <ui/aspetto.h>
+#include <ui/testo_qt.h>
+
+#include <QGraphicsDropShadowEffect>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace lirmeto::ui {
+
+PannelloStrumenti::PannelloStrumenti(const std::function<bool(Comando)>& disponibile, QWidget* padre) : QFrame(padre) {
+  setObjectName(QStringLiteral("PannelloStrumenti"));
+  auto* colonna = new QVBoxLayout(this);
+  colonna->setContentsMargins(10, 8, 10, 10);
+  colonna->setSpacing(2);
+  auto* titolo = new QLabel(QStringLiteral("Utilità Catastali"), this);
+  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
+  colonna->addWidget(titolo);
+  for (const Strumento& strumento : Strumenti()) {
+    auto* bottone = new QPushButton(this);
+    bottone->setText(AQString(strumento.didascalia));
+    bottone->setObjectName(AQString(strumento.tag));
+    bottone->setFlat(true);
+    bottone->setFocusPolicy(Qt::NoFocus);
+    bottone->setEnabled(disponibile(strumento.comando));
+    if (!bottone->isEnabled()) bottone->setToolTip(AQString(NonAncoraDisponibile));
+    const Comando comando = strumento.comando;
+    connect(bottone, &QPushButton::clicked, this, [this, comando] { emit Premuto(comando); });
+    colonna->addWidget(bottone);
+  }
+  auto* ombra = new QGraphicsDropShadowEffect(this);
+  ombra->setBlurRadius(18);
+  ombra->setOffset(0, 3);
+  ombra->setColor(QColor(0, 0, 0, 70));
+  setGraphicsEffect(ombra);
+  hide();
+}
+
+} // namespace lirmeto::ui

@@ -1,0 +1,33 @@
+#include <ui/percorsi_qt.h>
+
+#include <ui/testo_qt.h>
+
+#include <core/mostra_errore.h>
+
+namespace lirmeto::ui {
+
+namespace {
+
+bool HaUnita(const QString& percorso) {
+  return percorso.size() > 2 && percorso[0].isLetter() && percorso[1] == u':' &&
+         (percorso[2] == u'\\' || percorso[2] == u'/');
+}
+
+} // namespace
+
+Percorsi PercorsiDi(const DiscoDischi& disco) {
+  return {
+      [&disco](std::string_view percorso) { return QString::fromStdString(disco.PercorsoOspite(percorso).string()); },
+      [](const QString& ospite) { return PercorsoDaOspite(ospite.toStdString()); }};
+}
+
+std::function<std::string(const QString&)> PercorsoDetto(Ambiente& ambiente) {
+  return [&ambiente](const QString& percorso) {
+    std::string detto;
+    (void)Intrappola(
+        ambiente, [&] { detto = HaUnita(percorso) ? DaQString(percorso) : PercorsoDaOspite(percorso.toStdString()); });
+    return detto;
+  };
+}
+
+} // namespace lirmeto::ui

@@ -1,0 +1,233 @@
+// Pictures of the real windows over a libretto, without a display. Nothing is written but the pictures: the disk is
+// only read, processes are left alone, messages go to standard error.
+//
+//   lirmeto-foto --dischi DIR --uscita DIR [--scala 1|2] FILE
+
+#include <ui/aspetto.h>
+#include <ui/barra_ricerca.h>
+#include <ui/finestra_editor.h>
+#include <ui/finestra_principale.h>
+#include <ui/finestra_riordino.h>
+#include <ui/testo_qt.h>
+#include <ui/vista_righe.h>
+
+#include <piattaforma/disco_dischi.h>
+#include <piattaforma/orologi.h>
+#include <piattaforma/processi_linux.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QLineEdit>
+#include <QTextStream>
+
+namespace {
+
+using namespace lirmeto;
+
+class DiscoInLettura final : public Disco {
+public:
+  explicit DiscoInLettura(const Disco& disco) : disco_(disco) {}
+  [[nodiscard]] bool Esiste(std::string_view percorso) const override { return disco_.Esiste(percorso); }
+  [[nodiscard]] bool EsisteCartella(std::string_view percorso) const override {
+    return disco_.EsisteCartella(percorso);
+  }
+  [[nodiscard]] std::string Leggi(std::string_view percorso) const override { return disco_.Leggi(percorso); }
+  [[nodiscard]] std::string LeggiInizio(std::string_view percorso, std::size_t byte) const override {
+    return disco_.LeggiInizio(percorso, byte);
+  }
+  [[nodiscard]] std::vector<std::string> Elenca(std::string_view cartella, std::string_view estensione) const override {
+    return disco_.Elenca(cartella, estensione);
+  }
+  void Scrivi(std::string_view /*percorso*/, std::string_view /*contenuto*/) override {}
+  void CreaCartella(std::string_view /*percorso*/) override {}
+  void Copia(std::string_view /*da*/, std::string_view /*a*/) override {}
+  void Elimina(std::string_view /*percorso*/) override {}
+
+private:
+  const Disco& disco_;
+};
+
+class ProcessiFermi final : public Processi {
+public:
+  explicit ProcessiFermi(Processi& processi) : processi_(processi) {}
+  [[nodiscard]] CartelleDiSistema Cartelle() override { return processi_.Cartelle(); }
+  void AvviaEAttendi(const std::string& /*programma*/, const std::vector<std::string>& /*argomenti*/) override {}
+  [[nodiscard]] std::vector<long> Elenca(std::string_view /*immagine*/) override { return {}; }
+  [[nodiscard]] long QuestoProcesso() const override { return processi_.QuestoProcesso(); }
+  [[nodiscard]] int Termina(long /*processo*/) override { return 0; }
+  void MostraDesktop() override {}
+
+private:
+  Processi& processi_;
+};
+
+class DialoghiMuti final : public Dialoghi {
+public:
+  void Messaggio(std::string_view testo, std::string_view titolo, Gravita /*gravita*/) override {
+    QTextStream(stderr) << '[' << ui::AQString(titolo) << "] " << ui::AQString(testo) << '\n';
+  }
+  [[nodiscard]] Risposta Chiedi(std::string_view /*testo*/, std::string_view /*titolo*/, Bottoni /*bottoni*/) override {
+    return Risposta::No;
+  }
+  [[nodiscard]] std::string ScegliFileDaSalvare(const RichiestaFile& /*richiesta*/) override {
+    throw Errore(errore::DialogoAnnullato);
+  }
+  [[nodiscard]] Carattere ScegliCarattere(const Carattere& attuale) override { return attuale; }
+  void Avanzamento(std::string_view /*lavoro*/, std::size_t /*fatto*/, std::size_t /*totale*/) override {}
+};
+
+class NessunaFinestra final : public Finestre {
+public:
+  void MostraModale(Modello& /*modello*/) override {}
+  [[nodiscard]] bool Disponibile(std::string_view /*nome*/) const override { return false; }
+  void Apri(std::string_view /*nome*/) override {}
+};
+
+class ImpostazioniVuote final : public Impostazioni {
+public:
+  [[nodiscard]] std::string Leggi(std::string_view /*sezione*/, std::string_view /*chiave*/,
+                                  std::string_view predefinito) const override {
+    return std::string(predefinito);
+  }
+  void Scrivi(std::string_view /*sezione*/, std::string_view /*chiave*/, std::string_view /*valore*/) override {}
+};
+
+class AppuntiVuoti final : public Appunti {
+public:
+  [[nodiscard]] std::string Testo() const override { return {}; }
+  void MettiTesto(std::string_view /*testo*/) override {}
+};
+
+// Takes and saves the pictures of one libretto.
+class Fotografo {
+public:
+  Fotografo(KR_LibrettoOriginale& modello, Ambiente& ambiente, const QDir& uscita)
+      : modello_(modello), ambiente_(ambiente), uscita_(uscita) {}
+
+  [[nodiscard]] bool Tutte() {
+    ui::FinestraPrincipale finestra(modello_, [](const QString&) { return std::string(); });
+    finestra.resize(1440, 900); // the platform's screen is smaller than any real one
+    finestra.show();
+    return Principale(finestra) && Ricerca(finestra) && Strumenti(finestra) && Editor() && Riordino();
+  }
+
+private:
+  // A sighting in the middle of the rows, with some of its neighbours selected.
+  bool Principale(ui::FinestraPrincipale& finestra) {
+    ElencoRighe& righe = modello_.DatiSessione().List1;
+    auto* vista = finestra.findChild<ui::VistaRighe*>();
+    if (righe.Quante() > 8) {
+      vista->VaiA(5);
+      righe.SelezionaIntervallo(5, 7, true);
+    }
+    vista->setFocus();
+    finestra.Mostra();
+    return Salva(finestra, "finestra_principale");
+  }
+
+  bool Ricerca(ui::FinestraPrincipale& finestra) {
+    auto* barra = finestra.findChild<ui::BarraRicerca*>();
+    barra->Apri();
+    barra->findChild<QLineEdit*>()->setText(QStringLiteral("pf"));
+    emit barra->Successiva();
+    const bool salvata = Salva(finestra, "ricerca");
+    barra->Chiudi();
+    return salvata;
+  }
+
+  bool Strumenti(ui::FinestraPrincipale& finestra) {
+    modello_.PuntatoreSuPulsante(PulsanteUtilita);
+    finestra.Mostra();
+    const bool salvata = Salva(finestra, "strumenti");
+    modello_.PuntatoreSuPulsante(0);
+    return salvata;
+  }
+
+  bool Editor() {
+    KR_EditorGen editor(ambiente_);
+    editor.AlCaricamento();
+    ui::FinestraEditor finestra(editor);
+    finestra.resize(1000, 700);
+    finestra.show();
+    return Salva(finestra, "editor");
+  }
+
+  bool Riordino() {
+    FormRiordinoRighe form(ambiente_);
+    form.AlCaricamento();
+    ui::FinestraRiordino finestra(form);
+    finestra.resize(1080, 640);
+    finestra.show();
+    return Salva(finestra, "riordino");
+  }
+
+  bool Salva(QWidget& finestra, const char* nome) {
+    QApplication::setActiveWindow(&finestra);
+    QApplication::processEvents();
+    QApplication::processEvents();
+    const QString file = uscita_.filePath(QString::fromLatin1(nome) + Coda());
+    const bool salvata = finestra.grab().save(file);
+    QTextStream(salvata ? stdout : stderr) << (salvata ? "" : "Impossibile scrivere ") << file << '\n';
+    return salvata;
+  }
+
+  // Pictures of twice the size stand beside the others under the name that Qt gives them.
+  static QString Coda() { return qApp->devicePixelRatio() > 1 ? QStringLiteral("@2x.png") : QStringLiteral(".png"); }
+
+  KR_LibrettoOriginale& modello_;
+  Ambiente& ambiente_;
+  QDir uscita_;
+};
+
+int Fotografa(const std::filesystem::path& dischi, const QString& uscita, const QString& libretto) {
+  Sessione sessione;
+  DiscoDischi discoVero(dischi);
+  ProcessiLinux processiVeri(discoVero);
+  DiscoInLettura disco(discoVero);
+  ProcessiFermi processi(processiVeri);
+  DialoghiMuti dialoghi;
+  NessunaFinestra finestre;
+  ImpostazioniVuote impostazioni;
+  AppuntiVuoti appunti;
+  OrologioDiSistema orologio;
+  Ambiente ambiente{sessione, disco, dialoghi, finestre, processi, impostazioni, appunti, orologio};
+  KR_LibrettoOriginale modello(ambiente);
+  if (!modello.Avvia(PercorsoDaOspite(libretto.toStdString()))) return 1;
+  return Fotografo(modello, ambiente, QDir(uscita)).Tutte() ? 0 : 1;
+}
+
+// The platform without a display warns of every window that it has no size hints.
+void SoloErrori(QtMsgType genere, const QMessageLogContext& /*dove*/, const QString& testo) {
+  if (genere == QtCriticalMsg || genere == QtFatalMsg) QTextStream(stderr) << testo << '\n';
+}
+
+// The scale must be known before Qt starts: it is looked for in the bare arguments.
+QByteArray Scala(int argc, char** argv) {
+  for (int i = 1; i + 1 < argc; ++i)
+    if (QByteArray(argv[i]) == "--scala") return argv[i + 1];
+  return "1";
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("QT_SCALE_FACTOR", Scala(argc, argv));
+  qInstallMessageHandler(SoloErrori);
+  QApplication applicazione(argc, argv);
+  ui::VestiApplicazione(applicazione);
+  QCommandLineParser lettore;
+  lettore.addHelpOption();
+  lettore.addOptions({{QStringLiteral("dischi"), QStringLiteral("Cartella delle unità."), QStringLiteral("DIR")},
+                      {QStringLiteral("uscita"), QStringLiteral("Cartella delle immagini."), QStringLiteral("DIR")},
+                      {QStringLiteral("scala"), QStringLiteral("1 o 2."), QStringLiteral("N"), QStringLiteral("1")}});
+  lettore.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Libretto da mostrare."));
+  lettore.process(applicazione);
+  const QStringList file = lettore.positionalArguments();
+  if (file.size() != 1 || !lettore.isSet(QStringLiteral("dischi")) || !lettore.isSet(QStringLiteral("uscita")))
+    lettore.showHelp(2);
+  const QString uscita = lettore.value(QStringLiteral("uscita"));
+  if (!QDir().mkpath(uscita)) return 1;
+  return Fotografa(lettore.value(QStringLiteral("dischi")).toStdString(), uscita, file.first());
+}
