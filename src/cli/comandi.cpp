@@ -8,6 +8,7 @@
 #include <core/salvataggio.h>
 
 #include <array>
+#include <utility>
 
 namespace lirmeto {
 
@@ -96,7 +97,7 @@ std::string ComandoIntestazione(Ambiente& ambiente, const std::string& percorso)
 std::string ComandoSalva(Ambiente& ambiente, const std::string& percorso) {
   ApriEdElenca(ambiente, percorso);
   AggiornaLibrettoMisure(ambiente);
-  return TestoDaSalvare(ambiente.sessione);
+  return TestoDaSalvare(std::move(ambiente.sessione.Libretto), ambiente.sessione);
 }
 
 std::string ComandoRiordina(Ambiente& ambiente, const std::string& percorso) {
@@ -109,7 +110,7 @@ std::string ComandoRiordina(Ambiente& ambiente, const std::string& percorso) {
   }
   CaricaLibrettoInList1(ambiente);
   AggiornaLibrettoMisure(ambiente);
-  return TestoDaSalvare(ambiente.sessione);
+  return TestoDaSalvare(std::move(ambiente.sessione.Libretto), ambiente.sessione);
 }
 
 std::string ComandoComuni(Ambiente& ambiente, const std::string& testo) {

@@ -8,6 +8,7 @@
 #include <core/servizi.h>
 #include <core/zero_nove.h>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <utility>
@@ -109,6 +110,8 @@ ListaRighe RigheDaElencare(const std::string& libretto, Dialoghi& dialoghi) {
   const auto tenuto = std::make_shared<const std::string>(libretto);
   ListaRighe righe;
   righe.Tieni(tenuto);
+  righe.Riserva(static_cast<std::size_t>(std::count(tenuto->begin(), tenuto->end(), '\n')) +
+                2); // rows 0 and 9 may come
   std::string_view resto = *tenuto;
   Avanzamento avanzamento(dialoghi, "Lettura del libretto", resto.size());
   for (std::size_t fine = resto.find(FineRiga); fine != std::string_view::npos; fine = resto.find(FineRiga)) {

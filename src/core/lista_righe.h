@@ -37,6 +37,8 @@ public:
 
   // Keeps the text alive, so that rows of it may be added.
   void Tieni(TestoCondiviso testo) { testi_.push_back(std::move(testo)); }
+  // Room for so many rows.
+  void Riserva(std::size_t righe) { righe_.reserve(righe); }
   // A row of a text that the list keeps.
   void AggiungiVista(std::string_view riga) { righe_.push_back(riga); }
   // A row of any other text, which is copied.

@@ -12,6 +12,9 @@ namespace lirmeto {
 
 namespace {
 
+// Room behind Libretto for the tag rows that the file gets, so that they do not move a large text.
+constexpr std::size_t SpazioPerRigheDiServizio = 4096;
+
 // A note that is not filled in reads "Note:" to Pregeo; the mark of a
 // planimetric point is of the generation only.
 std::string RigaPulita(std::string_view riga) {
@@ -79,22 +82,30 @@ void AggiornaLibrettoMisure(Ambiente& ambiente) {
     lunghezza += elenco.Riga(i).size() + FineRiga.size();
   }
   sessione.Libretto.clear();
-  sessione.Libretto.reserve(lunghezza);
+  sessione.Libretto.reserve(lunghezza + SpazioPerRigheDiServizio);
   for (const auto riga : elenco.Righe())
     if (!Taglia(riga).empty()) AggiungiRigaLibretto(sessione, riga);
 }
 
 std::string TestoDaSalvare(const Sessione& sessione) {
+  std::string libretto;
+  libretto.reserve(sessione.Libretto.size() + sessione.Ditta.size() + SpazioPerRigheDiServizio);
+  libretto += sessione.Libretto;
+  return TestoDaSalvare(std::move(libretto), sessione);
+}
+
+std::string TestoDaSalvare(std::string&& libretto, const Sessione& sessione) {
   const std::string fine(FineRiga);
-  std::string tag = fine + "6|<EST>" + sessione.EstrattoAssociato + "|" + fine;
-  tag += "6|<COD>" + sessione.CodiceFiscale + "|" + fine;
-  tag += "6|<ISC>" + sessione.NumeroIscrizione + "|";
-  for (const auto linea : Dividi(sessione.Ditta, FineRiga))
-    if (!Taglia(linea).empty()) tag.append(fine).append("6|<DIT>").append(linea).append("|").append(fine);
-  std::string testo;
-  testo.reserve(sessione.Libretto.size() + tag.size() + fine.size());
-  testo += sessione.Libretto;
-  testo += tag;
+  std::string testo = std::move(libretto);
+  testo += fine + "6|<EST>" + sessione.EstrattoAssociato + "|" + fine;
+  testo += "6|<COD>" + sessione.CodiceFiscale + "|" + fine;
+  testo += "6|<ISC>" + sessione.NumeroIscrizione + "|";
+  for (const auto linea : Dividi(sessione.Ditta, FineRiga)) {
+    if (Taglia(linea).empty()) continue;
+    testo += fine + "6|<DIT>";
+    testo += linea;
+    testo += "|" + fine;
+  }
   return DimezzaFineRiga(std::move(testo)) + fine;
 }
 

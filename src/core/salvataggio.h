@@ -15,6 +15,8 @@ void AggiornaLibrettoMisure(Ambiente& ambiente);
 
 // The bytes of the libretto's file: Libretto, the tag rows, the owners.
 [[nodiscard]] std::string TestoDaSalvare(const Sessione& sessione);
+// The same from a Libretto that is handed over, so that a large one is not copied.
+[[nodiscard]] std::string TestoDaSalvare(std::string&& libretto, const Sessione& sessione);
 
 // Writes NomeFileLibretto, or asks for a name when there is none. Errors are
 // reported here; after a failed save one more message says where the last good
