@@ -20,6 +20,11 @@ struct Ora {
   int secondi = 0; // 0 to 60
 };
 
+struct Istante {
+  Data data;
+  Ora ora;
+};
+
 // "ddmmyyyy", the form of row 0.
 [[nodiscard]] std::string TestoData(const Data& data);
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lirmeto {
 
@@ -20,6 +21,18 @@ struct Carattere {
   bool grassetto = false;
   bool corsivo = false;
   bool operator==(const Carattere&) const = default;
+};
+
+enum class Orientamento { Verticale, Orizzontale };
+
+// A text to print, one line an entry, in one font. A page holds as many lines as its height gives; a line too wide for
+// the page is cut at its margin.
+struct Stampato {
+  std::vector<std::string_view> righe;
+  Carattere carattere;
+  Orientamento orientamento = Orientamento::Verticale;
+  std::string titolo;          // of the document, as the printer's queue shows it
+  bool numeriDiPagina = false; // "Pagina 1 di 3" at the foot
 };
 
 struct RichiestaFile {
@@ -40,9 +53,16 @@ public:
                          Gravita gravita = Gravita::Informazione) = 0;
   [[nodiscard]] virtual Risposta Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) = 0;
 
+  // Path of a file that is there.
+  [[nodiscard]] virtual std::string ScegliFileDaAprire(const RichiestaFile& richiesta) = 0;
   // Path chosen for a save.
   [[nodiscard]] virtual std::string ScegliFileDaSalvare(const RichiestaFile& richiesta) = 0;
   [[nodiscard]] virtual Carattere ScegliCarattere(const Carattere& attuale) = 0;
+
+  // The user picks a printer and its paper: that printer becomes the current one.
+  virtual void ScegliStampante() = 0;
+  // Prints on the current printer. Errors: 482 no printer, or it does not go.
+  virtual void Stampa(const Stampato& stampato) = 0;
 
   // Long work tells how far it is: `fatto` of `totale` steps; `fatto` equal to
   // `totale` ends it. Cheap to call often: the implementation shows it only

@@ -10,7 +10,7 @@ namespace lirmeto {
 
 namespace {
 
-constexpr std::array<std::pair<int, std::string_view>, 17> Descrizioni = {{
+constexpr std::array<std::pair<int, std::string_view>, 19> Descrizioni = {{
     {errore::ArgomentoNonValido, "Argomento o chiamata di routine non validi"},
     {errore::Overflow, "Overflow"},
     {errore::MemoriaEsaurita, "Memoria esaurita"},
@@ -27,6 +27,8 @@ constexpr std::array<std::pair<int, std::string_view>, 17> Descrizioni = {{
     {errore::AutorizzazioneNegata, "Autorizzazione negata"},
     {errore::AccessoAlFile, "Errore nell'accesso al percorso o al file"},
     {errore::PercorsoNonTrovato, "Impossibile trovare il percorso"},
+    {errore::ChiaveEsistente, "Questa chiave è già associata a un elemento dell'insieme"_w},
+    {errore::ErroreStampante, "Errore della stampante"},
     {errore::DialogoAnnullato, "Operazione annullata"},
 }};
 

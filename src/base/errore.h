@@ -25,6 +25,8 @@ inline constexpr int OltreLaFine = 62;
 inline constexpr int AutorizzazioneNegata = 70;
 inline constexpr int AccessoAlFile = 75;
 inline constexpr int PercorsoNonTrovato = 76;
+inline constexpr int ChiaveEsistente = 457;
+inline constexpr int ErroreStampante = 482;
 inline constexpr int DialogoAnnullato = 32755;
 } // namespace errore
 

@@ -5,6 +5,7 @@
 
 #include <base/data.h>
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -37,6 +38,12 @@ public:
   // folder, 76 its folder is not there.
   virtual void Scrivi(std::string_view percorso, std::string_view contenuto) = 0;
 
+  // When a file was last written, local time. Error 53 not there.
+  [[nodiscard]] virtual Istante Modificato(std::string_view percorso) const = 0;
+
+  // As Scrivi, but a file that exists is replaced whole or stays as it was, whatever happens while writing.
+  virtual void Rimpiazza(std::string_view percorso, std::string_view contenuto) = 0;
+
   // Creates one folder in a folder that exists. Errors: 75 already there, 76
   // its parent is not there.
   virtual void CreaCartella(std::string_view percorso) = 0;
@@ -62,6 +69,49 @@ struct CartelleDiSistema {
   std::string programmi;  // environment variable "ProgramFiles(x86)"
 };
 
+// A shortcut to a program.
+enum class PostoCollegamento { Desktop, MenuProgrammi, AvvioRapido };
+struct Collegamento {
+  PostoCollegamento posto;
+  std::string nome;      // as the user sees it
+  std::string programma; // path with a drive
+};
+
+// One entry of an archive, as the archive tells it: nothing of it may be trusted.
+struct VoceArchivio {
+  enum class Genere { File, Cartella, Collegamento }; // a link, or anything else that is neither of the two
+
+  std::string nome; // with its folders, parted by "/" or "\\"
+  Genere genere = Genere::File;
+  bool protetta = false; // by a password
+};
+
+// What came of reading an entry.
+struct ContenutoVoce {
+  enum class Stato { Intero, Guasto, Troppo };
+
+  std::string byte;
+  Stato stato = Stato::Intero;
+};
+
+// An archive opened for unpacking, entry after entry.
+class ArchivioAperto {
+public:
+  ArchivioAperto() = default;
+  ArchivioAperto(const ArchivioAperto&) = delete;
+  ArchivioAperto& operator=(const ArchivioAperto&) = delete;
+  virtual ~ArchivioAperto() = default;
+
+  // How many entries it says it has.
+  [[nodiscard]] virtual std::size_t Quante() const = 0;
+
+  // The next entry; none at the end. Error 62 when the archive is broken from here on.
+  [[nodiscard]] virtual std::optional<VoceArchivio> Prossima() = 0;
+
+  // All bytes of that entry; they are Troppo, and none given, when there are more than `massimo`.
+  [[nodiscard]] virtual ContenutoVoce Leggi(std::size_t massimo) = 0;
+};
+
 // Processes and the shell.
 class Processi {
 public:
@@ -74,6 +124,17 @@ public:
   // that is not there is looked for as "NAME". Errors: 53 no such program, 70.
   virtual void AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti) = 0;
 
+  // Opens a file or folder with the program that the user's desktop has for it, and does not wait for its end. Errors:
+  // 53 not there, 75 no program opens it.
+  virtual void ApriDocumento(const std::string& percorso) = 0;
+
+  // Opens a page of the web in the user's browser, and does not wait for its end. Error 75: no program opens it.
+  virtual void ApriPagina(const std::string& indirizzo) = 0;
+
+  // Starts a program on a file, with the file's name as its argument and the file's folder as working folder, and does
+  // not wait for its end. The program is found as in AvviaEAttendi. Errors: 53 program or file not there, 70.
+  virtual void ApriDocumentoCon(const std::string& programma, const std::string& percorso) = 0;
+
   // Process numbers of the same user whose image has this name, this process
   // among them if it fits.
   [[nodiscard]] virtual std::vector<long> Elenca(std::string_view immagine) = 0;
@@ -83,8 +144,17 @@ public:
   // not.
   [[nodiscard]] virtual int Termina(long processo) = 0;
 
+  // A ZIP archive, given as its bytes, as the shell sees it: as a folder. Error 62 when they are cut short or are none.
+  [[nodiscard]] virtual std::unique_ptr<ArchivioAperto> ApriArchivio(std::string byte) = 0;
+
   // Asks the shell to clear the desktop of windows.
   virtual void MostraDesktop() = 0;
+
+  // Makes a shortcut, over one of the same name. Errors: 53 no such program, 70, 75, 76 this desktop has no such place.
+  virtual void CreaCollegamento(const Collegamento& collegamento) = 0;
+
+  // File version of an executable, "10.6.0.3"; empty when it tells none. Errors as Disco::Leggi.
+  [[nodiscard]] virtual std::string VersioneFile(std::string_view percorso) = 0;
 };
 
 // Per-user settings: texts by section and key.

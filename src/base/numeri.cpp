@@ -7,6 +7,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <system_error>
 
 namespace lirmeto {
@@ -99,6 +100,24 @@ double ValoreDiNumero(std::string_view numero) {
   return valore;
 }
 
+// The value of a text as nearly all rows have it: a minus or none, digits, perhaps a point and digits, and then nothing
+// that could still belong to the number. None for any other text, a number too large or too small among them.
+std::optional<double> ValoreSemplice(std::string_view testo) {
+  const char* const inizio = testo.data();
+  const char* const fine = inizio + testo.size();
+  const char* qui = inizio;
+  if (qui != fine && *qui == '-') ++qui;
+  const char* const primaCifra = qui;
+  while (qui != fine && Cifra(*qui)) ++qui;
+  if (qui == primaCifra) return std::nullopt;
+  if (qui != fine && *qui == '.')
+    for (++qui; qui != fine && Cifra(*qui);) ++qui;
+  if (qui != fine && std::string_view(" \teEdD").find(*qui) != std::string_view::npos) return std::nullopt;
+  double valore = 0;
+  if (std::from_chars(inizio, qui, valore).ec != std::errc{}) return std::nullopt;
+  return valore;
+}
+
 // A number as a decimal: 0.d1d2d3... times ten to the power `punto`, at most
 // fifteen significant digits.
 struct Decimale {
@@ -185,9 +204,25 @@ std::string CifreArrotondate(const Decimale& decimale, std::size_t decimali) {
   return cifre;
 }
 
+// The full text of a number that the exponent form is not for and that fifteen digits hold exactly: then the shortest
+// text that gives the number back is the one. Empty for any other.
+std::string TestoBreve(double valore) {
+  constexpr double daQui = 1E-4;
+  constexpr double aQui = 1E15;
+  if (!(std::fabs(valore) >= daQui && std::fabs(valore) < aQui)) return {};
+  std::array<char, 40> testo{};
+  const auto fine = std::to_chars(testo.data(), testo.data() + testo.size(), valore, std::chars_format::fixed);
+  const std::string_view scritto(testo.data(), static_cast<std::size_t>(fine.ptr - testo.data()));
+  const std::size_t prima = scritto.find_first_of("123456789");
+  const bool conPunto = scritto.find('.', prima) != std::string_view::npos;
+  const std::size_t cifre = scritto.size() - prima - (conPunto ? 1 : 0);
+  return cifre <= CifreSignificative ? std::string(scritto) : std::string{};
+}
+
 } // namespace
 
 double Valore(std::string_view testo) {
+  if (const auto semplice = ValoreSemplice(testo)) return *semplice;
   const std::string numero = LettoreNumero(testo).Prefisso();
   return numero.empty() ? 0.0 : ValoreDiNumero(numero);
 }
@@ -211,6 +246,7 @@ std::string Formatta(double valore, std::string_view formato) {
 }
 
 std::string TestoPieno(double valore) {
+  if (std::string breve = TestoBreve(valore); !breve.empty()) return breve;
   const Decimale decimale = DecimaleDa(valore);
   if (decimale.cifre.empty()) return "0";
   const std::string segno = decimale.negativo ? "-" : "";

@@ -170,6 +170,8 @@ std::vector<std::string_view> Dividi(std::string_view testo, std::string_view se
   std::vector<std::string_view> parti;
   if (testo.empty()) return parti;
   if (separatore.empty()) return {testo};
+  constexpr std::size_t moltiCampi = 12;
+  parti.reserve(moltiCampi);
   std::size_t inizio = 0;
   for (std::size_t qui = testo.find(separatore); qui != std::string_view::npos; qui = testo.find(separatore, inizio)) {
     parti.push_back(testo.substr(inizio, qui - inizio));

@@ -1,6 +1,7 @@
 #include <piattaforma/disco_dischi.h>
 #include <piattaforma/errori_ospite.h>
 #include <piattaforma/file_ospite.h>
+#include <piattaforma/orologi.h>
 
 #include <base/errore.h>
 #include <base/testo.h>
@@ -68,6 +69,14 @@ std::optional<std::string> NomeDaOspite(const std::string& utf8) {
   return DaUtf8(utf8);
 }
 
+// Whether a host name is this name in some case. Nearly all names are ASCII and need no conversion.
+bool StessoNome(const std::string& utf8, std::string_view nome) {
+  const bool ascii = std::all_of(utf8.begin(), utf8.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  if (ascii) return UgualiSenzaCaso(utf8, nome);
+  const auto candidata = NomeDaOspite(utf8);
+  return candidata && UgualiSenzaCaso(*candidata, nome);
+}
+
 // The entry of a folder with this name: its exact spelling, else the first that differs in case alone, else the name as
 // given.
 fs::path Voce(const fs::path& cartella, std::string_view nome) {
@@ -77,8 +86,7 @@ fs::path Voce(const fs::path& cartella, std::string_view nome) {
   std::error_code guasto;
   for (fs::directory_iterator i(cartella, guasto), fine; !guasto && i != fine; i.increment(guasto)) {
     const std::string utf8 = i->path().filename().string();
-    const auto candidata = NomeDaOspite(utf8);
-    if (candidata && UgualiSenzaCaso(*candidata, nome) && (!trovata || utf8 < *trovata)) trovata = utf8;
+    if (StessoNome(utf8, nome) && (!trovata || utf8 < *trovata)) trovata = utf8;
   }
   return trovata ? cartella / *trovata : esatta;
 }
@@ -143,6 +151,20 @@ void DiscoDischi::Scrivi(std::string_view percorso, std::string_view contenuto) 
   std::error_code guasto;
   if (fs::exists(ospite, guasto) && !fs::is_regular_file(ospite, guasto)) throw Errore(errore::AccessoAlFile);
   ScriviFileOspite(ospite, contenuto);
+}
+
+Istante DiscoDischi::Modificato(std::string_view percorso) const {
+  struct stat stato {};
+  if (::stat(PercorsoOspite(percorso).c_str(), &stato) != 0) LanciaErrno(errno, errore::FileNonTrovato);
+  return IstanteLocale(stato.st_mtime);
+}
+
+void DiscoDischi::Rimpiazza(std::string_view percorso, std::string_view contenuto) {
+  fs::path ospite = PercorsoOspite(percorso);
+  std::error_code guasto;
+  if (fs::is_symlink(ospite, guasto) && fs::exists(ospite, guasto)) ospite = fs::canonical(ospite, guasto);
+  if (fs::exists(ospite, guasto) && !fs::is_regular_file(ospite, guasto)) throw Errore(errore::AccessoAlFile);
+  RimpiazzaFileOspite(ospite, contenuto);
 }
 
 void DiscoDischi::CreaCartella(std::string_view percorso) {

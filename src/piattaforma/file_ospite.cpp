@@ -101,6 +101,54 @@ void ScriviTutto(int file, std::string_view contenuto) {
   }
 }
 
+// The folder of a file to write, which must be there.
+std::filesystem::path CartellaDi(const std::filesystem::path& file) {
+  const auto madre = file.parent_path();
+  std::filesystem::path cartella = madre.empty() ? "." : madre;
+  const auto stato = Stato(cartella);
+  if (!stato) LanciaErrno(errno, errore::PercorsoNonTrovato);
+  if (!S_ISDIR(stato->st_mode)) throw Errore(errore::PercorsoNonTrovato);
+  return cartella;
+}
+
+// A new file that goes away again unless it is given its place.
+class FileProvvisorio {
+public:
+  explicit FileProvvisorio(const std::filesystem::path& cartella)
+      : percorso_((cartella / ".lirmeto.XXXXXX").string()), aperto_(::mkostemp(percorso_.data(), O_CLOEXEC)) {
+    if (aperto_.Numero() < 0) LanciaErrno(errno, errore::PercorsoNonTrovato);
+  }
+  FileProvvisorio(const FileProvvisorio&) = delete;
+  FileProvvisorio& operator=(const FileProvvisorio&) = delete;
+  ~FileProvvisorio() {
+    if (!percorso_.empty()) ::unlink(percorso_.c_str());
+  }
+
+  void Riempi(std::string_view contenuto, mode_t permessi) {
+    ScriviTutto(aperto_.Numero(), contenuto);
+    if (::fchmod(aperto_.Numero(), permessi) != 0 || ::fsync(aperto_.Numero()) != 0)
+      LanciaErrno(errno, errore::PercorsoNonTrovato);
+    aperto_.Chiudi();
+  }
+
+  void MettiAlPostoDi(const std::filesystem::path& file) {
+    if (::rename(percorso_.c_str(), file.c_str()) != 0) LanciaErrno(errno, errore::PercorsoNonTrovato);
+    percorso_.clear();
+  }
+
+private:
+  std::string percorso_;
+  Descrittore aperto_;
+};
+
+// Permissions of a file that takes the place of this one: its own, else those of any new file.
+mode_t PermessiPer(const std::filesystem::path& file) {
+  if (const auto vecchio = Stato(file)) return vecchio->st_mode & 07777U;
+  const mode_t maschera = ::umask(0);
+  ::umask(maschera);
+  return 0666U & ~maschera;
+}
+
 } // namespace
 
 std::string LeggiFileOspite(const std::filesystem::path& file, std::size_t massimo) {
@@ -119,16 +167,19 @@ std::string LeggiFileOspite(const std::filesystem::path& file, std::size_t massi
 }
 
 void ScriviFileOspite(const std::filesystem::path& file, std::string_view contenuto) {
-  const auto madre = file.parent_path();
-  const std::filesystem::path cartella = madre.empty() ? "." : madre;
-  const auto statoCartella = Stato(cartella);
-  if (!statoCartella) LanciaErrno(errno, errore::PercorsoNonTrovato);
-  if (!S_ISDIR(statoCartella->st_mode)) throw Errore(errore::PercorsoNonTrovato);
-  ControllaScrittura(file, cartella, contenuto.size());
+  ControllaScrittura(file, CartellaDi(file), contenuto.size());
   Descrittore aperto(::open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
   if (aperto.Numero() < 0) LanciaErrno(errno, errore::PercorsoNonTrovato);
   ScriviTutto(aperto.Numero(), contenuto);
   aperto.Chiudi();
+}
+
+void RimpiazzaFileOspite(const std::filesystem::path& file, std::string_view contenuto) {
+  const auto cartella = CartellaDi(file);
+  ControllaScrittura(file, cartella, contenuto.size());
+  FileProvvisorio nuovo(cartella);
+  nuovo.Riempi(contenuto, PermessiPer(file));
+  nuovo.MettiAlPostoDi(file);
 }
 
 } // namespace lirmeto

@@ -19,4 +19,8 @@ inline constexpr std::size_t FileIntero = std::numeric_limits<std::size_t>::max(
 // while writing; 70 not allowed; 75 a folder, or no write permission for anybody; 76 its folder is not there.
 void ScriviFileOspite(const std::filesystem::path& file, std::string_view contenuto);
 
+// The same, but through a new file beside it that takes its place when it is whole: a file that exists is replaced,
+// with its permissions, or stays as it was.
+void RimpiazzaFileOspite(const std::filesystem::path& file, std::string_view contenuto);
+
 } // namespace lirmeto

@@ -1,28 +1,19 @@
 #include <piattaforma/orologi.h>
 
-#include <ctime>
-
 namespace lirmeto {
 
-namespace {
-
-std::tm TempoLocale() {
-  const std::time_t adesso = std::time(nullptr);
+Istante IstanteLocale(std::time_t momento) {
   std::tm tempo{};
-  ::localtime_r(&adesso, &tempo);
-  return tempo;
+  ::localtime_r(&momento, &tempo);
+  return {{tempo.tm_year + 1900, tempo.tm_mon + 1, tempo.tm_mday}, {tempo.tm_hour, tempo.tm_min, tempo.tm_sec}};
 }
 
-} // namespace
-
 Data OrologioDiSistema::Oggi() const {
-  const std::tm tempo = TempoLocale();
-  return {tempo.tm_year + 1900, tempo.tm_mon + 1, tempo.tm_mday};
+  return IstanteLocale(std::time(nullptr)).data;
 }
 
 Ora OrologioDiSistema::Adesso() const {
-  const std::tm tempo = TempoLocale();
-  return {tempo.tm_hour, tempo.tm_min, tempo.tm_sec};
+  return IstanteLocale(std::time(nullptr)).ora;
 }
 
 } // namespace lirmeto

@@ -3,7 +3,12 @@
 
 #include <base/macchina.h>
 
+#include <ctime>
+
 namespace lirmeto {
+
+// A moment of the host as local date and time.
+[[nodiscard]] Istante IstanteLocale(std::time_t momento);
 
 // Local date and time.
 class OrologioDiSistema final : public Orologio {

@@ -1,5 +1,8 @@
+#include <piattaforma/collegamenti_desktop.h>
 #include <piattaforma/errori_ospite.h>
+#include <piattaforma/estrazione.h>
 #include <piattaforma/processi_linux.h>
+#include <piattaforma/versione_eseguibile.h>
 
 #include <base/errore.h>
 #include <base/testo.h>
@@ -13,6 +16,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <pwd.h>
 #include <spawn.h>
 #include <sys/stat.h>
@@ -59,17 +63,23 @@ public:
       ::posix_spawn_file_actions_addopen(&azioni_, canale, "/dev/null", O_WRONLY, 0);
   }
 
-  // Starts and waits; the answer is the error of the start, 0 when it went.
-  int Esegui(std::vector<std::string> parole, std::vector<std::string> ambiente, bool cercaNelPath) {
-    pid_t figlio = 0;
+  // Starts; the answer is the error of the start, 0 when it went.
+  int Inizia(std::vector<std::string> parole, std::vector<std::string> ambiente, bool cercaNelPath) {
     const auto avvia = cercaNelPath ? ::posix_spawnp : ::posix_spawn;
-    const int esito = avvia(&figlio, parole.front().c_str(), &azioni_, &attributi_, Puntatori(parole).data(),
-                            Puntatori(ambiente).data());
+    return avvia(&figlio_, parole.front().c_str(), &azioni_, &attributi_, Puntatori(parole).data(),
+                 Puntatori(ambiente).data());
+  }
+
+  // Starts and waits.
+  int Esegui(std::vector<std::string> parole, std::vector<std::string> ambiente, bool cercaNelPath) {
+    const int esito = Inizia(std::move(parole), std::move(ambiente), cercaNelPath);
     if (esito != 0) return esito;
-    while (::waitpid(figlio, nullptr, 0) < 0 && errno == EINTR) {
+    while (::waitpid(figlio_, nullptr, 0) < 0 && errno == EINTR) {
     }
     return 0;
   }
+
+  [[nodiscard]] pid_t Figlio() const { return figlio_; }
 
 private:
   static std::vector<char*> Puntatori(std::vector<std::string>& testi) {
@@ -80,6 +90,7 @@ private:
     return puntatori;
   }
 
+  pid_t figlio_ = 0;
   posix_spawnattr_t attributi_{};
   posix_spawn_file_actions_t azioni_{};
 };
@@ -104,6 +115,23 @@ fs::path TrovaProgramma(const DiscoDischi& disco, std::string_view programma) {
   std::error_code guasto;
   if (!fs::is_regular_file(ospite, guasto)) throw Errore(errore::FileNonTrovato);
   return fs::absolute(ospite);
+}
+
+void ControllaAvvio(int esito) {
+  if (esito == ENOEXEC) throw Errore(errore::AutorizzazioneNegata); // a program, but not one of this host
+  if (esito != 0) LanciaErrno(esito, errore::FileNonTrovato);
+}
+
+// Whether a program that ends within a second went well; none for one that goes on working.
+std::optional<bool> FineEntroUnSecondo(pid_t processo) {
+  constexpr int giri = 100;
+  constexpr useconds_t pausa = 10'000;
+  for (int giro = 0; giro < giri; ++giro) {
+    int esito = 0;
+    if (::waitpid(processo, &esito, WNOHANG) == processo) return WIFEXITED(esito) && WEXITSTATUS(esito) == 0;
+    ::usleep(pausa);
+  }
+  return std::nullopt;
 }
 
 std::string_view UltimoComponente(std::string_view percorso) {
@@ -190,8 +218,47 @@ void ProcessiLinux::AvviaEAttendi(const std::string& programma, const std::vecto
   Avvio avvio;
   avvio.Cartella(ospite.parent_path());
   const int esito = avvio.Esegui(std::move(parole), AmbienteConDischi(disco_.Dischi()), false);
-  if (esito == ENOEXEC) throw Errore(errore::AutorizzazioneNegata); // a program, but not one of this host
-  if (esito != 0) LanciaErrno(esito, errore::FileNonTrovato);
+  ControllaAvvio(esito);
+}
+
+// Programs that were left alone and have ended meanwhile would stay in the table of processes.
+void ProcessiLinux::RaccogliFiniti() {
+  std::erase_if(lasciati_, [](int processo) { return ::waitpid(processo, nullptr, WNOHANG) != 0; });
+}
+
+void ProcessiLinux::ApriDocumento(const std::string& percorso) {
+  RaccogliFiniti();
+  if (!disco_.Esiste(percorso)) throw Errore(errore::FileNonTrovato);
+  ApriDalDesktop(fs::absolute(disco_.PercorsoOspite(percorso)).string(), percorso);
+}
+
+void ProcessiLinux::ApriPagina(const std::string& indirizzo) {
+  RaccogliFiniti();
+  ApriDalDesktop(indirizzo, indirizzo);
+}
+
+// `nome` is what the user knows it by.
+void ProcessiLinux::ApriDalDesktop(const std::string& cosa, const std::string& nome) {
+  Avvio avvio;
+  avvio.Muto();
+  const int esito = avvio.Inizia({"xdg-open", cosa}, AmbienteConDischi(disco_.Dischi()), true);
+  const auto fine = esito == 0 ? FineEntroUnSecondo(avvio.Figlio()) : std::optional(false);
+  if (!fine) lasciati_.push_back(avvio.Figlio());
+  if (!fine.value_or(true)) throw Errore(errore::AccessoAlFile, "Nessun programma apre " + nome);
+}
+
+void ProcessiLinux::ApriDocumentoCon(const std::string& programma, const std::string& percorso) {
+  RaccogliFiniti();
+  const fs::path eseguibile = TrovaProgramma(disco_, programma);
+  if (!disco_.Esiste(percorso)) throw Errore(errore::FileNonTrovato);
+  const fs::path ospite = fs::absolute(disco_.PercorsoOspite(percorso));
+  Avvio avvio;
+  avvio.Muto();
+  avvio.Cartella(ospite.parent_path());
+  const int esito =
+      avvio.Inizia({eseguibile.string(), ospite.filename().string()}, AmbienteConDischi(disco_.Dischi()), false);
+  ControllaAvvio(esito);
+  lasciati_.push_back(avvio.Figlio());
 }
 
 std::vector<long> ProcessiLinux::Elenca(std::string_view immagine) {
@@ -218,10 +285,25 @@ int ProcessiLinux::Termina(long processo) {
   return ::kill(static_cast<pid_t>(processo), SIGTERM) == 0 ? 0 : errno;
 }
 
+std::unique_ptr<ArchivioAperto> ProcessiLinux::ApriArchivio(std::string byte) {
+  return ApriArchivioZip(std::move(byte));
+}
+
 void ProcessiLinux::MostraDesktop() {
   Avvio avvio;
   avvio.Muto();
   static_cast<void>(avvio.Esegui({"wmctrl", "-k", "on"}, AmbienteConDischi(disco_.Dischi()), true));
+}
+
+void ProcessiLinux::CreaCollegamento(const Collegamento& collegamento) {
+  const fs::path programma = TrovaProgramma(disco_, collegamento.programma);
+  std::error_code ignorato;
+  ScriviCollegamento(
+      {collegamento.posto, AUtf8(collegamento.nome), programma, fs::absolute(disco_.Dischi(), ignorato)});
+}
+
+std::string ProcessiLinux::VersioneFile(std::string_view percorso) {
+  return VersioneDaEseguibile(disco_.Leggi(percorso));
 }
 
 } // namespace lirmeto

@@ -5,6 +5,7 @@
 
 #include <base/macchina.h>
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,17 +26,34 @@ public:
   // The program finds the same drives through LIRMETO_DISCHI.
   void AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti) override;
 
+  // Through the desktop's own opener, xdg-open. One that says within a second that it could not is error 75.
+  void ApriDocumento(const std::string& percorso) override;
+  void ApriPagina(const std::string& indirizzo) override;
+  void ApriDocumentoCon(const std::string& programma, const std::string& percorso) override;
+
   // Looked for in /proc by the name of the executable and by the name the process was called with; "NAME.exe" also fits
   // a process "NAME".
   [[nodiscard]] std::vector<long> Elenca(std::string_view immagine) override;
   [[nodiscard]] long QuestoProcesso() const override;
   [[nodiscard]] int Termina(long processo) override;
 
+  [[nodiscard]] std::unique_ptr<ArchivioAperto> ApriArchivio(std::string byte) override;
+
   // Through the window manager's own control program; nothing where that is not installed.
   void MostraDesktop() override;
 
+  // As .desktop files in the user's desktop and applications folders; a quick-launch bar is not there. The program
+  // finds the same drives through LIRMETO_DISCHI.
+  void CreaCollegamento(const Collegamento& collegamento) override;
+
+  [[nodiscard]] std::string VersioneFile(std::string_view percorso) override;
+
 private:
+  void RaccogliFiniti();
+  void ApriDalDesktop(const std::string& cosa, const std::string& nome);
+
   DiscoDischi& disco_;
+  std::vector<int> lasciati_; // programs started and not waited for: their ends are collected at the next start
 };
 
 // A text made fit to be one component of a path: what cannot be becomes "_"; empty or dots only becomes "utente".

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <fcntl.h>
 #include <functional>
 #include <string>
 #include <sys/resource.h>
@@ -127,6 +128,11 @@ TEST_F(ProvaDisco, DiceIlNumeroGiusto) {
       {"write pipe", 75, [&] { disco.Scrivi("C:\\tubo", "x"); }},
       {"write read-only", 75, [&] { disco.Scrivi("C:\\PROTETTO.DAT", "x"); }},
       {"write long name", 52, [&] { disco.Scrivi(lungo, "x"); }},
+      {"replace missing folder", 76, [&] { disco.Rimpiazza("C:\\manca\\x.dat", "x"); }},
+      {"replace folder", 75, [&] { disco.Rimpiazza("C:\\SUB", "x"); }},
+      {"replace pipe", 75, [&] { disco.Rimpiazza("C:\\tubo", "x"); }},
+      {"replace read-only", 75, [&] { disco.Rimpiazza("C:\\PROTETTO.DAT", "x"); }},
+      {"time of missing", 53, [&] { (void)disco.Modificato("C:\\manca.dat"); }},
       {"make existing", 75, [&] { disco.CreaCartella("C:\\SUB"); }},
       {"make over a file", 75, [&] { disco.CreaCartella("C:\\X.dat"); }},
       {"make without parent", 76, [&] { disco.CreaCartella("C:\\manca\\sub"); }},
@@ -165,6 +171,24 @@ TEST_F(ProvaDisco, DiscoPienoNonToccaIlVecchioFile) {
   std::signal(SIGXFSZ, segnale);
   EXPECT_EQ(disco.Leggi("C:\\x.dat"), "il vecchio contenuto");
   EXPECT_EQ(disco.Leggi("C:\\y.dat").size(), 1000U);
+}
+
+TEST_F(ProvaDisco, RimpiazzaTuttoONiente) {
+  const auto file = cartella.Metti("c/vero.dat", "il vecchio contenuto");
+  ::chmod(file.c_str(), 0640);
+  fs::create_hard_link(file, cartella.Radice() / "c/altro.dat");
+  fs::create_symlink("vero.dat", cartella.Radice() / "c/x.dat");
+  disco.Rimpiazza("C:\\X.dat", "nuovo");
+  EXPECT_EQ(disco.Leggi("C:\\vero.dat"), "nuovo") << "what the link leads to, not the link";
+  EXPECT_TRUE(fs::is_symlink(cartella.Radice() / "c/x.dat"));
+  EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
+  EXPECT_EQ(disco.Leggi("C:\\altro.dat"), "il vecchio contenuto") << "one in its place, not the same file";
+  EXPECT_EQ(disco.Elenca("C:\\", "").size(), 3U) << "nothing is left beside it";
+  const struct timespec allora[2] = {{1709247599, 0}, {1709247599, 0}}; // 29-2-2024, 22:59:59 UTC
+  ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), allora, 0), 0);
+  const Istante modificato = disco.Modificato("C:\\x.dat");
+  EXPECT_EQ(modificato.data.anno * 100 + modificato.data.mese, 202402 + (modificato.data.giorno == 1 ? 1 : 0));
+  EXPECT_EQ(modificato.ora.secondi, 59);
 }
 
 TEST(ProvaFileOspite, IlDiscoChePromettePostoENonNeHaE61) {

@@ -73,6 +73,42 @@ TEST_F(ProvaProcessi, AspettaLaFineNellaCartellaDelProgramma) {
             casa.string() + "\n" + cartella.Radice().string() + "\n<" + strano + ">\n<>\n<citt\xC3\xA0>\n");
 }
 
+// Puts a program of ours in the place of the desktop's opener.
+TEST_F(ProvaProcessi, UnDocumentoSiApreColProgrammaDelDesktopEChiFallisceLoDice) {
+  MettiProgramma("bin/xdg-open",
+                 "#!/bin/sh\necho \"$1\" > \"$0.detto\"\ncase \"$1\" in *rotto*) exit 3;; *lungo*) sleep 3;; esac\n");
+  const std::string prima = ::getenv("PATH");
+  ::setenv("PATH", (cartella.Radice() / "bin:").string().append(prima).c_str(), 1);
+  const auto apri = [&](const std::string& nome) {
+    cartella.Metti(fs::path("c") / nome, "x");
+    try {
+      processi.ApriDocumento("C:\\" + Maiuscolo(nome));
+    } catch (const Errore& errore) {
+      return errore.Numero();
+    }
+    return 0;
+  };
+  EXPECT_EQ(apri("a b;$(x).rtf"), 0);
+  EXPECT_EQ(CartellaProvvisoria::Prendi(cartella.Radice() / "bin/xdg-open.detto"),
+            (cartella.Radice() / "c/a b;$(x).rtf\n").string());
+  EXPECT_EQ(apri("lungo"), 0) << "it works on: nobody waits for it";
+  EXPECT_EQ(apri("rotto"), errore::AccessoAlFile);
+  EXPECT_THROW(processi.ApriDocumento("C:\\nulla.rtf"), Errore);
+  ::setenv("PATH", prima.c_str(), 1);
+}
+
+TEST_F(ProvaProcessi, UnVisualizzatoreParteNellaCartellaDelFile) {
+  MettiProgramma("c/p/vista", Racconta);
+  cartella.Metti("c/dati/Elenco.csv", "1;2");
+  processi.ApriDocumentoCon("C:\\P\\VISTA.EXE", "C:\\DATI\\ELENCO.CSV");
+  const fs::path detto = cartella.Radice() / "c/dati/detto";
+  for (int giro = 0; giro < 3000 && !CartellaProvvisoria::Prendi(detto).ends_with(">\n"); ++giro) ::usleep(1000);
+  EXPECT_EQ(CartellaProvvisoria::Prendi(detto),
+            (cartella.Radice() / "c/dati").string() + "\n" + cartella.Radice().string() + "\n<Elenco.csv>\n");
+  EXPECT_THROW(processi.ApriDocumentoCon("C:\\p\\manca.exe", "C:\\dati\\Elenco.csv"), Errore);
+  EXPECT_THROW(processi.ApriDocumentoCon("C:\\p\\vista.exe", "C:\\dati\\manca.csv"), Errore);
+}
+
 TEST_F(ProvaProcessi, IlProgrammaColSuoNomePrimaDelSostituto) {
   MettiProgramma("c/p/x.exe", "#!/bin/sh\necho exe > detto\n");
   MettiProgramma("c/p/x", "#!/bin/sh\necho nativo > detto\n");

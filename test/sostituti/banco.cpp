@@ -63,6 +63,11 @@ void DiscoInMemoria::Scrivi(std::string_view percorso, std::string_view contenut
   file[Chiave(percorso)] = contenuto;
 }
 
+Istante DiscoInMemoria::Modificato(std::string_view percorso) const {
+  if (!Esiste(percorso)) throw Errore(errore::FileNonTrovato);
+  return modificato;
+}
+
 void DiscoInMemoria::CreaCartella(std::string_view percorso) {
   if (Esiste(percorso)) throw Errore(errore::AccessoAlFile);
   if (!EsisteCartella(Genitore(Chiave(percorso)))) throw Errore(errore::PercorsoNonTrovato);
@@ -70,7 +75,9 @@ void DiscoInMemoria::CreaCartella(std::string_view percorso) {
 }
 
 void DiscoInMemoria::Copia(std::string_view da, std::string_view a) {
-  Scrivi(a, file.at(Chiave(da)));
+  const auto trovato = file.find(Chiave(da)); // a broken file can be copied: its last good content is kept so
+  if (trovato == file.end()) throw Errore(errore::FileNonTrovato);
+  Scrivi(a, trovato->second);
 }
 
 void DiscoInMemoria::Elimina(std::string_view percorso) {
@@ -98,6 +105,16 @@ Risposta DialoghiDiProva::Chiedi(std::string_view testo, std::string_view titolo
   return risposta;
 }
 
+std::string DialoghiDiProva::ScegliFileDaAprire(const RichiestaFile& richiesta) {
+  return ScegliFileDaSalvare(richiesta);
+}
+
+void DialoghiDiProva::Stampa(const Stampato& stampato) {
+  std::string testo = stampato.titolo + (stampato.orientamento == Orientamento::Verticale ? "/V" : "/O");
+  for (const auto riga : stampato.righe) testo += "|" + std::string(riga);
+  stampati.push_back(testo);
+}
+
 std::string DialoghiDiProva::ScegliFileDaSalvare(const RichiestaFile& richiesta) {
   detti.push_back({richiesta.cartella + richiesta.nome, richiesta.titolo});
   if (fileScelto == "*") throw Errore(errore::DialogoAnnullato);
@@ -106,6 +123,11 @@ std::string DialoghiDiProva::ScegliFileDaSalvare(const RichiestaFile& richiesta)
 
 Carattere DialoghiDiProva::ScegliCarattere(const Carattere&) {
   return carattereScelto;
+}
+
+void ProcessiDiProva::CreaCollegamento(const Collegamento& collegamento) {
+  if (negati.contains(collegamento.posto)) throw Errore(errore::PercorsoNonTrovato);
+  collegamenti.push_back(collegamento);
 }
 
 bool FinestreDiProva::Disponibile(std::string_view nome) const {
@@ -126,8 +148,8 @@ Banco::Banco() {
   for (const char* cartella :
        {"C:\\WINDOWS", "C:\\USERS", "C:\\USERS\\PROVA", "C:\\USERS\\PROVA\\DOCUMENTS", "C:\\USERS\\PROVA\\TEMP",
         "C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO", "C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO\\TEMP",
-        "C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO\\TECNICI", "C:\\PREGEO", "C:\\PREGEO\\ARCH", "C:\\PREGEO\\ARCH\\BACKUPDB",
-        "C:\\PREGEO\\EXE", "C:\\PREGEO\\ESTRATTI"})
+        "C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO\\TECNICI", "C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO\\MODELLI_STAMPA",
+        "C:\\PREGEO", "C:\\PREGEO\\ARCH", "C:\\PREGEO\\ARCH\\BACKUPDB", "C:\\PREGEO\\EXE", "C:\\PREGEO\\ESTRATTI"})
     disco.cartelle.emplace_back(cartella);
   MettiInstallazione(disco);
   CartelleSpeciali(ambiente);

@@ -3,12 +3,14 @@
 // said and answers from a script.
 
 #include <base/dialoghi.h>
+#include <base/errore.h>
 #include <base/macchina.h>
 #include <core/ambiente.h>
 
 #include <deque>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -17,9 +19,10 @@ namespace lirmeto::prova {
 // Files by their path, folders apart; upper case decides which is which.
 class DiscoInMemoria : public Disco {
 public:
-  std::map<std::string, std::string> file; // upper-cased path, content
-  std::map<std::string, int> rotti;        // upper-cased path, error number that reading or writing it gives
-  std::vector<std::string> cartelle;       // upper-cased
+  std::map<std::string, std::string> file;       // upper-cased path, content
+  std::map<std::string, int> rotti;              // upper-cased path, error number that reading or writing it gives
+  std::vector<std::string> cartelle;             // upper-cased
+  Istante modificato{{2026, 11, 21}, {9, 5, 7}}; // all files
 
   void Metti(const std::string& percorso, std::string contenuto);
   [[nodiscard]] std::string Contenuto(const std::string& percorso) const;
@@ -29,6 +32,8 @@ public:
   [[nodiscard]] std::string Leggi(std::string_view percorso) const override;
   [[nodiscard]] std::string LeggiInizio(std::string_view percorso, std::size_t byte) const override;
   void Scrivi(std::string_view percorso, std::string_view contenuto) override;
+  [[nodiscard]] Istante Modificato(std::string_view percorso) const override;
+  void Rimpiazza(std::string_view percorso, std::string_view contenuto) override { Scrivi(percorso, contenuto); }
   void CreaCartella(std::string_view percorso) override;
   void Copia(std::string_view da, std::string_view a) override;
   void Elimina(std::string_view percorso) override;
@@ -50,11 +55,16 @@ public:
   std::deque<Risposta> risposte; // to the next questions; the last one stays, none is No
   std::string fileScelto;        // "*" cancels
   Carattere carattereScelto;
+  std::vector<std::string> stampati; // title, "/V" or "/O", and the lines, each behind a bar
+  int stampantiScelte = 0;
 
   void Messaggio(std::string_view testo, std::string_view titolo, Gravita gravita) override;
   [[nodiscard]] Risposta Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) override;
+  [[nodiscard]] std::string ScegliFileDaAprire(const RichiestaFile& richiesta) override;
   [[nodiscard]] std::string ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
   [[nodiscard]] Carattere ScegliCarattere(const Carattere& attuale) override;
+  void ScegliStampante() override { ++stampantiScelte; }
+  void Stampa(const Stampato& stampato) override;
   void Avanzamento(std::string_view, std::size_t, std::size_t) override {}
 
   [[nodiscard]] std::string UltimoTesto() const { return detti.empty() ? std::string{} : detti.back().testo; }
@@ -78,14 +88,29 @@ class ProcessiDiProva : public Processi {
 public:
   std::map<std::string, std::vector<long>> vivi; // image name, processes
   std::vector<long> terminati;
-  std::vector<std::string> avviati;
+  std::vector<std::string> avviati;  // programs; "PROGRAM < DOCUMENT" when started on one
+  std::vector<std::string> aperti;   // documents
+  std::map<std::string, int> guasti; // program or document, error number that starting or opening it gives
+  std::vector<Collegamento> collegamenti;
+  std::set<PostoCollegamento> negati; // places that take no shortcut
   int esitoTermina = 0;
+  std::function<std::unique_ptr<ArchivioAperto>(std::string)> apriArchivio; // none: no archive can be read
 
   [[nodiscard]] CartelleDiSistema Cartelle() override {
     return {"C:\\users\\prova\\Documents", "C:\\WINDOWS", "C:\\users\\prova\\Temp", "C:\\Program Files (x86)"};
   }
   void AvviaEAttendi(const std::string& programma, const std::vector<std::string>&) override {
+    Guastati(programma);
     avviati.push_back(programma);
+  }
+  void ApriDocumento(const std::string& percorso) override {
+    Guastati(percorso);
+    aperti.push_back(percorso);
+  }
+  void ApriPagina(const std::string& indirizzo) override { aperti.push_back(indirizzo); }
+  void ApriDocumentoCon(const std::string& programma, const std::string& percorso) override {
+    Guastati(programma);
+    avviati.push_back(programma + " < " + percorso);
   }
   [[nodiscard]] std::vector<long> Elenca(std::string_view immagine) override { return vivi[std::string(immagine)]; }
   [[nodiscard]] long QuestoProcesso() const override { return 1; }
@@ -93,7 +118,20 @@ public:
     terminati.push_back(processo);
     return esitoTermina;
   }
+  [[nodiscard]] std::unique_ptr<ArchivioAperto> ApriArchivio(std::string byte) override {
+    if (!apriArchivio) throw Errore(errore::OltreLaFine);
+    return apriArchivio(std::move(byte));
+  }
   void MostraDesktop() override { avviati.emplace_back("desktop"); }
+  void CreaCollegamento(const Collegamento& collegamento) override;
+  [[nodiscard]] std::string VersioneFile(std::string_view percorso) override {
+    return percorso == "C:\\pregeo\\EXE\\PREGEO.EXE" ? "10.6.0.3" : throw Errore(errore::FileNonTrovato);
+  }
+
+private:
+  void Guastati(const std::string& nome) const {
+    if (const auto guasto = guasti.find(nome); guasto != guasti.end()) throw Errore(guasto->second);
+  }
 };
 
 class ImpostazioniInMemoria : public Impostazioni {
