@@ -17,13 +17,11 @@ namespace lirmeto {
 
 // How files are opened, where it could be done in more than one way:
 //
-//   an .LXB whose .DAT is missing     its rows are merged into the Libretto of
-//   the session an .LXB that is there and empty   changes nothing the value of
-//   a tag row            all that stands behind the first ">" of its field 1,
-//   up to the bar that closes it a file that cannot be read        Libretto,
-//   list and file name stay as they were, so that a later save does not write
-//   the
-//                                     old rows over the file that failed
+//   an .LXB whose .DAT is missing     its rows are merged into the Libretto of the session
+//   an .LXB that is there and empty   changes nothing
+//   the value of a tag row            all that stands behind the first ">" of its field 1, up to the bar that closes it
+//   a file that cannot be read        Libretto, list and file name stay as they were, so that a later save does not
+//                                     write the old rows over the file that failed
 //   a folder given as a file          error 75
 
 namespace {
@@ -162,6 +160,14 @@ void RiempiList1(Ambiente& ambiente) {
   MettiZeroNove(righe, sessione);
   sessione.List1.Riempi(std::move(righe));
   sessione.EtichettaPosizione = EtichettaPosizione(sessione.List1);
+}
+
+void AssicuraZeroNoveInList1(Ambiente& ambiente) {
+  AssicuraRigheZeroNove(ambiente);
+  ListaRighe righe = ambiente.sessione.List1.Righe();
+  const std::size_t prima = righe.size();
+  MettiZeroNove(righe, ambiente.sessione);
+  if (righe.size() != prima) ambiente.sessione.List1.Riempi(std::move(righe));
 }
 
 void CaricaLibrettoInList1(Ambiente& ambiente) {

@@ -21,6 +21,16 @@ struct ContenutoPdf {
   std::string ditta;                   // the owners, lines at CR LF
 };
 
+// A section of a .PDF of an act: a view into its bytes.
+struct SezionePdf {
+  double numero = 0;
+  std::string_view contenuto;
+};
+
+// The sections in the order of the file, those of numbers that nobody knows too. A piece without "]|" is broken and
+// passed over; one that nothing closes ends with the file.
+[[nodiscard]] std::vector<SezionePdf> DividiSezioniPdf(std::string_view byte);
+
 // A section is "[TAG" number "]|" content "[/TAG"; its rows stand between
 // "<nr>". Numbers: 1000, 2000, 3000, 4000, 5000; any other is passed over. The
 // last row of a section counts also when no "<nr>" closes it.
@@ -52,6 +62,9 @@ void ApriLibretto(Ambiente& ambiente, std::string_view percorso);
 // Fills the row list from Libretto and puts rows 0 and 9 where they belong;
 // then DecoZeroNove.
 void CaricaLibrettoInList1(Ambiente& ambiente);
+
+// Puts rows 0 and 9 where they belong in the row list as it stands.
+void AssicuraZeroNoveInList1(Ambiente& ambiente);
 
 // Fills the row list from Libretto without deriving anything; sets the position
 // label.

@@ -60,6 +60,11 @@ void ElencoRighe::SelezionaIntervallo(std::size_t primo, std::size_t ultimo, boo
   ++versioneSelezione_;
 }
 
+void ElencoRighe::SelezionaSe(const std::function<bool(std::string_view)>& vale) {
+  for (std::size_t i = 0; i < righe_.size(); ++i) selezionate_[i] = vale(righe_[i]);
+  ++versioneSelezione_;
+}
+
 std::size_t ElencoRighe::QuanteSelezionate() const {
   return static_cast<std::size_t>(std::count(selezionate_.begin(), selezionate_.end(), true));
 }

@@ -33,6 +33,8 @@ public:
   [[nodiscard]] bool Selezionata(std::size_t indice) const { return selezionate_[Controlla(indice)]; }
   void Seleziona(std::size_t indice, bool si);
   void SelezionaIntervallo(std::size_t primo, std::size_t ultimo, bool si);
+  // Selects the rows that satisfy the test and no others.
+  void SelezionaSe(const std::function<bool(std::string_view)>& vale);
   [[nodiscard]] std::size_t QuanteSelezionate() const;
 
   // Removes the selected rows from `primo` on; the answer is how many went.

@@ -14,9 +14,9 @@ namespace lirmeto {
 //
 //   the last row of a section         counts also when no "<nr>" closes it
 //   "9|" of an owners' row            is taken off its beginning only
-//   a file without a section 3000     no extract is looked for and no message
-//   is shown a piece without "]|"              is broken and passed over no
-//   section 1000 and no 2000       error 5: there is no libretto in it
+//   a file without a section 3000     no extract is looked for and no message is shown
+//   a piece without "]|"              is broken and passed over
+//   no section 1000 and no 2000       error 5: there is no libretto in it
 
 namespace {
 
@@ -49,11 +49,8 @@ void LeggiEstratto(ContenutoPdf& pdf, std::string_view contenuto) {
   pdf.estratto = Maiuscolo(Parte(contenuto, '|', 2));
 }
 
-void LeggiSezione(ContenutoPdf& pdf, std::string_view pezzo) {
-  const std::size_t inizio = pezzo.find("]|");
-  if (inizio == std::string_view::npos) return;
-  const double numero = Valore(pezzo.substr(0, inizio));
-  const std::string_view contenuto = pezzo.substr(inizio + 2);
+void LeggiSezione(ContenutoPdf& pdf, const SezionePdf& sezione) {
+  const auto [numero, contenuto] = sezione;
   if (numero == 1000) AggiungiRighe(pdf.righe1000, contenuto);
   if (numero == 2000) AggiungiRighe(pdf.righe2000, contenuto);
   if (numero == 3000) LeggiEstratto(pdf, contenuto);
@@ -79,10 +76,21 @@ std::string PrimaRiga(const Disco& disco, const std::string& percorso) {
 
 } // namespace
 
+std::vector<SezionePdf> DividiSezioniPdf(std::string_view byte) {
+  std::vector<SezionePdf> sezioni;
+  const Righe pezzi = Dividi(byte, "[TAG");
+  for (std::size_t i = 1; i < pezzi.size(); ++i) {
+    const std::string_view pezzo = pezzi[i].substr(0, pezzi[i].find("[/TAG"));
+    const std::size_t inizio = pezzo.find("]|");
+    if (inizio != std::string_view::npos)
+      sezioni.push_back({Valore(pezzo.substr(0, inizio)), pezzo.substr(inizio + 2)});
+  }
+  return sezioni;
+}
+
 ContenutoPdf LeggiSezioniPdf(std::string_view byte) {
   ContenutoPdf pdf;
-  const Righe pezzi = Dividi(byte, "[TAG");
-  for (std::size_t i = 1; i < pezzi.size(); ++i) LeggiSezione(pdf, pezzi[i].substr(0, pezzi[i].find("[/TAG")));
+  for (const SezionePdf& sezione : DividiSezioniPdf(byte)) LeggiSezione(pdf, sezione);
   return pdf;
 }
 

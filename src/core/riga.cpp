@@ -66,6 +66,17 @@ bool Riga6Gps(std::string_view riga) {
          Contiene(riga, "|PDOP=") || Contiene(riga, "|GDOP=");
 }
 
+// The marks hold five stars: most rows are passed over by that character.
+bool MarcaRelazioneOCensuario(std::string_view riga) {
+  if (Contiene(riga, "6|Dati per aggiornare il D.B. Censuario")) return true;
+  return riga.find('*') != std::string_view::npos && (Contiene(riga, InizioRelazione) || Contiene(riga, FineRelazione));
+}
+
+bool PuoEssereCommento(std::string_view riga) {
+  constexpr std::size_t lunghezzaMassima = 76;
+  return riga.size() < lunghezzaMassima && QuanteParti(riga, '|') == 3 && !MarcaRelazioneOCensuario(riga);
+}
+
 std::vector<std::string_view> RigheDi(std::string_view libretto) {
   auto righe = Dividi(libretto, FineRiga);
   if (!righe.empty() && righe.back().empty()) righe.pop_back();

@@ -28,10 +28,9 @@ struct RigaDivisa {
 
 // The general parser of rows.
 //   "2|101|323.57|100.2|38.9|3.6|SPIG|"  seven fields, UltimoCampo 6
-//   "2|101||38.9|"                       an empty field ends the count:
-//   UltimoCampo 1 "6|<39 characters or more>"          two fields, bars and all
-//   "7|3|1%|2%|1%|NC|12|12|500|"         UltimoVertice 4: a vertex has a value
-//   other than 0 and none of V R N T C P
+//   "2|101||38.9|"                       an empty field ends the count: UltimoCampo 1
+//   "6|<39 characters or more>"          two fields, bars and all
+//   "7|3|1%|2%|1%|NC|12|12|500|"         UltimoVertice 4: a vertex has a value other than 0 and none of V R N T C P
 // The text behind a closing bar is no field. Throws Errore 9 when a 302nd field
 // begins.
 [[nodiscard]] RigaDivisa SplitRiga(std::string_view riga);
@@ -45,6 +44,14 @@ struct RigaDivisa {
 
 // Rows of a libretto as views, without the empty part behind its last line end.
 [[nodiscard]] std::vector<std::string_view> RigheDi(std::string_view libretto);
+
+// Whether a row holds a mark of the Relazione Tecnica or the heading of the
+// Modello Censuario.
+[[nodiscard]] bool MarcaRelazioneOCensuario(std::string_view riga);
+
+// Whether a row 6 can be a comment: shorter than 76 characters, with exactly one
+// field between its bars, no mark and no heading.
+[[nodiscard]] bool PuoEssereCommento(std::string_view riga);
 
 // A note without "<PD>", "<PV>", "<P!>", "<00>", "<EL>", "<8P>", "<8=>",
 // "<8Q>", trimmed.

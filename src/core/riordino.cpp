@@ -13,22 +13,18 @@
 
 namespace lirmeto {
 
-// How rows are told apart and joined, where it could be done in more than one
-// way:
+// How rows are told apart and joined, where it could be done in more than one way:
 //
-//   a Relazione block without its closing mark     no block: its rows are
-//   judged one by one a row 6 that holds either Relazione mark       no
-//   comment: it is dropped when it stands outside a block a blank row no row
-//   the delete buttons                             every one empties its list
-//   only on Yes census rows of province GO                     only those that
-//   have all the fields are changed the proposal its rows go to List14 even
-//   where they are a Relazione block too
+//   a Relazione block without its closing mark     no block: its rows are judged one by one
+//   a row 6 that holds either Relazione mark       no comment: it is dropped when it stands outside a block
+//   a blank row                                    no row
+//   the delete buttons                             every one empties its list only on Yes
+//   census rows of province GO                     only those that have all the fields are changed
+//   the proposal                                   its rows go to List14 even where they are a Relazione block too
 
 namespace {
 
 constexpr std::size_t LunghezzaCensuario = 70;
-constexpr std::size_t LunghezzaMassimaCommento = 76;
-constexpr std::string_view TestoDatiCensuario = "6|Dati per aggiornare il D.B. Censuario";
 
 using Righe = std::vector<std::string_view>;
 
@@ -50,11 +46,6 @@ Blocco TrovaRelazione(const Righe& righe) {
   return blocco;
 }
 
-bool Commento(std::string_view riga) {
-  return riga.size() < LunghezzaMassimaCommento && QuanteParti(riga, '|') == 3 && !Contiene(riga, TestoDatiCensuario) &&
-         !HaMarca(riga, InizioRelazione) && !HaMarca(riga, FineRelazione);
-}
-
 using Lista = ListaRighe FormRiordinoRighe::*;
 
 // Class of a row 6; `prima` is the kind of the row before it. nullptr: no
@@ -64,7 +55,7 @@ Lista ClasseRiga6(std::string_view riga, double prima) {
   if (Contiene(riga, "6|DettaglioTipoAgg=")) return &FormRiordinoRighe::List12;
   if (riga.size() == LunghezzaCensuario) return &FormRiordinoRighe::List6;
   if (riga.starts_with("6| -")) return &FormRiordinoRighe::List15;
-  if (!Commento(riga)) return nullptr;
+  if (!PuoEssereCommento(riga)) return nullptr;
   return prima == 9 || prima == 0 ? &FormRiordinoRighe::List12 : &FormRiordinoRighe::List7;
 }
 
@@ -105,6 +96,13 @@ std::string RigaCensuarioGo(std::string_view riga) {
   campi[9] = larghi[2];
   campi[ultimoCampo] = "  ";
   return Unisci(campi, "|");
+}
+
+// The rows without the whole text they were found in.
+ListaRighe Copiate(const ListaRighe& righe) {
+  ListaRighe copiate;
+  for (const auto riga : righe) copiate.Aggiungi(riga);
+  return copiate;
 }
 
 } // namespace
@@ -213,6 +211,7 @@ void FormRiordinoRighe::AllAttivazione() {
 void FormRiordinoRighe::Conferma() {
   RicomponiLibretto();
   CaricaLibrettoInList1(ambiente_);
+  ambiente_.sessione.RigheScartate = Copiate(RigheScartate);
   ambiente_.sessione.PuntoErrore = "Decozero_127";
   ambiente_.sessione.EsitoForm = EsitoConfermato;
   Chiusa = true;
@@ -248,6 +247,7 @@ void subRiordinoRighe(Ambiente& ambiente) {
   form.EsplodiLibretto();
   form.RicomponiLibretto();
   CaricaLibrettoInList1(ambiente);
+  ambiente.sessione.RigheScartate = Copiate(form.RigheScartate);
   ambiente.sessione.PuntoErrore = "Decozero_116";
 }
 

@@ -65,10 +65,16 @@ void CreaCartella(Ambiente& ambiente, std::string_view percorso) {
 }
 
 void CreaCartelle(Ambiente& ambiente) {
+  for (const auto& cartella : CartelleDiLavoro(ambiente.sessione))
+    (void)Intrappola(ambiente, [&] { CreaCartella(ambiente, cartella); });
+}
+
+std::vector<std::string> CartelleDiLavoro(const Sessione& sessione) {
+  std::vector<std::string> cartelle;
+  cartelle.reserve(CartellePreviste.size());
   for (const auto& prevista : CartellePreviste)
-    (void)Intrappola(ambiente, [&] {
-      CreaCartella(ambiente, Radice(ambiente.sessione, prevista.base) + std::string(prevista.nome));
-    });
+    cartelle.push_back(Radice(sessione, prevista.base) + std::string(prevista.nome));
+  return cartelle;
 }
 
 void CartelleSpeciali(Ambiente& ambiente) {
@@ -135,6 +141,11 @@ std::string ComponenteFile(std::string_view nome) {
   if (nome == ".." || nome.find_first_of("\\/:") != std::string_view::npos)
     throw Errore(errore::NomeFileNonValido, "Nome di file non valido: \"" + std::string(nome) + "\"");
   return std::string(nome);
+}
+
+std::string PercorsoInCapitali(const Disco& disco, std::string_view percorso) {
+  std::string alto = Maiuscolo(percorso);
+  return !disco.Esiste(alto) && disco.Esiste(percorso) ? std::string(percorso) : alto;
 }
 
 std::string_view NomeDaPercorso(std::string_view percorso) {

@@ -19,6 +19,9 @@ void CreaCartella(Ambiente& ambiente, std::string_view percorso);
 // their order.
 void CreaCartelle(Ambiente& ambiente);
 
+// Their paths, in the same order.
+[[nodiscard]] std::vector<std::string> CartelleDiLavoro(const Sessione& sessione);
+
 // Asks the shell for its folders and derives the session's.
 void CartelleSpeciali(Ambiente& ambiente);
 
@@ -51,6 +54,10 @@ bool ApriForm(Ambiente& ambiente, std::string_view nome);
 // A text taken from data as one component of a path: throws Errore 52 when it
 // holds "\", "/" or ":" or is "..".
 [[nodiscard]] std::string ComponenteFile(std::string_view nome);
+
+// A path in capitals, as what comes from a command line is taken; as it was given where the capitals lead to nothing: a
+// host that tells spellings apart may have two folders of one name.
+[[nodiscard]] std::string PercorsoInCapitali(const Disco& disco, std::string_view percorso);
 
 // Last component of a path.
 [[nodiscard]] std::string_view NomeDaPercorso(std::string_view percorso);

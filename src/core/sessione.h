@@ -36,11 +36,17 @@ struct Sessione {
   std::string EstrattoAssociato; // file name of the associated extract (.EMP)
   std::string MisurateAssociate; // file name of the measured-distance archive
   std::string PropostaLibretto;  // the update proposal, from its heading to the end
+  std::string PropostaStralcio;  // rows of a separation for GeneraLibrettoConStralcio; no command fills it yet
 
   // The row list of the main window and the text of its position label, "3 /
   // 120".
   ElencoRighe List1;
   std::string EtichettaPosizione;
+  ListaRighe RigheScartate; // rows of no class that the last reorder dropped
+
+  // Reports and documents.
+  std::string NomeBaseStampa;   // path, without extension, of the current report's .TXT and .CSV; empty for none
+  std::string ElencoPossessori; // possessors chosen for the documents, lines at CR LF
 
   // What a map extract leaves when it is read.
   std::string EstrattoFile;
@@ -50,7 +56,15 @@ struct Sessione {
   std::string EstrattoProvincia;
   std::string EstrattoFoglio;
   std::string EstrattoParticelle;
-  std::string EstrattoDitte;
+  std::string EstrattoDitte;           // owners, what stands behind "6|DITTA|"; lines at CR LF
+  std::string EstrattoTestoParticelle; // what stands behind "6|PARTICELLA|"; lines at CR LF
+  std::string EstrattoMesi;            // calendar months since the release
+  std::string EstrattoEstMedio;        // metres, whole
+  std::string EstrattoSette;           // its rings, a row each, at CR LF; the last of the file first
+  std::string EstrattoSetteBase;       // those without "+" and "-"
+  std::string EstrattoSetteSegno;      // those with one
+  std::string VersionePregeoEstratto;  // "10" or "9"
+  std::string TipoEstratto;            // "AUTOALLESTITO" or empty
 
   // Derived from rows 0 and 9 by DecoZeroNove.
   std::string DataLibretto; // ddmmyyyy
@@ -98,9 +112,11 @@ struct Sessione {
   double RadGon = 200 / std::numbers::pi; // radians to grads
   double GonRad = std::numbers::pi / 200; // grads to radians
   std::int16_t EsitoForm = 0;             // set by a modal form before it closes: 1 confirmed, -1 cancelled
-  int ModoEditor = 0;                     // what KR_EditorGen edits: 381 the libretto
-  std::int16_t ModoDaPregeo = 0;          // 0 listing for import, 1 listing for DXF
-  std::string ComandoTag;                 // command line, later the current tag command
+  std::int16_t EsitoSelezione = 0; // the same kind of answer: 1 a comune or a possessor was taken, -1 nothing was
+  int ModoEditor = 0;              // what KR_EditorGen edits: 381 the libretto, 382 a report, 383 the census memo
+  std::int16_t HostGrafica = 0;    // form that hosts the drawing last under the pointer
+  std::int16_t ModoDaPregeo = 0;   // 0 listing for import, 1 listing for DXF
+  std::string ComandoTag;          // command line, later the current tag command
   std::string UltimaTag;
   std::string ParametroTag;
 
@@ -111,6 +127,8 @@ struct Sessione {
 };
 
 inline constexpr int ModoEditorLibretto = 381;
+inline constexpr int ModoEditorStampa = 382;
+inline constexpr int ModoEditorCensuario = 383;
 inline constexpr std::int16_t EsitoConfermato = 1;
 inline constexpr std::int16_t EsitoAnnullato = -1;
 

@@ -13,12 +13,12 @@ namespace lirmeto {
 
 // How rows 0 and 9 are taken, where it could be done in more than one way:
 //
-//   a first or second row of another kind, or blank   RigaZero and RigaNove
-//   keep what they had a Libretto that is still short once it has its derived
-//   as it is, not rebuilt again default rows a code that no table holds the
-//   names stay as they were Cognome and Nome stay as PREGEO.INI or the
-//   surveyor's file gave them a date of fewer than eight characters first four,
-//   century, last two
+//   a first or second row of another kind, or blank   RigaZero and RigaNove keep what they had
+//   a Libretto that is still short once it has its    derived as it is, not rebuilt again
+//   default rows
+//   a code that no table holds                        the names stay as they were
+//   Cognome and Nome                                  stay as PREGEO.INI or the surveyor's file gave them
+//   a date of fewer than eight characters             first four, century, last two
 
 namespace {
 

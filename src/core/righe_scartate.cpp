@@ -1,0 +1,24 @@
+#include <core/righe_scartate.h>
+
+#include <base/numeri.h>
+#include <base/testo.h>
+#include <core/mostra_errore.h>
+
+namespace lirmeto {
+
+std::string AvvisoRigheScartate(const Sessione& sessione) {
+  const std::size_t quante = sessione.RigheScartate.size();
+  if (quante == 0) return {};
+  if (quante == 1) return "Il riordino ha scartato 1 riga senza classe";
+  return "Il riordino ha scartato " + TestoIntero(static_cast<long long>(quante)) + " righe senza classe";
+}
+
+void FormRigheScartate::Copia() {
+  (void)Intrappola(ambiente_, [&] {
+    std::string testo;
+    for (const auto riga : Righe()) testo.append(riga).append(FineRiga);
+    ambiente_.appunti.MettiTesto(testo);
+  });
+}
+
+} // namespace lirmeto
