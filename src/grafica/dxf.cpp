@@ -1,0 +1,120 @@
+#include <grafica/esportazioni.h>
+#include <grafica/grafica.h>
+
+#include <base/errore.h>
+#include <base/numeri.h>
+#include <base/testo.h>
+
+#include <algorithm>
+#include <array>
+
+namespace lirmeto {
+
+namespace {
+
+constexpr std::array<std::string_view, 12> Strati = {"LINEE_SCHEMA", "LINEE_TRIANGOLO", "LINEE_ESTRATTO", "LINEE_RC",
+                                                     "LINEE_RT",     "LINEE_RP",        "LINEE_NC",       "LINEE_NP",
+                                                     "LINEE_NT",     "PUNTI_Q",         "PUNTI_D",        "PUNTI_HPS"};
+
+// Group codes and their values, a line each.
+class ScrittoreDxf {
+public:
+  explicit ScrittoreDxf(std::size_t byte) { testo_.reserve(byte); }
+
+  void Riga(std::string_view testo) {
+    testo_ += testo;
+    testo_ += FineRiga;
+  }
+  void Gruppo(std::string_view codice, std::string_view valore) {
+    Riga(codice);
+    Riga(valore);
+  }
+  void Entita(std::string_view genere, std::string_view strato) {
+    Gruppo(" 0", genere);
+    Gruppo(" 8", strato);
+  }
+  void Numero(std::string_view codice, double valore) { Gruppo(codice, TestoPieno(valore)); }
+  void Colore(const std::int16_t colore) { Gruppo(" 62", TestoIntero(colore)); }
+  void Posto(double x, double y) {
+    Numero(" 10", x);
+    Numero(" 20", y);
+  }
+
+  [[nodiscard]] std::string Prendi() { return std::move(testo_); }
+
+private:
+  std::string testo_;
+};
+
+void ScriviStrati(ScrittoreDxf& dxf, const PuntoGrafica& primo) {
+  for (const auto strato : Strati) {
+    dxf.Entita("POINT", strato);
+    dxf.Posto(primo.X, primo.Y);
+  }
+}
+
+void ScriviPunto(ScrittoreDxf& dxf, const PuntoGrafica& punto) {
+  dxf.Entita("POINT", "PUNTI_S");
+  dxf.Colore(punto.Colore);
+  dxf.Posto(punto.X, punto.Y);
+  dxf.Entita("TEXT", "PUNTI_N");
+  dxf.Posto(punto.X, punto.Y);
+  dxf.Colore(punto.Colore);
+  dxf.Gruppo(" 40", "1");
+  dxf.Gruppo(" 1", Taglia(SuUnaRiga(punto.Nome)));
+}
+
+void ScriviLinea(ScrittoreDxf& dxf, const LineaGrafica& linea, std::string_view strato) {
+  dxf.Entita("LINE", strato);
+  dxf.Colore(linea.Colore);
+  dxf.Posto(linea.X1, linea.Y1);
+  dxf.Numero(" 11", linea.X2);
+  dxf.Numero(" 21", linea.Y2);
+}
+
+} // namespace
+
+std::string StratoLinee::Di(const LineaGrafica& linea) {
+  const auto diColore = [&](std::string_view lettera) { (nome_ = prefisso_) += lettera; };
+  if (linea.Colore == colore::Nero) diColore("N");
+  if (linea.Colore == colore::BluChiaro) diColore("B");
+  if (linea.Colore == colore::RossoChiaro) diColore("R");
+  std::string strato = nome_;
+  if (linea.Stile == stile::Continuo) strato += 'C';
+  if (linea.Stile == stile::Tratteggiato) strato += 'T';
+  if (linea.Stile == stile::Punteggiato) strato += 'P';
+  return strato;
+}
+
+std::string SuUnaRiga(std::string_view testo) {
+  std::string riga(testo);
+  std::replace_if(
+      riga.begin(), riga.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+  return riga;
+}
+
+std::string TestoDXF(const ArchivioGrafica& archivio, bool nomiSpenti) {
+  if (archivio.Punti().empty()) throw Errore(errore::IndiceFuoriIntervallo);
+  constexpr std::size_t bytePunto = 200;
+  constexpr std::size_t byteLinea = 140;
+  ScrittoreDxf dxf((archivio.Punti().size() + Strati.size()) * bytePunto + archivio.Linee().size() * byteLinea);
+  dxf.Gruppo(" 0", "SECTION");
+  dxf.Gruppo(" 2", "ENTITIES");
+  ScriviStrati(dxf, archivio.Punti().front());
+  for (const PuntoGrafica& punto : archivio.Punti())
+    if (nomiSpenti || punto.Nome.starts_with(' ')) ScriviPunto(dxf, punto);
+  StratoLinee strato("LINEE_");
+  for (const LineaGrafica& linea : archivio.Linee()) ScriviLinea(dxf, linea, strato.Di(linea));
+  dxf.Gruppo("  0", "ENDSEC");
+  dxf.Gruppo("  0", "EOF");
+  return dxf.Prendi();
+}
+
+std::string Grafica::KR_SalvaDXF() {
+  ambiente_.sessione.PuntoErrore = "KR_SalvaDXF";
+  std::string percorso = ambiente_.sessione.CartellaProgramma + "\\GraficaPF.DXF";
+  ambiente_.disco.Scrivi(percorso, TestoDXF(Archivio(), Vista().Check2));
+  return percorso;
+}
+
+} // namespace lirmeto

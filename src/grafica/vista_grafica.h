@@ -1,0 +1,25 @@
+#pragma once
+// What is seen of the drawing store.
+
+namespace lirmeto {
+
+// Metres, but for `Rapporto` and the flags.
+struct VistaGrafica {
+  double Xmin = 0; // extent of the store, with its margin
+  double Ymin = 0;
+  double Xmax = 0;
+  double Ymax = 0;
+  double dX = 0; // size of the extent
+  double dY = 0;
+  double Xc = 0; // centre of the view
+  double Yc = 0;
+  double Zoom = 0;     // height of the view
+  double Rapporto = 1; // width over height of the surface
+  // Display flags, kept per user under "CONFIGURA_GRAFICA1".
+  bool Check1 = false; // PROPOSTASINO: the updated extract is painted over the original one
+  bool Check2 = false; // NOMISINO: the names of points are not painted
+  bool Check3 = false; // TOPONIMISINO: toponyms are left out of loading, extent and painting
+  bool Check4 = false; // PFSINO: fiducial points are left out of loading
+};
+
+} // namespace lirmeto

@@ -1,0 +1,217 @@
+#include "con_grafica.h"
+
+#include <base/testo.h>
+#include <core/servizi.h>
+#include <grafica/comandi_grafica.h>
+
+#include <algorithm>
+#include <random>
+#include <span>
+
+namespace lirmeto::prova {
+namespace {
+
+// What the index answers is what a walk over all points says.
+std::size_t PiuVicinoCamminando(std::span<const PuntoGrafica> punti, double x, double y) {
+  double minima = 100'000;
+  std::size_t indice = 0;
+  for (std::size_t i = 0; i < punti.size(); ++i)
+    if (const double distanza = DistanzaPiana(punti[i].X, punti[i].Y, x, y); distanza < minima) {
+      minima = distanza;
+      indice = i;
+    }
+  return indice;
+}
+
+std::string CoincidentiCamminando(std::span<const PuntoGrafica> punti) {
+  std::string testo;
+  for (std::size_t i = 0; i < punti.size(); ++i)
+    for (std::size_t j = i + 1; j < punti.size(); ++j)
+      if (DistanzaPiana(punti[i].X, punti[i].Y, punti[j].X, punti[j].Y) < 0.01)
+        testo += punti[i].Nome + " " + punti[j].Nome + " ";
+  return testo;
+}
+
+// Points scattered so that many share a place, a coordinate or a distance.
+struct Sparsi {
+  const char* nome;
+  double lato;  // metres
+  double passo; // they stand on multiples of it
+};
+
+class Vicinanza : public ConGrafica, public testing::WithParamInterface<Sparsi> {};
+
+TEST_P(Vicinanza, ComeCamminandoAncheMentreCrescono) {
+  std::mt19937 caso(4821);
+  std::uniform_real_distribution<double> da(-GetParam().lato, GetParam().lato);
+  const auto coordinata = [&] { return std::round(da(caso) / GetParam().passo) * GetParam().passo; };
+  for (int giro = 0; giro < 600; ++giro) {
+    if (giro == 400) grafica.KR_Clear();
+    grafica.KR_AggiungiPuntoGraf(Punto(std::to_string(giro) + "%", coordinata(), coordinata()));
+    for (int k = 0; k < 4; ++k) {
+      const double x = k % 2 == 0 ? coordinata() : da(caso) * 3;
+      const double y = k % 2 == 0 ? coordinata() : da(caso) * 3;
+      ASSERT_EQ(grafica.KR_IlPiuVicinoAlMouse(x, y), PiuVicinoCamminando(disegno.archivio.Punti(), x, y));
+    }
+  }
+  grafica.KR_PuntiCoincidenti();
+  EXPECT_EQ(banco.dialoghi.UltimoTesto(), CoincidentiCamminando(disegno.archivio.Punti()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Mappe, Vicinanza,
+                         testing::Values(Sparsi{"griglia", 10, 1}, Sparsi{"fogli", 1000, 0.001},
+                                         Sparsi{"sovrapposti", 0.03, 0.004}, Sparsi{"lontani", 90'000, 7000}),
+                         [](const auto& caso) { return caso.param.nome; });
+
+using Mouse = ConGrafica;
+
+TEST_F(Mouse, ISovrappostiSiLeggonoTutti) {
+  grafica.KR_AggiungiPuntoGraf(Punto("1%", 10, 20));
+  grafica.KR_AggiungiPuntoGraf(Punto("9%", 11, 20));
+  grafica.KR_AggiungiPuntoGraf(Punto("PF01", 10.004, 20.003));
+  grafica.KR_AggiungiPuntoGraf(Punto("2%", 10.02, 20));
+  grafica.Vista().Xc = 10;
+  grafica.Vista().Yc = 20;
+  grafica.MouseMove(0.001, 0, TastoMouse::Nessuno);
+  EXPECT_EQ(grafica.Label1.testo, "1% PF01");
+  EXPECT_TRUE(grafica.Label1.visibile && grafica.Label1.x == 10 && grafica.Label1.y == 20);
+  EXPECT_TRUE(grafica.UltimoNome == "PF01" && grafica.UltimoX == 10.004 && grafica.UltimoY == 20.003);
+  grafica.MouseMove(-200'000, 0, TastoMouse::Nessuno); // all too far: the first one
+  EXPECT_EQ(grafica.Label1.testo, "1% PF01");
+  grafica.KR_Clear();
+  grafica.MouseMove(5, 5, TastoMouse::Nessuno);
+  EXPECT_TRUE(grafica.Label1.testo.empty() && grafica.UltimoNome.empty() && grafica.UltimoX == 0);
+}
+
+TEST_F(Mouse, IlCentralePortaConSeIlPuntoPreso) {
+  grafica.Vista().Xc = 100;
+  grafica.Vista().Yc = 200;
+  grafica.MouseDown(7, -3, TastoMouse::Centrale);
+  for (const double x : {12.0, 9.0}) {
+    grafica.MouseMove(x, 4, TastoMouse::Centrale);
+    EXPECT_TRUE(grafica.CursoreSposta);
+    EXPECT_EQ(grafica.Vista().Xc + x, 107); // the grabbed place under the mouse
+    EXPECT_EQ(grafica.Vista().Yc + 4, 197);
+  }
+  EXPECT_EQ(superficie.disegni, 2);
+  grafica.MouseMove(0, 0, TastoMouse::Nessuno);
+  EXPECT_FALSE(grafica.CursoreSposta);
+  EXPECT_EQ(grafica.Vista().Xc, 98);
+  grafica.MouseDown(1, 1, TastoMouse::Destro);
+  EXPECT_EQ(superficie.menu, 1);
+}
+
+struct Strumenti : ConGrafica {
+  Strumenti() {
+    grafica.KR_AggiungiPuntoGraf(Punto("1%", 10.5, 20));
+    grafica.KR_AggiungiPuntoGraf(Punto("2%", 30, -0.25));
+    PreparaCartelle();
+  }
+  void PreparaCartelle() {
+    banco.sessione.CartellaProgramma = "C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO";
+    for (const char* cartella : {"", "\\TEMP"})
+      banco.disco.cartelle.push_back(banco.sessione.CartellaProgramma + cartella);
+  }
+  void Clicca(double x, double y) { grafica.MouseDown(x, y, TastoMouse::Sinistro); }
+  [[nodiscard]] std::string Contorno() const {
+    return banco.disco.Contenuto(banco.sessione.CartellaProgramma + "\\TEMP\\CONTORNO.TXT");
+  }
+};
+
+TEST_F(Strumenti, ContornoACatena) {
+  grafica.Strumento = "ContornoRosso";
+  Clicca(10, 20);
+  EXPECT_TRUE(grafica.Passo == 1 && grafica.NomePrimoPunto == "1%" && disegno.archivio.Linee().empty());
+  Clicca(30, 0);
+  grafica.Strumento = "CONTORNONERO";
+  Clicca(31, 0); // the kept one again: a line of no length
+  EXPECT_EQ(disegno.archivio.Linee(),
+            (std::vector<LineaGrafica>{{10.5, 20, 0, 30, -0.25, 0, 1, 12, 0}, {30, -0.25, 0, 30, -0.25, 0, 1, 0, 0}}));
+  EXPECT_EQ(Contorno(), "al punto  X=10.500  Y=20.000  Z=   0\r\n"
+                        "al punto  X=30.000  Y=-.250  Z=   0\r\n"
+                        "al punto  X=30.000  Y=-.250  Z=   0\r\n");
+}
+
+TEST_F(Strumenti, UnFileCheNonSiScriveSiDice) {
+  banco.disco.rotti["C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO\\TEMP\\CONTORNO.TXT"] = 75;
+  grafica.Strumento = "CONTORNONERO";
+  Clicca(10, 20);
+  EXPECT_NE(banco.dialoghi.UltimoTesto().find("sola lettura"), std::string::npos);
+}
+
+TEST_F(Strumenti, NuovoPuntoConsumaIlNome) {
+  grafica.Strumento = "NuovoPunto";
+  grafica.NomeNuovoPunto = "15*";
+  Clicca(29, 1);
+  const PuntoGrafica& punto = disegno.archivio.Punti().back();
+  EXPECT_TRUE(punto.Nome == "15*" && punto.X == 30 && punto.Y == -0.25 && punto.Testo == "SF");
+  EXPECT_TRUE(punto.Dimensione == 10 && punto.Font == "Courier New");
+  EXPECT_TRUE(grafica.NomeNuovoPunto.empty());
+}
+
+TEST_F(Strumenti, PuntoMedioEBilatera) {
+  for (const char* strumento : {"puntomedio", "PUNTOBILATERA"}) {
+    const std::size_t prima = disegno.archivio.Punti().size();
+    grafica.Strumento = strumento;
+    grafica.NomeNuovoPunto = "M*";
+    Clicca(10, 20);
+    EXPECT_TRUE(grafica.Passo == 1 && disegno.archivio.Punti().size() == prima);
+    Clicca(31, 0);
+    ASSERT_EQ(disegno.archivio.Punti().size(), prima + 1);
+    EXPECT_EQ(disegno.archivio.Punti().back().Nome, "M*");
+    EXPECT_TRUE(disegno.archivio.Punti().back().X == 20.25 && disegno.archivio.Punti().back().Y == 9.875);
+    EXPECT_TRUE(grafica.Passo == 0 && grafica.NomeNuovoPunto.empty());
+  }
+}
+
+TEST_F(Strumenti, SenzaStrumentoSiRidisegnaSoltanto) {
+  grafica.Strumento = "altro";
+  Clicca(10, 20);
+  EXPECT_TRUE(superficie.disegni == 1 && grafica.Vista().Xc == 0 && disegno.archivio.Punti().size() == 2);
+}
+
+TEST(Gancio, UnoAllaVoltaEGiuAllaFine) {
+  GancioGrafica gancio;
+  std::string passi;
+  gancio.Installa([&](bool avanti) { passi += avanti ? "+" : "-"; });
+  gancio.Installa([&](bool) { passi += "altro"; });
+  for (const std::int32_t passo : {120, -120, 1, 0}) gancio.Messaggio(522, passo * 65536);
+  gancio.Messaggio(522, 20'000); // rounds to no step at all: back
+  EXPECT_EQ(passi, "+-+--");
+  gancio.Messaggio(519, 0);
+  EXPECT_EQ(gancio.Pan(), -1);
+  gancio.Messaggio(512, 0);
+  EXPECT_EQ(gancio.Pan(), 0);
+  gancio.Messaggio(130, 0);
+  EXPECT_FALSE(gancio.Installato());
+  gancio.Messaggio(522, 120 * 65536);
+  EXPECT_EQ(passi.size(), 5U);
+}
+
+// Which entry asks the surface, writes a file, or speaks.
+TEST_F(Strumenti, VociDellaBarraEDelMenu) {
+  grafica.Toolbar(1);
+  grafica.mnuZoom1(2);
+  EXPECT_EQ(superficie.copie, 2);
+  EXPECT_EQ(banco.dialoghi.detti.back().testo + "/" + banco.dialoghi.detti.back().titolo,
+            "Immagine Copiata negli Appunti di Windows./Copia Raster");
+  grafica.mnuZoom1(3);
+  EXPECT_EQ(superficie.stampe, 1);
+  banco.dialoghi.risposte = {Risposta::No, Risposta::Si};
+  grafica.Toolbar(4);
+  EXPECT_TRUE(banco.processi.aperti.empty());
+  grafica.mnuZoom1(5);
+  const std::string file = banco.sessione.CartellaProgramma + "\\GraficaPF.DXF";
+  EXPECT_EQ(banco.processi.aperti, std::vector<std::string>{file});
+  EXPECT_EQ(banco.dialoghi.detti[banco.dialoghi.detti.size() - 2].testo, "Salvato il file \r\n" + file);
+  EXPECT_EQ(banco.dialoghi.detti.back().titolo, "Apertura file DXF ");
+  grafica.Toolbar(5);
+  EXPECT_EQ(banco.processi.avviati, std::vector<std::string>{banco.sessione.CartellaProgramma + "\\print.exe"});
+  grafica.KR_Clear();
+  grafica.Toolbar(4); // nothing to save
+  EXPECT_EQ(banco.dialoghi.detti.back().titolo, "Rilevato errore");
+  EXPECT_EQ(VociToolbar().size() + VociMnuZoom1().size(), 19U);
+}
+
+} // namespace
+} // namespace lirmeto::prova
