@@ -1,41 +1,58 @@
 #pragma once
-// The general text editor. Its role here is the whole libretto (ModoEditor
-// 381).
+// The general text editor in its three roles, which ModoEditor tells: the whole libretto, a report, the census memo.
 
 #include <base/dialoghi.h>
 #include <core/ambiente.h>
 
 #include <string>
+#include <string_view>
 
 namespace lirmeto {
 
 class KR_EditorGen : public Modello {
 public:
-  explicit KR_EditorGen(Ambiente& ambiente) : ambiente_(ambiente) {}
+  // `stampa` is the report of role 382.
+  explicit KR_EditorGen(Ambiente& ambiente, ListaRighe* stampa = nullptr) : ambiente_(ambiente), stampa_(stampa) {}
 
   std::string Titolo; // window caption
   std::string Testo;  // the box: lines at CR LF
   bool Chiusa = false;
   bool Salvato = false; // the rows were changed
 
-  // Fills caption and box; deletes a stray \libretto.lib of the program's
-  // folder.
+  // Fills caption and box by ModoEditor; any other value is taken as the libretto's. In that role it deletes a stray
+  // \libretto.lib of the program's folder.
   void AlCaricamento();
 
-  // Button 1: the box's non-empty lines, trimmed, become the rows of the main
-  // list, and Libretto is rebuilt from it.
-  void Salva();
+  // Whether the box holds rows of a libretto, and whether it is the whole libretto. That role hides two buttons: the
+  // second one that closes, and the one that pastes, since the main window's own replaces the libretto.
+  [[nodiscard]] bool DiRighe() const { return modo_ != ModoEditorStampa; }
+  [[nodiscard]] bool DelLibretto() const { return modo_ == ModoEditorLibretto; }
 
-  // Buttons 0 and 5, and the window's close: asks whether to save. False: the
-  // user stays in the editor.
+  // Button 1. The box's non-blank lines, trimmed, become the rows of the main list, and Libretto is rebuilt from it;
+  // or all its lines become the report's; or its text the memo's file. False: an
+  // error was reported.
+  bool Salva();
+
+  // Buttons 0 and 5, and the window's close: asks whether to save. False: the user stays in the editor.
   bool Chiudi();
 
 private:
+  void CaricaLibretto();
+  void SalvaLibretto();
+  void SalvaStampa();
+  [[nodiscard]] std::string FileCensuario() const;
+  [[nodiscard]] std::string_view Domanda() const;
+
   Ambiente& ambiente_;
+  ListaRighe* stampa_;
+  int modo_ = ModoEditorLibretto;
 };
 
-// Opens the editor on the whole libretto; the list is filled again when it was
-// saved.
+// Opens the editor on the whole libretto; the list is filled again when it was saved.
 void subModificaDiretta(Ambiente& ambiente);
+
+// Opens it on the lines of a report, or on the memo of the census rows.
+void subModificaStampa(Ambiente& ambiente, ListaRighe& stampa);
+void subModificaCensuario(Ambiente& ambiente);
 
 } // namespace lirmeto

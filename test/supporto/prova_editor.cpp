@@ -54,5 +54,56 @@ TEST(Editor, NoNonCambiaNulla) {
   EXPECT_EQ(banco.sessione.List1.Indice(), 2);
 }
 
+// The other two roles: what is shown, and what a changed box becomes.
+struct Ruolo {
+  int modo;
+  std::string titolo;
+  std::string domanda;
+  std::string scritto; // in the box
+  std::string salvato; // the lines, each behind a bar, or the file
+};
+
+class RuoliDellEditor : public testing::TestWithParam<Ruolo> {};
+
+TEST_P(RuoliDellEditor, CaricaESalvaIlSuo) {
+  const std::string memo = "C:\\users\\prova\\Documents\\LIRMETO\\temp\\51FTP.CEN";
+  Banco banco;
+  ListaRighe stampa{"uno", "", "due "};
+  banco.disco.Metti(memo, "uno\n\ndue ");
+  banco.dialoghi.risposte = {Risposta::Annulla, Risposta::Si};
+  banco.finestre.utente = [&](Modello& modello) {
+    auto& editor = dynamic_cast<KR_EditorGen&>(modello);
+    EXPECT_EQ(banco.sessione.ModoEditor, GetParam().modo);
+    EXPECT_EQ(editor.Titolo, GetParam().titolo);
+    EXPECT_EQ(editor.Testo, GetParam().modo == 382 ? "uno\r\n\r\ndue " : "uno\r\n\r\ndue \r\n");
+    editor.Testo = GetParam().scritto;
+    EXPECT_FALSE(editor.Chiudi());
+    EXPECT_EQ(banco.sessione.ModoEditor, GetParam().modo);
+    EXPECT_TRUE(editor.Chiudi());
+  };
+  GetParam().modo == 382 ? subModificaStampa(banco.ambiente, stampa) : subModificaCensuario(banco.ambiente);
+  EXPECT_EQ(banco.dialoghi.UltimoTesto(), GetParam().domanda);
+  EXPECT_EQ(banco.sessione.ModoEditor, 0);
+  std::string righe;
+  for (const auto riga : stampa) righe += "|" + std::string(riga);
+  EXPECT_EQ(GetParam().modo == 382 ? righe : banco.disco.Contenuto(memo), GetParam().salvato);
+}
+
+INSTANTIATE_TEST_SUITE_P(Ruoli, RuoliDellEditor,
+                         testing::Values(Ruolo{382, "Edit Stampe", "Salvare Stampa modificata?", " a \r\n\nb\r\n",
+                                               "| a ||b|"},
+                                         Ruolo{382, "Edit Stampe", "Salvare Stampa modificata?", "", ""},
+                                         Ruolo{383, "Edit Modello Censuario", "Salvare il Modello modificato?",
+                                               " a\n\nb", " a\r\n\r\nb\r\n"}));
+
+TEST(Editor, CioCheNonSiScriveNonSiPerde) {
+  Banco banco;
+  banco.disco.rotti["C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO\\TEMP\\51FTP.CEN"] = 75;
+  banco.dialoghi.risposte = {Risposta::Si};
+  banco.finestre.utente = [&](Modello& modello) { EXPECT_FALSE(dynamic_cast<KR_EditorGen&>(modello).Chiudi()); };
+  subModificaCensuario(banco.ambiente);
+  EXPECT_TRUE(banco.dialoghi.UltimoTesto().ends_with("Nella Routine Edit Modello Censuario Buttonplus1_Click"));
+}
+
 } // namespace
 } // namespace lirmeto
