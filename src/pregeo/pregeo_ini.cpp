@@ -4,6 +4,10 @@
 #include <core/riga.h>
 #include <core/servizi.h>
 #include <core/tabelle.h>
+#include <core/zero_nove.h>
+#include <pregeo/pregeo_ini_scrittura.h>
+
+#include <utility>
 
 namespace lirmeto {
 
@@ -48,39 +52,6 @@ void LeggiUnita(std::string_view riga, std::string_view chiave, std::string& rad
   if (ultimi[0] >= 'A' && ultimi[0] <= 'Z' && ultimi[1] == ':') radice = ultimi;
 }
 
-std::string SiglaDaNome(const Sessione& sessione, std::string_view nome) {
-  std::string sigla;
-  for (const auto& provincia : sessione.Province)
-    if (sigla.empty() && provincia.nome == nome) sigla = provincia.codice;
-  return sigla;
-}
-
-// The line with its part 1 replaced; the line as it is when it has no "=".
-std::string ConValore(std::string_view riga, std::string_view valore) {
-  auto parti = Dividi(riga, "=");
-  if (parti.size() < 2) return std::string(riga);
-  parti[1] = valore;
-  return Unisci(parti, "=");
-}
-
-void ScriviRiga(const Sessione& sessione, std::string& testo, const std::string& prima) {
-  const std::string alto = Maiuscolo(testo);
-  const auto scrivi = [&testo](const std::string& valore) { testo = ConValore(testo, valore); };
-  const auto ha = [&alto](std::string_view chiave) { return Contiene(alto, chiave); };
-  const std::string altoPrima = Maiuscolo(prima);
-  if (ha("NUMERO=")) scrivi(sessione.NumeroIscrizione);
-  if (Contiene(Minuscolo(testo), "codc=")) scrivi(sessione.CodiceFiscale);
-  if (ha("COGNOME="))
-    scrivi(sessione.Cognome);
-  else if (ha("NOME="))
-    scrivi(altoPrima == SezioneTecnico ? sessione.Cognome + " " + sessione.Nome : sessione.Nome);
-  if (ha("QUALIFICA=")) scrivi(sessione.Qualifica);
-  if (ha("PROVINCIA=")) scrivi(altoPrima == SezioneProvincia ? sessione.SiglaProvincia : sessione.Provincia);
-  if (ha("SIGLA PROV."))
-    if (const std::string sigla = SiglaDaNome(sessione, sessione.Provincia); !sigla.empty()) scrivi(sigla);
-  if (ha("FILE_DISTANZETAF")) scrivi(sessione.MisurateAssociate);
-}
-
 void CaricaQualita(Ambiente& ambiente) {
   const std::string percorso = ambiente.sessione.RadicePregeo + "\\pregeo\\exe\\qualita.txt";
   if (ambiente.disco.Esiste(percorso))
@@ -106,14 +77,14 @@ void SistemaDatiPregeoIni(Sessione& sessione) {
 void LeggiPregeoIni(Ambiente& ambiente) {
   Sessione& sessione = ambiente.sessione;
   sessione.RadiceDati = sessione.RadicePregeo = "C:";
-  const std::string percorso = sessione.CartellaWindows + "\\PREGEO.INI";
+  const std::string percorso = PercorsoPregeoIni(sessione);
   if (!ambiente.disco.Esiste(percorso)) {
     ambiente.dialoghi.Messaggio("PREGEO.INI NON trovato - Verificare installazione Pregeo!", "Pregeo Non Installato");
     return;
   }
   const std::string testo = CaricaFileIntero(ambiente, percorso);
-  const auto righe = Dividi(testo, FineRiga);
-  sessione.RighePregeoIni.assign(righe.begin(), righe.end());
+  sessione.RighePregeoIni = RigheIni(testo);
+  const auto& righe = sessione.RighePregeoIni;
   if (RigheDi(testo).size() < 2) return;
   SistemaDatiPregeoIni(sessione);
   for (std::size_t i = 1; i < righe.size(); ++i) {
@@ -128,17 +99,31 @@ void LeggiPregeoIni(Ambiente& ambiente) {
 }
 
 void ScriviDatiPregeoIni(Sessione& sessione) {
-  auto& righe = sessione.RighePregeoIni;
-  for (std::size_t i = 0; i + 1 < righe.size(); ++i)
-    ScriviRiga(sessione, righe[i], i > 0 ? righe[i - 1] : std::string{});
+  sessione.RighePregeoIni = RigheIniConValori(std::move(sessione.RighePregeoIni), sessione);
 }
 
 void SalvaPregeoIni(Ambiente& ambiente) {
   Sessione& sessione = ambiente.sessione;
   if (sessione.RighePregeoIni.empty()) return; // no installation was found: nothing to write back
   ScriviDatiPregeoIni(sessione);
-  const auto& righe = sessione.RighePregeoIni;
-  ambiente.disco.Scrivi(sessione.CartellaWindows + "\\PREGEO.INI", Unisci({righe.begin(), righe.end()}, FineRiga));
+  const std::string percorso = PercorsoPregeoIni(sessione);
+  const std::string originale = ambiente.disco.Esiste(percorso) ? ambiente.disco.Leggi(percorso) : std::string{};
+  ambiente.disco.Scrivi(percorso, TestoIni(sessione.RighePregeoIni, originale));
+}
+
+void AggiornaConfigurazionePregeo(Ambiente& ambiente) {
+  Sessione& sessione = ambiente.sessione;
+  sessione.PuntoErrore = "AggiornaConfigurazionePregeo";
+  CaricaProvinceComuni(ambiente);
+  DecoZeroNove(ambiente);
+  if (sessione.Nome.empty()) {
+    const std::string tecnico = sessione.Tecnico + " ";
+    sessione.Cognome = Parte(tecnico, ' ', 0);
+    sessione.Nome = Parte(tecnico, ' ', 1);
+  }
+  for (const Comune& comune : sessione.Comuni) // the last row of the code stands
+    if (comune.codice == sessione.CodiceComune) sessione.SiglaProvincia = comune.provincia;
+  SalvaPregeoIni(ambiente);
 }
 
 } // namespace lirmeto

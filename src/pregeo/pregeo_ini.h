@@ -18,7 +18,11 @@ void SistemaDatiPregeoIni(Sessione& sessione);
 // Session fields into RighePregeoIni; lines of other keys pass unchanged.
 void ScriviDatiPregeoIni(Sessione& sessione);
 
-// ScriviDatiPregeoIni, then the file.
+// ScriviDatiPregeoIni, then the file: its bytes stay but for the values that changed, its line ends as they were.
 void SalvaPregeoIni(Ambiente& ambiente);
+
+// Takes the header of the open libretto as the defaults of Pregeo: province codes from the tables, then
+// SalvaPregeoIni. A session without a name gets surname and name from the surveyor's text.
+void AggiornaConfigurazionePregeo(Ambiente& ambiente);
 
 } // namespace lirmeto

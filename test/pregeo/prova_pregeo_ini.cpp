@@ -2,6 +2,7 @@
 
 #include <base/testo.h>
 #include <pregeo/pregeo_ini.h>
+#include <pregeo/pregeo_ini_scrittura.h>
 #include <pregeo/tecnico.h>
 
 #include <gtest/gtest.h>
@@ -97,6 +98,44 @@ TEST(PregeoIni, RiscrittoUgualeTranneLeChiavi) {
                                              "TECNICO]\r\nnome=VERDI ANNA\r\ncognome=VERDI\r\nnome=ANNA\r\n"
                                              "[PROV_DI_COMP]\r\nprovincia=PD\r\nprovincia=VENEZIA\r\nSIGLA "
                                              "PROV.=VE\r\nultimoprot=5\r\ncodc=CF\r\n");
+}
+
+class FiniRiga : public testing::TestWithParam<std::string> {};
+
+TEST_P(FiniRiga, RestanoComeErano) {
+  const std::string testo = Sostituisci(GetParam(), "@", std::string(1, '\0'));
+  EXPECT_EQ(TestoIni(RigheIni(testo), testo), testo);
+  Banco banco;
+  banco.disco.Metti(Percorso, testo);
+  LeggiPregeoIni(banco.ambiente);
+  banco.sessione.NumeroIscrizione = "7\r\nx=1"; // a value stays one line
+  SalvaPregeoIni(banco.ambiente);
+  EXPECT_EQ(banco.disco.Contenuto(Percorso), Sostituisci(testo, "numero=1", "numero=7  x=1"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Casi, FiniRiga,
+                         testing::Values("[x]\r\nnumero=1\r\n", "[x]\nnumero=1\n", "[x]\rnumero=1\ry=\"a\"\r",
+                                         "[x]\r\nnumero=1=2", "[x]\n\n\nnumero=1\r\n\r\n\r\n", "\r\n@@\r\r\nnumero=1\n",
+                                         "", "[x]"));
+
+TEST(PregeoIni, RigheCheIlFileNonHaFinisconoConCrLf) {
+  EXPECT_EQ(TestoIni({"a", "b", "c", ""}, "a\nb"), "a\nb\r\nc\r\n");
+  EXPECT_EQ(TestoIni({"a", "coda"}, "a\n"), "a\ncoda");
+  EXPECT_EQ(TestoIni({}, "a\n"), "");
+}
+
+TEST(PregeoIni, AggiornaPrendeIDatiDelLibretto) {
+  Banco banco;
+  LeggiPregeoIni(banco.ambiente);
+  banco.disco.Metti(Percorso, "[DATI TECNICO]\nnome=X\nqualifica=X\nSIGLA PROV.=X\n[PROV_DI_COMP]\nprovincia=X");
+  Sessione& s = banco.sessione;
+  s.RighePregeoIni = RigheIni(banco.disco.Contenuto(Percorso));
+  banco.Apri(Testo({"0|01022024|7|E098|0010|1|VERDI ANNA MARIA|ARCHITETTO|VENEZIA|", "9|1|2|3|4|v|FR|s|"}));
+  s.Nome.clear();
+  s.Comuni.push_back({"E098", "", "VE", "GORIZIA BIS"}); // the last row of a code stands
+  AggiornaConfigurazionePregeo(banco.ambiente);
+  EXPECT_EQ(banco.disco.Contenuto(Percorso), "[DATI TECNICO]\nnome=VERDI ANNA\nqualifica=ARCHITETTO\nSIGLA PROV.=VE\n"
+                                             "[PROV_DI_COMP]\nprovincia=VE");
 }
 
 TEST(Tecnico, ScrittoERiletto) {
