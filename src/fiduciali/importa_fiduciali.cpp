@@ -1,0 +1,118 @@
+#include <fiduciali/importa_fiduciali.h>
+
+#include <base/testo.h>
+#include <core/mostra_errore.h>
+#include <core/riga.h>
+#include <core/salvataggio.h>
+#include <fiduciali/misurate.h>
+#include <fiduciali/taf.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace lirmeto {
+
+// What could be done in more than one way:
+//
+//   a name in small letters       counts, and is kept in capitals
+//   blanks round a name           are no part of its length
+//   several records of a name     the first of the TAF counts
+//   "<quota>" in small letters    is the mark as well
+
+namespace {
+
+constexpr std::size_t LungoNome = 14; // "PF01/0010/G693"
+
+bool Riga8(std::string_view riga) {
+  return GenereRiga(riga) == 8;
+}
+
+std::string RigaPlanimetrica(const RecordTaf& taf) {
+  return "8|" + taf.nome + "|" + taf.nord + "|" + taf.est + "|" + taf.attendibilitaPlanimetrica + "|" +
+         taf.riferimentoPlanimetrico + "|";
+}
+
+std::string SeVuoto(const std::string& testo, std::string_view predefinito) {
+  return testo.empty() ? std::string(predefinito) : testo;
+}
+
+std::string RigaQuota(const RecordTaf& taf) {
+  const bool daManufatto = Contiene(Maiuscolo(taf.riferimentoAltimetrico), "<QUOTA>");
+  const std::string riferimento = daManufatto ? "Base Spigolo" : SeVuoto(taf.riferimentoAltimetrico, "NOTE:");
+  const std::string attendibilita = daManufatto ? "04" : SeVuoto(taf.attendibilitaAltimetrica, "04");
+  return "8|" + taf.nome + "|" + SeVuoto(taf.quota, "9999.000") + "|" + attendibilita + "|" + riferimento + "|";
+}
+
+// The rows of the list, with these in place of all rows 8 behind the first row.
+ListaRighe ConRighe8(ListaRighe righe, const std::vector<std::string>& nuove) {
+  auto& viste = righe.Viste();
+  const auto inizio = viste.begin() + (viste.empty() ? 0 : 1);
+  const auto posto = std::find_if(inizio, viste.end(), Riga8) - viste.begin();
+  viste.erase(std::remove_if(inizio, viste.end(), Riga8), viste.end());
+  const auto rimaste = static_cast<std::ptrdiff_t>(viste.size());
+  for (const std::string& riga : nuove) righe.Aggiungi(riga);
+  std::rotate(viste.begin() + posto, viste.begin() + rimaste, viste.end());
+  return righe;
+}
+
+} // namespace
+
+void FormImportaFiduciali::AlCaricamento() {
+  ambiente_.sessione.EsitoForm = EsitoAnnullato;
+  CaricaPieffe8();
+}
+
+void FormImportaFiduciali::CambiaRigheQuota(bool si) {
+  AggiungiRigheQuota = si;
+  CaricaPieffe8();
+}
+
+void FormImportaFiduciali::CaricaPieffe8() {
+  ambiente_.sessione.PuntoErrore = "CaricaPieffe8";
+  (void)Intrappola(ambiente_, [this] {
+    TrovaNelLibretto();
+    TrovaInTaf();
+  });
+}
+
+void FormImportaFiduciali::TrovaNelLibretto() {
+  List1.clear();
+  for (const auto riga : ambiente_.sessione.List1.Righe()) {
+    if (!Riga8(riga)) continue;
+    const std::string nome = Maiuscolo(Taglia(Parte(riga, '|', 1)));
+    if (nome.starts_with("PF") && nome.size() == LungoNome) List1.push_back(nome);
+  }
+  std::sort(List1.begin(), List1.end());
+  List1.erase(std::unique(List1.begin(), List1.end()), List1.end());
+}
+
+void FormImportaFiduciali::TrovaInTaf() {
+  List2.clear();
+  PuntiInTaf = 0;
+  ArchivioTaf archivio(ambiente_);
+  for (const std::string& nome : List1) {
+    const auto riga = archivio.Riga(nome);
+    if (riga.empty()) continue;
+    const RecordTaf taf = DecodificaRigaTAF(riga);
+    List2.push_back(RigaPlanimetrica(taf));
+    if (AggiungiRigheQuota) List2.push_back(RigaQuota(taf));
+    ++PuntiInTaf;
+  }
+}
+
+void FormImportaFiduciali::SostituisciRighe8() {
+  ambiente_.sessione.PuntoErrore = "FormImportaFiduciali";
+  Chiusa = Intrappola(ambiente_, [this] {
+    ElencoRighe& elenco = ambiente_.sessione.List1;
+    elenco.Riempi(ConRighe8(elenco.Righe(), List2));
+    AggiornaLibrettoMisure(ambiente_);
+    ambiente_.sessione.EsitoForm = EsitoConfermato;
+  });
+}
+
+void FormImportaFiduciali::Importa() {
+  (void)Intrappola(ambiente_, [this] { ImportaTafMisurate(ambiente_); });
+  CaricaPieffe8();
+}
+
+} // namespace lirmeto
