@@ -1,0 +1,20 @@
+#pragma once
+// The offset of a point from a base.
+
+#include <generazione/tabelle_disegno.h>
+
+#include <optional>
+
+namespace lirmeto {
+
+struct Squadratura { // metres
+  double ascissa = 0;
+  double ordinata = 0;
+};
+
+// Abscissa along AB from A, below zero behind A. The ordinate is above zero on the right of AB before the foot of A and
+// changes its sign behind it: meant so. None when A and B are one point.
+[[nodiscard]] std::optional<Squadratura> MisuraSquadro(const PuntoDisegno& a, const PuntoDisegno& b,
+                                                       const PuntoDisegno& c);
+
+} // namespace lirmeto
