@@ -1,29 +1,32 @@
 #include <applicazione/comandi.h>
 
+#include <applicazione/forme.h>
 #include <base/testo.h>
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace lirmeto {
 
 namespace {
 
 constexpr std::array ElencoPulsanti = {
-    Pulsante{10, "Nuovo Libretto Vuoto", "Libretto", Comando::NuovoLibretto},
+    Pulsante{10, "Nuovo Libretto Vuoto", "Libretto", Comando::NuovoLibrettoVuoto},
     Pulsante{9, "Apri Libretto da File", "Libretto", Comando::NessunaAzione},
     Pulsante{21, "Apri Libretto da Pregeo", "Libretto", Comando::NessunaAzione},
     Pulsante{4, "Salva Libretto", "Libretto", Comando::SalvaLibretto},
     Pulsante{3, "Stampa Libretto", "Libretto", Comando::NessunaAzione},
     Pulsante{16, "Modifica Diretta del Libretto", "Righe", Comando::ModificaDiretta},
     Pulsante{14, "Riordino Righe", "Righe", Comando::MostraRiordino},
-    Pulsante{31, "Copia negli Appunti di Windows", "Righe", Comando::NonDisponibile},
-    Pulsante{27, "Seleziona Stazioni", "Selezione", Comando::NonDisponibile},
-    Pulsante{28, "Seleziona Punti Fiduciali", "Selezione", Comando::NonDisponibile},
-    Pulsante{30, "Inverti Selezione", "Selezione", Comando::NonDisponibile},
-    Pulsante{11, "Assegna [VRS]", "GPS", Comando::NonDisponibile},
-    Pulsante{5, "ELIMINA [VRS]", "GPS", Comando::NonDisponibile},
-    Pulsante{18, "Gestione Estratti di Mappa", "Mappa e Censuario", Comando::NonDisponibile},
-    Pulsante{17, "Compila Censuario/Archivio Particelle", "Mappa e Censuario", Comando::NonDisponibile},
+    Pulsante{31, "Copia negli Appunti di Windows", "Righe", Comando::CopiaNegliAppunti},
+    Pulsante{27, "Seleziona Stazioni", "Selezione", Comando::SelezionaRighe1},
+    Pulsante{28, "Seleziona Punti Fiduciali", "Selezione", Comando::SelezionaPuntiFiduciali},
+    Pulsante{30, "Inverti Selezione", "Selezione", Comando::InvertiSelezione},
+    Pulsante{11, "Assegna [VRS]", "GPS", Comando::AssegnaVrs},
+    Pulsante{5, "ELIMINA [VRS]", "GPS", Comando::EliminaVrs},
+    Pulsante{18, "Gestione Estratti di Mappa", "Mappa e Censuario", Comando::EstrattiDiMappa},
+    Pulsante{17, "Compila Censuario/Archivio Particelle", "Mappa e Censuario", Comando::ModelloCensuario},
     Pulsante{1, "Importa da Libretto in Pregeo", "Pregeo", Comando::NessunaAzione},
     Pulsante{7, "Configura Provincia di Pregeo", "Pregeo", Comando::NessunaAzione},
     Pulsante{6, "Attiva Pregeo", "Pregeo", Comando::AttivaPregeo},
@@ -58,33 +61,41 @@ constexpr std::array ElencoVoci = {
     VoceMenu{File, {}, Separatore, Comando::NessunaAzione},
     VoceMenu{File, {}, "Chiudi", Comando::Chiudi},
 
+    VoceMenu{Modifica, {}, "Annulla", Comando::Annulla},
+    VoceMenu{Modifica, {}, "Ripeti", Comando::Ripeti},
+    VoceMenu{Modifica, {}, Separatore, Comando::NessunaAzione},
     VoceMenu{Modifica, {}, "Modifica Diretta", Comando::ModificaDiretta},
     VoceMenu{Modifica, {}, "Riga 0-9", Comando::NessunaAzione},
     VoceMenu{Modifica, {}, "Riordino Righe", Comando::RiordinoRighe},
     VoceMenu{Modifica, {}, "Relazione Tecnica", Comando::NessunaAzione},
-    VoceMenu{Modifica, {}, "Modello Censuario", Comando::NonDisponibile},
-    VoceMenu{Modifica, {}, "Importa Fiduciali da TAF", Comando::NonDisponibile},
+    VoceMenu{Modifica, {}, "Modello Censuario", Comando::ModelloCensuario},
+    VoceMenu{Modifica, {}, "Importa Fiduciali da TAF", Comando::ImportaFiduciali},
     VoceMenu{Modifica, {}, "Importa Fiduciali da Estratto", Comando::NessunaAzione},
     VoceMenu{Modifica, {}, "Incolla da Appunti", Comando::IncollaDaAppunti},
-    VoceMenu{Modifica, Cambia, "Descrizione", Comando::NonDisponibile},
-    VoceMenu{Modifica, Cambia, "Seleziona Stazioni", Comando::NonDisponibile},
-    VoceMenu{Modifica, Cambia, "Seleziona Squadri", Comando::NonDisponibile},
-    VoceMenu{Modifica, Cambia, "Seleziona Contorni", Comando::NonDisponibile},
+    VoceMenu{Modifica, Cambia, "Descrizione", Comando::AssegnaDescrizione},
+    VoceMenu{Modifica, Cambia, "Seleziona Stazioni", Comando::SelezionaStazioni},
+    VoceMenu{Modifica, Cambia, "Seleziona Squadri", Comando::SelezionaSquadri},
+    VoceMenu{Modifica, Cambia, "Seleziona Contorni", Comando::SelezionaContorni},
 
-    VoceMenu{Excel, {}, "Righe 8 - (P, N, E)", Comando::NonDisponibile},
-    VoceMenu{Excel, {}, "Righe 8 Nome Auto (N, E)", Comando::NonDisponibile},
-    VoceMenu{Excel, {}, "Righe Complete", Comando::NonDisponibile},
+    VoceMenu{Excel, {}, "Righe 8 - (P, N, E)", Comando::Righe8DaExcel},
+    VoceMenu{Excel, {}, "Righe 8 Nome Auto (N, E)", Comando::Righe8NomeAutoDaExcel},
+    VoceMenu{Excel, {}, "Righe Complete", Comando::RigheCompleteDaExcel},
 
     VoceMenu{Gondella, {}, "Gondella", Comando::GondellaLibretti},
 
-    VoceMenu{Utilita, {}, "Archivia Libretti", Comando::NessunaAzione},
-    VoceMenu{Utilita, {}, "Grafica Pregeo > DXF", Comando::NonDisponibile},
+    VoceMenu{Utilita, {}, "Archivia Libretti", Comando::ArchiviaLibretti},
+    VoceMenu{Utilita, {}, "Grafica Pregeo > DXF", Comando::GraficaPregeo},
     VoceMenu{Utilita, {}, "Ricarica da Storico", Comando::NessunaAzione},
     VoceMenu{Utilita, {}, "PF-VE", Comando::NessunaAzione},
-    VoceMenu{Utilita, {}, "Crea Collegamenti Pregeo", Comando::NonDisponibile},
+    VoceMenu{Utilita, {}, "Crea Collegamenti Pregeo", Comando::CreaCollegamenti},
     VoceMenu{Utilita, {}, "Info Misurate PF", Comando::NonDisponibile},
+    VoceMenu{Utilita, {}, Separatore, Comando::NessunaAzione},
+    VoceMenu{Utilita, {}, "Guarda un Disegno", Comando::Disegno},
+    VoceMenu{Utilita, {}, "Cerca Comune", Comando::CodiceFiscale},
+    VoceMenu{Utilita, {}, "Comuni per Provincia", Comando::Comuni},
+    VoceMenu{Utilita, {}, "Archivio Possessori", Comando::ArchivioPossessori},
 
-    VoceMenu{Estratti, {}, "Gestione Estratti di Mappa", Comando::NonDisponibile},
+    VoceMenu{Estratti, {}, "Gestione Estratti di Mappa", Comando::EstrattiDiMappa},
 
     VoceMenu{Tipologie, {}, "Informazioni generali - operative - garanzie", Comando::InformazioniGenerali},
     VoceMenu{Tipologie, {}, "1 Conferma di Mappa con Conferma di Numero (ex 01)", Comando::NessunaAzione},
@@ -117,27 +128,41 @@ constexpr std::array ElencoVoci = {
     VoceMenu{Tipologie, {}, "Passaggio all'urbano di terreno non edificato (MC)", Comando::NessunaAzione},
     VoceMenu{Tipologie, {}, Separatore, Comando::NessunaAzione},
     VoceMenu{Tipologie, {}, "Libretto per Coordinate da Polilinee DXF", Comando::NessunaAzione},
-    VoceMenu{Tipologie, {}, "Libretto per coordinate da Elaborazione Pregeo", Comando::NonDisponibile},
+    VoceMenu{Tipologie, {}, "Libretto per coordinate da Elaborazione Pregeo", Comando::DaElaborazionePregeo},
 
     VoceMenu{Aiuto, {}, "Informazioni generali - operative - garanzie", Comando::InformazioniGenerali},
-    VoceMenu{Aiuto, {}, "Autore", Comando::NonDisponibile},
-    VoceMenu{Aiuto, {}, "Configurazione", Comando::NonDisponibile},
-    VoceMenu{Aiuto, {}, "Pagina Web", Comando::NonDisponibile},
+    VoceMenu{Aiuto, {}, "Autore", Comando::Autore},
+    VoceMenu{Aiuto, {}, "Configurazione", Comando::Configurazione},
+    VoceMenu{Aiuto, {}, "Pagina Web", Comando::PaginaWeb},
 };
 
-// The tags that no command answers to do nothing, in the tools panel too.
+// The tags that no command answers to do nothing.
 constexpr std::array ElencoStrumenti = {
-    Strumento{"Quota Media Comuni Italiani", "QUOTA_MEDIA", Comando::NessunaAzione},
-    Strumento{"Archivio Tecnici", "tecnici", Comando::NessunaAzione},
-    Strumento{"Configurazione di Pregeo", "CONFIGURA_PREGEO", Comando::NonDisponibile},
-    Strumento{"Modulistica/Atti di Aggiornamento", "Modulistica", Comando::NessunaAzione},
-    Strumento{"Esamina/Corregge Proposta di Aggiornamento", "ANTEPRIMA_PROPOSTA", Comando::NessunaAzione},
-    Strumento{"Archivio Libretti Pregeo", "archivio_libretti", Comando::NessunaAzione},
-    Strumento{"Gestione Grafica Archivio PF", "gestione_pf", Comando::NessunaAzione},
-    Strumento{"Archivio Distanze Misurate", "GESTIONE_MISURATE", Comando::NessunaAzione},
-    Strumento{"Cerca nei Libretti in Pregeo", "CERCA_NEI_LIBRETTI", Comando::NessunaAzione},
-    Strumento{"Archivio Libretti di Backup", "STORICO_LIBRETTI", Comando::NessunaAzione},
+    Strumento{"Quota Media Comuni Italiani", "QUOTA_MEDIA"},
+    Strumento{"Archivio Tecnici", "tecnici"},
+    Strumento{"Configurazione di Pregeo", "CONFIGURA_PREGEO"},
+    Strumento{"Modulistica/Atti di Aggiornamento", "Modulistica"},
+    Strumento{"Esamina/Corregge Proposta di Aggiornamento", "ANTEPRIMA_PROPOSTA"},
+    Strumento{"Archivio Libretti Pregeo", "archivio_libretti"},
+    Strumento{"Gestione Grafica Archivio PF", "gestione_pf"},
+    Strumento{"Archivio Distanze Misurate", "GESTIONE_MISURATE"},
+    Strumento{"Cerca nei Libretti in Pregeo", "CERCA_NEI_LIBRETTI"},
+    Strumento{"Archivio Libretti di Backup", "STORICO_LIBRETTI"},
 };
+
+constexpr std::array<std::pair<Comando, std::string_view>, 11> ElencoForm = {{
+    {Comando::NuovoLibretto, forma::Intestazione},
+    {Comando::NuovoLibrettoVuoto, forma::Intestazione},
+    {Comando::ModelloCensuario, forma::ModelloCensuario},
+    {Comando::ImportaFiduciali, forma::ImportaFiduciali},
+    {Comando::AssegnaDescrizione, forma::AssegnaDescrizione},
+    {Comando::GraficaPregeo, forma::DaPregeo},
+    {Comando::EstrattiDiMappa, forma::EstrattiDiMappa},
+    {Comando::Disegno, forma::Disegno},
+    {Comando::CodiceFiscale, forma::CodFis},
+    {Comando::Comuni, forma::Comuni8},
+    {Comando::ArchivioPossessori, forma::ArchivioPossessori},
+}};
 
 } // namespace
 
@@ -149,6 +174,20 @@ std::span<const VoceMenu> VociMenu() {
 }
 std::span<const Strumento> Strumenti() {
   return ElencoStrumenti;
+}
+
+std::string_view DidascaliaDi(Comando comando) {
+  const auto suo = [comando](const auto& voce) { return voce.comando == comando; };
+  const auto voce = std::find_if(ElencoVoci.begin(), ElencoVoci.end(), suo);
+  if (voce != ElencoVoci.end()) return voce->didascalia;
+  const auto pulsante = std::find_if(ElencoPulsanti.begin(), ElencoPulsanti.end(), suo);
+  return pulsante == ElencoPulsanti.end() ? std::string_view{} : pulsante->didascalia;
+}
+
+std::string_view FormDi(Comando comando) {
+  const auto posto =
+      std::find_if(ElencoForm.begin(), ElencoForm.end(), [=](const auto& coppia) { return coppia.first == comando; });
+  return posto == ElencoForm.end() ? std::string_view{} : posto->second;
 }
 
 } // namespace lirmeto

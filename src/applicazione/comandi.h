@@ -10,9 +10,10 @@
 namespace lirmeto {
 
 enum class Comando {
-  NessunaAzione,  // present in the window and does nothing: meant so
-  NonDisponibile, // its work is still to come: shown disabled
-  NuovoLibretto,  // needs the header form
+  NessunaAzione,      // present in the window and does nothing: meant so
+  NonDisponibile,     // its work is still to come: shown disabled
+  NuovoLibretto,      // needs the header form
+  NuovoLibrettoVuoto, // the same from its button
   SalvaLibretto,
   EsportaLibretto,
   SelezionaFont,
@@ -26,7 +27,39 @@ enum class Comando {
   GondellaLibretti,
   AttivaPregeo,
   UtilitaCatastali, // shows the tools panel
+  CreaCollegamenti, // to Pregeo
+  ArchiviaLibretti,
   InformazioniGenerali,
+  Annulla, // what the last command did to the rows
+  Ripeti,
+  EliminaVrs,
+  AssegnaVrs,
+  SelezionaRighe1,
+  SelezionaPuntiFiduciali,
+  InvertiSelezione,
+  SelezionaStazioni,
+  SelezionaSquadri,
+  SelezionaContorni,
+  CopiaNegliAppunti,
+  Righe8DaExcel,
+  Righe8NomeAutoDaExcel,
+  RigheCompleteDaExcel,
+  DaElaborazionePregeo,
+  ModelloCensuario,
+  ImportaFiduciali,
+  AssegnaDescrizione,
+  GraficaPregeo,
+  EstrattiDiMappa,
+  MostraRigheScartate, // of the last reorder
+  TutteLeOpzioni,
+  NessunaOpzione,
+  Disegno,       // any drawing file in a window of its own
+  CodiceFiscale, // the search of a comune
+  Comuni,
+  ArchivioPossessori,
+  Autore,
+  Configurazione, // as a report
+  PaginaWeb,
 };
 
 struct Pulsante {
@@ -49,12 +82,17 @@ struct VoceMenu {
 struct Strumento { // of the tools panel
   std::string_view didascalia;
   std::string_view tag; // the tag command it gives
-  Comando comando;
 };
 
 [[nodiscard]] std::span<const Pulsante> Pulsanti();
 [[nodiscard]] std::span<const VoceMenu> VociMenu();
 [[nodiscard]] std::span<const Strumento> Strumenti();
+
+// Caption of the first menu entry, else of the first button, that gives the command; empty when none does.
+[[nodiscard]] std::string_view DidascaliaDi(Comando comando);
+
+// Name of the form that a command opens; empty for one that opens none by name.
+[[nodiscard]] std::string_view FormDi(Comando comando);
 
 inline constexpr int PulsanteProvincia = 7; // shows SiglaProvincia beside its caption
 inline constexpr int PulsanteUtilita = 25;  // the pointer over it shows the tools panel, over any other hides it

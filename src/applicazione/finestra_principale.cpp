@@ -1,17 +1,23 @@
 #include <applicazione/finestra_principale.h>
 
+#include <applicazione/autore.h>
 #include <applicazione/avvio.h>
+#include <applicazione/comandi_tag.h>
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <core/carattere.h>
 #include <core/mostra_errore.h>
 #include <core/riga.h>
 #include <core/riordino.h>
 #include <core/salvataggio.h>
 #include <core/servizi.h>
 #include <core/zero_nove.h>
+#include <fiduciali/misurate.h>
+#include <pregeo/gondella.h>
 #include <pregeo/tecnico.h>
 #include <supporto/editor_gen.h>
+#include <supporto/stampa_generale.h>
 
 #include <array>
 
@@ -41,13 +47,8 @@ std::string DittaDaVisura(std::string_view testo) {
   return Sostituisci(Sostituisci(Taglia(piatto), " ", FineRiga), "|", " ");
 }
 
-// Whether a value of CONFIGURACARATTERE.INI says yes: 0 and False do not.
-bool Vero(std::string_view testo) {
-  return Valore(testo) != 0 || Contiene(Maiuscolo(testo), "TRUE");
-}
-
-std::string TestoVero(bool si) {
-  return si ? "-1" : "0";
+std::string FileCarattere(const Sessione& sessione) {
+  return sessione.CartellaProgramma + "\\CONFIGURACARATTERE.INI";
 }
 
 std::string TestoInformazioni() {
@@ -94,11 +95,10 @@ bool KR_LibrettoOriginale::Avvia(const std::string& comandoAvvio) {
     TerminaProcesso(ambiente_, "Lirmeto.exe");
     return false;
   }
-  Carica(comandoAvvio);
-  return true;
+  return Carica(comandoAvvio);
 }
 
-void KR_LibrettoOriginale::Carica(const std::string& comandoAvvio) {
+bool KR_LibrettoOriginale::Carica(const std::string& comandoAvvio) {
   Sessione& sessione = ambiente_.sessione;
   Titolo = "Lirmeto V. 2022 - " + std::string(NumeroRevisione);
   CaricaInstallazione(ambiente_);
@@ -110,10 +110,19 @@ void KR_LibrettoOriginale::Carica(const std::string& comandoAvvio) {
   sessione.ComandoTag = comandoAvvio;
   if (comandoAvvio.empty())
     sessione.ComandoTag = sessione.CartellaProgramma + "\\NUOVO.DAT"; // nobody reads it as a command
-  else
-    Prova([&] { ApriLibretto(ambiente_, comandoAvvio); });
+  else if (ComandoTag1(ambiente_) == DopoComando::Finisce)
+    return false;
+  CaricaElenco();
+  return true;
+}
+
+// What follows once it is known that the window comes up.
+void KR_LibrettoOriginale::CaricaElenco() {
+  Sessione& sessione = ambiente_.sessione;
   sessione.PuntoErrore = "1013";
-  Prova([&] { LeggiCarattere(); });
+  Prova([&] {
+    if (const auto letto = LeggiCarattere(ambiente_, FileCarattere(sessione))) CarattereElenco = *letto;
+  });
   TerminaPregeo(ambiente_);
   Prova([&] { DecoZeroNove(ambiente_); });
   Prova([&] { CaricaTecnico(ambiente_, sessione.Tecnico + ".PFS"); });
@@ -122,6 +131,7 @@ void KR_LibrettoOriginale::Carica(const std::string& comandoAvvio) {
   Prova([&] { LeggiDitta(); });
   sessione.PuntoErrore = "Decozero_141";
   MostraSessione();
+  storia_.Ricomincia(sessione);
 }
 
 void KR_LibrettoOriginale::LeggiDitta() {
@@ -174,62 +184,50 @@ void KR_LibrettoOriginale::PuntatoreSuPulsante(int indice) {
   PannelloStrumenti = indice == PulsanteUtilita;
 }
 
-bool KR_LibrettoOriginale::Disponibile(Comando comando) const {
-  if (comando == Comando::NuovoLibretto) return ambiente_.finestre.Disponibile(FormIntestazione);
-  return comando != Comando::NonDisponibile;
-}
-
-void KR_LibrettoOriginale::Esegui(Comando comando) {
-  Prova([&] {
-    switch (comando) {
-    case Comando::NessunaAzione:
-    case Comando::NonDisponibile:
-      break;
-    case Comando::NuovoLibretto:
-      return NuovoLibretto();
-    case Comando::SalvaLibretto:
-      SalvaLibrettoMisure(ambiente_);
-      break;
-    case Comando::EsportaLibretto:
-      EsportaLibrettoInFile(ambiente_);
-      break;
-    case Comando::SelezionaFont:
-      return SelezionaCarattere();
-    case Comando::KillPregeo:
-      return TerminaPregeo(ambiente_);
-    case Comando::Chiudi:
-      Finita = true;
-      break;
-    case Comando::ModificaDiretta:
-      return ModificaRiga();
-    case Comando::MostraRiordino:
-      return MostraRiordino();
-    case Comando::RiordinoRighe:
-      AggiornaLibrettoMisure(ambiente_);
-      return subRiordinoRighe(ambiente_);
-    case Comando::IncollaDaAppunti:
-      return IncollaDaAppunti();
-    case Comando::MostraDesktop:
-      return ambiente_.processi.MostraDesktop();
-    case Comando::GondellaLibretti:
-      return AvviaGondella("GondellaLibretti.exe");
-    case Comando::AttivaPregeo:
-      return AvviaGondella("Dervola.exe");
-    case Comando::UtilitaCatastali:
-      PannelloStrumenti = true;
-      break;
-    case Comando::InformazioniGenerali:
-      return ambiente_.dialoghi.Messaggio(TestoInformazioni());
-    }
-  });
-}
-
-void KR_LibrettoOriginale::NuovoLibretto() {
-  ambiente_.sessione.Libretto.clear();
-  ambiente_.sessione.Ditta.clear();
-  CaricaLibrettoInList1(ambiente_);
-  ambiente_.sessione.PuntoErrore = "Decozero_131";
-  ApriIntestazione();
+void KR_LibrettoOriginale::EseguiAltri(Comando comando) {
+  switch (comando) {
+  case Comando::SalvaLibretto:
+    SalvaLibrettoMisure(ambiente_);
+    break;
+  case Comando::EsportaLibretto:
+    EsportaLibrettoInFile(ambiente_);
+    break;
+  case Comando::SelezionaFont:
+    return SelezionaCarattere();
+  case Comando::Chiudi:
+    Finita = true;
+    break;
+  case Comando::ModificaDiretta:
+    return ModificaRiga();
+  case Comando::MostraRiordino:
+    return MostraRiordino();
+  case Comando::RiordinoRighe:
+    AggiornaLibrettoMisure(ambiente_);
+    return subRiordinoRighe(ambiente_);
+  case Comando::IncollaDaAppunti:
+    return IncollaDaAppunti();
+  case Comando::MostraDesktop:
+    return ambiente_.processi.MostraDesktop();
+  case Comando::GondellaLibretti:
+    return AvviaGondella(ambiente_, "GondellaLibretti.exe");
+  case Comando::AttivaPregeo:
+    return AvviaGondella(ambiente_, "Dervola.exe");
+  case Comando::UtilitaCatastali:
+    PannelloStrumenti = true;
+    break;
+  case Comando::InformazioniGenerali:
+    return ambiente_.dialoghi.Messaggio(TestoInformazioni());
+  case Comando::Configurazione:
+    return MostraStampaGenerale(ambiente_, RigheConfigurazione(ambiente_.sessione));
+  case Comando::PaginaWeb:
+    return ambiente_.processi.ApriPagina(std::string(IndirizzoWeb));
+  case Comando::TutteLeOpzioni:
+    return SpuntaOpzioni(true);
+  case Comando::NessunaOpzione:
+    return SpuntaOpzioni(false);
+  default: // no action
+    break;
+  }
 }
 
 void KR_LibrettoOriginale::MostraRiordino() {
@@ -249,44 +247,26 @@ void KR_LibrettoOriginale::IncollaDaAppunti() {
   CaricaLibrettoInList1(ambiente_);
 }
 
-void KR_LibrettoOriginale::AvviaGondella(std::string_view programma) {
-  AttendiProgramma(ambiente_, ambiente_.sessione.CartellaProgrammi + "\\Gondella\\" + std::string(programma), {});
-}
-
 void KR_LibrettoOriginale::SelezionaCarattere() {
   const Carattere scelto = ambiente_.dialoghi.ScegliCarattere(CarattereElenco);
   CarattereElenco = scelto;
-  ambiente_.disco.Scrivi(ambiente_.sessione.CartellaProgramma + "\\CONFIGURACARATTERE.INI",
-                         TestoPieno(scelto.dimensione) + ",\"" + scelto.nome + "\"," + TestoVero(scelto.grassetto) +
-                             "," + TestoVero(scelto.corsivo) + "\r\n");
-}
-
-// Four values at commas: size in points, name, bold, italic. What makes no
-// sense leaves the font as it is.
-void KR_LibrettoOriginale::LeggiCarattere() {
-  const std::string percorso = ambiente_.sessione.CartellaProgramma + "\\CONFIGURACARATTERE.INI";
-  if (!ambiente_.disco.Esiste(percorso)) return;
-  const std::string testo = Sostituisci(CaricaFileIntero(ambiente_, percorso), "\"", "");
-  const auto valori = Dividi(Parte(testo, '\r', 0), ",");
-  constexpr double minima = 4;
-  constexpr double massima = 72;
-  if (valori.size() < 4 || Valore(valori[0]) < minima || Valore(valori[0]) > massima) return;
-  CarattereElenco = {Valore(valori[0]), std::string(Taglia(valori[1])), Vero(valori[2]), Vero(valori[3])};
+  ScriviCarattere(ambiente_, FileCarattere(ambiente_.sessione), scelto);
 }
 
 void KR_LibrettoOriginale::ApriIntestazione() {
   if (!ApriForm(ambiente_, FormIntestazione) || ambiente_.sessione.EsitoForm < 0) return;
+  CaricaLibrettoInList1(ambiente_);
   MostraSessione();
+  Righe_Indice();
 }
 
 void KR_LibrettoOriginale::DoppioClick(std::size_t riga) {
   if (riga >= ambiente_.sessione.List1.Quante()) return;
   const std::string testo(ambiente_.sessione.List1.Riga(riga));
   const double genere = GenereRiga(testo);
-  Prova([&] {
+  Comanda("Modifica", [&] {
     if (genere == 0 || genere == 9 || (genere == 6 && Contiene(testo, "DettaglioTipoAgg"))) return ApriIntestazione();
-    if (genere == 8 && Parte(testo, '|', 1).starts_with("PF"))
-      return ambiente_.dialoghi.Messaggio(NonAncoraDisponibile); // the measured distances of the fiducial point
+    if (genere == 8 && Parte(testo, '|', 1).starts_with("PF")) return InfoMisurate(ambiente_, Parte(testo, '|', 1));
     ModificaRiga();
   });
 }
@@ -294,7 +274,7 @@ void KR_LibrettoOriginale::DoppioClick(std::size_t riga) {
 void KR_LibrettoOriginale::TastoInvio(std::size_t riga) {
   if (riga >= ambiente_.sessione.List1.Quante()) return;
   const double genere = GenereRiga(ambiente_.sessione.List1.Riga(riga));
-  Prova([&] {
+  Comanda("Modifica", [&] {
     if (genere == 0 || genere == 9) return ApriIntestazione();
     ModificaRiga();
   });
@@ -302,7 +282,7 @@ void KR_LibrettoOriginale::TastoInvio(std::size_t riga) {
 
 void KR_LibrettoOriginale::TastoCancella() {
   constexpr std::size_t righeFisse = 2; // rows 0 and 9 always stay
-  Prova([&] {
+  Comanda("Elimina Righe", [&] {
     if (ambiente_.dialoghi.Chiedi("Eliminare le Righe selezionate?", "Elimina righe dal Libretto", Bottoni::SiNo) !=
         Risposta::Si)
       return;
@@ -322,7 +302,7 @@ void KR_LibrettoOriginale::TrascinaLibretto(const std::string& percorso) {
   const Risposta risposta =
       ambiente_.dialoghi.Chiedi("Sostituire il Libretto Esistente?", "Trascina Libretto", Bottoni::SiNo);
   if (risposta != Risposta::Si) return;
-  Prova([&] {
+  Comanda("Trascina Libretto", [&] {
     ApriLibretto(ambiente_, percorso);
     CaricaLibrettoInList1(ambiente_);
     ambiente_.sessione.PuntoErrore = FinisceConSenzaCaso(percorso, ".PDF") ? "Decozero_138" : "Decozero_137";

@@ -5,6 +5,7 @@
 #include <applicazione/comandi.h>
 #include <base/dialoghi.h>
 #include <core/ambiente.h>
+#include <core/storia.h>
 
 #include <functional>
 #include <string>
@@ -41,6 +42,7 @@ public:
   std::string CasellaIscrizione;
   std::string CasellaCodiceFiscale;
   std::vector<Opzione> Opzioni;
+  std::string AvvisoScartate; // in the status line: rows that the last reorder dropped
   Carattere CarattereElenco;
   bool PannelloStrumenti = false; // the tools panel is visible
   bool Finita = false;            // the session has ended: the window closes
@@ -48,8 +50,8 @@ public:
   [[nodiscard]] Sessione& DatiSessione() { return ambiente_.sessione; }
 
   // Window initialisation and load. `comandoAvvio` is the path given to the
-  // program, or empty. False: another instance was running and the process must
-  // end.
+  // program, a tag command, or empty. False: another instance was running, or a
+  // tag command is over, and the process must end.
   bool Avvia(const std::string& comandoAvvio);
 
   // The window comes back to the front.
@@ -60,9 +62,14 @@ public:
   // Whether the entry of a command can be used; one whose work is still to come
   // is shown disabled.
   [[nodiscard]] bool Disponibile(Comando comando) const;
+  // Whether it has something to do now, and the caption of its menu entry.
+  [[nodiscard]] bool Attivo(Comando comando) const;
+  [[nodiscard]] std::string Didascalia(Comando comando) const;
 
   // A button, menu entry or tool. Errors are reported here.
   void Esegui(Comando comando);
+  // A tool of the panel, by its tag.
+  void EseguiStrumento(std::string_view tag);
   // The pointer stands over a button of the array.
   void PuntatoreSuPulsante(int indice);
 
@@ -84,21 +91,27 @@ public:
   void Chiusura(const PosizioneForm& posizione);
 
 private:
-  void Carica(const std::string& comandoAvvio);
+  [[nodiscard]] bool Carica(const std::string& comandoAvvio);
+  void CaricaElenco();
   void MostraSessione();
   void LeggiDitta();
-  void LeggiCarattere();
   void SelezionaCarattere();
-  void NuovoLibretto();
+  [[nodiscard]] bool EseguiConForm(Comando comando);
+  void EseguiAltri(Comando comando);
+  void NuovoLibretto(std::string_view marcatore);
+  void MostraScartate();
   void IncollaDaAppunti();
+  void SpuntaOpzioni(bool si);
   void MostraRiordino();
-  void AvviaGondella(std::string_view programma);
   void ApriIntestazione();
   void ModificaRiga();
   void TrascinaLibretto(const std::string& percorso);
   void Prova(const std::function<void()>& comando);
+  void Comanda(std::string_view nome, const std::function<void()>& comando);
+  void Torna(void (Storia::*passo)(Sessione&));
 
   Ambiente& ambiente_;
+  Storia storia_;
 };
 
 } // namespace lirmeto

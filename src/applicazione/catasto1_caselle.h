@@ -1,0 +1,66 @@
+#pragma once
+// The boxes of the header form: what stands in each of them.
+
+#include <base/data.h>
+#include <core/sessione.h>
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace lirmeto {
+
+inline constexpr std::size_t NumeroCaselle = 20;
+
+// Places in the array of boxes.
+namespace casella {
+inline constexpr std::size_t Data = 0;
+inline constexpr std::size_t Protocollo = 1;
+inline constexpr std::size_t Comune = 2;
+inline constexpr std::size_t Foglio = 3;
+inline constexpr std::size_t Mappali = 4;
+inline constexpr std::size_t Cognome = 5;
+inline constexpr std::size_t Qualifica = 6;
+inline constexpr std::size_t Provincia = 7;
+inline constexpr std::size_t QuotaMedia = 8; // the first of row 9
+inline constexpr std::size_t PrecisioneLineare = 9;
+inline constexpr std::size_t PrecisioneAngolare = 10;
+inline constexpr std::size_t EstMedio = 11;
+inline constexpr std::size_t Versione = 12;
+inline constexpr std::size_t Tipologia = 13;
+inline constexpr std::size_t Strumentazione = 14; // the last of row 9
+inline constexpr std::size_t Commento = 15;
+inline constexpr std::size_t Iscrizione = 16;
+inline constexpr std::size_t CodiceFiscale = 17;
+inline constexpr std::size_t Recapito = 18;
+inline constexpr std::size_t Nome = 19;
+} // namespace casella
+
+// Captions by place.
+[[nodiscard]] const std::array<std::string_view, NumeroCaselle>& EtichetteCaselle();
+
+// What an empty box gets; empty where it may stay empty.
+[[nodiscard]] std::string ValorePredefinito(std::size_t indice, const Sessione& sessione, const Data& oggi);
+
+// The text as one field of a row: what would end the field or the row becomes a blank.
+[[nodiscard]] std::string InUnCampo(std::string_view testo);
+
+// A date of six digits with its century, "20" where the value of the last two is below 88 and "19" otherwise; any other
+// text as it is. The rows themselves are read with another threshold, 80: both are meant so.
+[[nodiscard]] std::string DataAOttoCifre(std::string_view data);
+
+// "ddmmyyyy" as a date of the calendar; nothing for any other text.
+[[nodiscard]] std::optional<Data> DataDaTesto(std::string_view testo);
+
+// A sheet with zeros before it up to four digits, the annex letter behind: "12A" is "0012A".
+[[nodiscard]] std::string FoglioAQuattroCifre(std::string_view foglio);
+
+// A number in a picture format, whatever the text holds.
+[[nodiscard]] std::string NumeroInFormato(std::string_view testo, std::string_view formato);
+
+inline constexpr std::string_view FormatoEstMedio = "##########0";
+inline constexpr std::string_view FormatoQuotaMedia = "#####0";
+
+} // namespace lirmeto

@@ -1,0 +1,178 @@
+// The main window's commands: which routine of the logic each one is, and what they leave for undo and redo.
+
+#include <applicazione/finestra_principale.h>
+
+#include <applicazione/autore.h>
+#include <applicazione/comandi_tag.h>
+#include <core/apertura.h>
+#include <core/comandi_righe.h>
+#include <core/righe_scartate.h>
+#include <core/salvataggio.h>
+#include <core/servizi.h>
+#include <core/zero_nove.h>
+#include <pregeo/collegamenti.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace lirmeto {
+
+namespace {
+
+using Routine = void (*)(Ambiente&);
+
+constexpr std::array<std::pair<Comando, Routine>, 6> Selezioni = {{
+    {Comando::SelezionaRighe1, SelezionaRighe1},
+    {Comando::SelezionaPuntiFiduciali, SelezionaPuntiFiduciali},
+    {Comando::InvertiSelezione, InvertiSelezione},
+    {Comando::SelezionaStazioni, Seleziona_Stazioni},
+    {Comando::SelezionaSquadri, Seleziona_Squadri},
+    {Comando::SelezionaContorni, Seleziona_Contorni},
+}};
+
+constexpr std::array<std::pair<Comando, Routine>, 11> Comandi = {{
+    {Comando::EliminaVrs, EliminaVrs},
+    {Comando::AssegnaVrs, AssegnaVrs},
+    {Comando::CopiaNegliAppunti, CopiaNegliAppunti},
+    {Comando::Righe8DaExcel, ImportaRighe8DaExcel},
+    {Comando::Righe8NomeAutoDaExcel, ImportaRighe8NomeAutoDaExcel},
+    {Comando::RigheCompleteDaExcel, ImportaRigheCompleteDaExcel},
+    {Comando::DaElaborazionePregeo, LibrettoDaElaborazionePregeo},
+    {Comando::ModelloCensuario, subModelloCensuario},
+    {Comando::KillPregeo, TerminaPregeo},
+    {Comando::CreaCollegamenti, CreaCollegamentiPregeo},
+    {Comando::Autore, MostraAutore},
+}};
+
+template <std::size_t N>
+bool EseguiDa(const std::array<std::pair<Comando, Routine>, N>& tabella, Comando comando, Ambiente& ambiente) {
+  const auto voce =
+      std::find_if(tabella.begin(), tabella.end(), [comando](const auto& coppia) { return coppia.first == comando; });
+  if (voce == tabella.end()) return false;
+  voce->second(ambiente);
+  return true;
+}
+
+// A form that leaves the rows alone. It may take a comune: the session keeps that of row 0.
+bool SoloConsulta(Comando comando) {
+  return comando == Comando::Disegno || comando == Comando::CodiceFiscale || comando == Comando::Comuni ||
+         comando == Comando::ArchivioPossessori;
+}
+
+// Caption of the tool that gives a tag.
+std::string_view DidascaliaDiTag(std::string_view tag) {
+  const auto strumenti = Strumenti();
+  const auto suo =
+      std::find_if(strumenti.begin(), strumenti.end(), [tag](const Strumento& uno) { return uno.tag == tag; });
+  return suo == strumenti.end() ? tag : suo->didascalia;
+}
+
+} // namespace
+
+// A command may have read PREGEO.INI again: the boxes show what it left.
+void KR_LibrettoOriginale::EseguiStrumento(std::string_view tag) {
+  ambiente_.sessione.ComandoTag = tag;
+  Comanda(DidascaliaDiTag(tag), [&] { EseguiComandoTag(ambiente_); });
+  MostraSessione();
+}
+
+bool KR_LibrettoOriginale::Disponibile(Comando comando) const {
+  const std::string_view form = FormDi(comando);
+  return form.empty() ? comando != Comando::NonDisponibile : ambiente_.finestre.Disponibile(form);
+}
+
+bool KR_LibrettoOriginale::Attivo(Comando comando) const {
+  if (comando == Comando::Annulla) return storia_.PuoAnnullare();
+  if (comando == Comando::Ripeti) return storia_.PuoRipetere();
+  return Disponibile(comando);
+}
+
+// Undo and redo name the command that they are about.
+std::string KR_LibrettoOriginale::Didascalia(Comando comando) const {
+  std::string didascalia(DidascaliaDi(comando));
+  if (!Attivo(comando)) return didascalia;
+  if (comando == Comando::Annulla) didascalia.append(" ").append(storia_.DaAnnullare());
+  if (comando == Comando::Ripeti) didascalia.append(" ").append(storia_.DaRipetere());
+  return didascalia;
+}
+
+void KR_LibrettoOriginale::Esegui(Comando comando) {
+  if (comando == Comando::Annulla) return Torna(&Storia::Annulla);
+  if (comando == Comando::Ripeti) return Torna(&Storia::Ripeti);
+  if (comando == Comando::ArchiviaLibretti) return EseguiStrumento("Silvarca");
+  if (comando == Comando::MostraRigheScartate) return MostraScartate();
+  Comanda(DidascaliaDi(comando), [&] {
+    if (EseguiDa(Selezioni, comando, ambiente_)) return Righe_Indice();
+    if (!EseguiDa(Comandi, comando, ambiente_) && !EseguiConForm(comando)) EseguiAltri(comando);
+  });
+}
+
+// Runs a command and keeps what it did to the rows. The notice of dropped rows stays until the rows change again.
+void KR_LibrettoOriginale::Comanda(std::string_view nome, const std::function<void()>& comando) {
+  Sessione& sessione = ambiente_.sessione;
+  Prova([&] { storia_.Prepara(sessione); });
+  ListaRighe scartatePrima = std::exchange(sessione.RigheScartate, {});
+  Prova(comando);
+  bool cambiate = false;
+  Prova([&] { cambiate = storia_.Registra(sessione, nome); });
+  if (!cambiate && sessione.RigheScartate.empty()) sessione.RigheScartate = std::move(scartatePrima);
+  AvvisoScartate = AvvisoRigheScartate(sessione);
+}
+
+// One step back or forth.
+void KR_LibrettoOriginale::Torna(void (Storia::*passo)(Sessione&)) {
+  Prova([&] {
+    storia_.Prepara(ambiente_.sessione);
+    (storia_.*passo)(ambiente_.sessione);
+  });
+  MostraSessione();
+  Righe_Indice();
+  AvvisoScartate = AvvisoRigheScartate(ambiente_.sessione);
+}
+
+// Whether the command is one that shows a form.
+bool KR_LibrettoOriginale::EseguiConForm(Comando comando) {
+  if (comando == Comando::NuovoLibretto || comando == Comando::NuovoLibrettoVuoto) {
+    NuovoLibretto(comando == Comando::NuovoLibretto ? std::string_view{} : "Decozero_131");
+    return true;
+  }
+  const std::string_view form = FormDi(comando);
+  if (form.empty()) return false;
+  if (SoloConsulta(comando)) {
+    if (ApriForm(ambiente_, form)) DecoZeroNove(ambiente_);
+    return true;
+  }
+  AggiornaLibrettoMisure(ambiente_);
+  if (comando == Comando::GraficaPregeo) ambiente_.sessione.ModoDaPregeo = 1; // listing for DXF
+  if (!ApriForm(ambiente_, form)) return true;
+  CaricaLibrettoInList1(ambiente_);
+  if (comando == Comando::EstrattiDiMappa) ambiente_.sessione.PuntoErrore = "Decozero_132";
+  return true;
+}
+
+// Nothing that changes the rows: the notice stays.
+void KR_LibrettoOriginale::MostraScartate() {
+  Prova([&] {
+    FormRigheScartate form(ambiente_);
+    ambiente_.finestre.MostraModale(form);
+  });
+}
+
+// The marker is set where there is one: the button's and the menu's command differ in that.
+void KR_LibrettoOriginale::NuovoLibretto(std::string_view marcatore) {
+  ambiente_.sessione.Libretto.clear();
+  ambiente_.sessione.Ditta.clear();
+  CaricaLibrettoInList1(ambiente_);
+  if (!marcatore.empty()) ambiente_.sessione.PuntoErrore = marcatore;
+  ApriIntestazione();
+}
+
+// The state is stored when all are set, and only then.
+void KR_LibrettoOriginale::SpuntaOpzioni(bool si) {
+  for (Opzione& opzione : Opzioni) opzione.spuntata = si;
+  if (!si) return;
+  for (const Opzione& opzione : Opzioni) ambiente_.impostazioni.Scrivi("LIBRETTO_AUTOMATICO", opzione.testo, "1");
+}
+
+} // namespace lirmeto

@@ -1,0 +1,142 @@
+#include <applicazione/comandi_tag.h>
+
+#include <applicazione/forme.h>
+#include <base/testo.h>
+#include <core/apertura.h>
+#include <core/mostra_errore.h>
+#include <core/servizi.h>
+#include <fiduciali/misurate.h>
+#include <pregeo/copia_estratto.h>
+
+#include <algorithm>
+#include <array>
+
+namespace lirmeto {
+
+// What could be done in more than one way:
+//
+//   a .PDF                                   is opened by its sections, as a drop on the list does
+//   a libretto that cannot be read           the report, and the command is not run
+//   a drawing without its .TXT               Libretto is empty: the rows of a drawing are none of a libretto
+//   a drawing closed without a generation    the main window has the .TXT, so that its save leaves the drawing alone
+//   a command whose window is to come        says so before it asks the user for anything
+
+namespace {
+
+constexpr std::string_view EstensioneDisegno = ".LXC";
+
+void ApriFile(Ambiente& ambiente, const std::string& percorso) {
+  if (!EstensioneEstratto(percorso)) {
+    (void)Intrappola(ambiente, [&] { ApriLibretto(ambiente, percorso); });
+    return;
+  }
+  (void)Intrappola(ambiente, [&] { CopiaEstrattoInPregeo(ambiente, percorso); });
+  (void)Intrappola(ambiente, [&] { ApriForm(ambiente, forma::EstrattiDiMappa); });
+}
+
+DopoComando EseguiLinea(Ambiente& ambiente, std::string_view linea) {
+  Sessione& sessione = ambiente.sessione;
+  const std::string file(Parte(linea, '|', 0));
+  const std::string percorso =
+      file.empty() ? sessione.CartellaProgramma + "\\Nuovo.DAT" : PercorsoInCapitali(ambiente.disco, file);
+  ApriLibretto(ambiente, percorso);
+  sessione.ParametroTag = Maiuscolo(Parte(linea, '|', 2));
+  sessione.ComandoTag = sessione.UltimaTag = Maiuscolo(Parte(linea, '|', 1));
+  return EseguiComandoTag(ambiente);
+}
+
+// --- the commands
+
+DopoComando Apri(Ambiente& ambiente, std::string_view form) {
+  ApriForm(ambiente, form);
+  return DopoComando::Finisce;
+}
+
+DopoComando ApriDaPregeo(Ambiente& ambiente, std::int16_t modo) {
+  ambiente.sessione.ModoDaPregeo = modo;
+  return Apri(ambiente, forma::DaPregeo);
+}
+
+DopoComando Annuncia(Ambiente& ambiente) {
+  ambiente.dialoghi.Messaggio(NonAncoraDisponibile);
+  return DopoComando::Finisce;
+}
+
+// The .TXT beside the drawing; the path of anything else as it is.
+std::string PercorsoLibretto(const std::string& disegno) {
+  if (!FinisceConSenzaCaso(disegno, EstensioneDisegno)) return disegno;
+  return disegno.substr(0, disegno.size() - EstensioneDisegno.size()) + ".TXT";
+}
+
+// The libretto that belongs to the drawing, listed.
+void CaricaLibrettoDelDisegno(Ambiente& ambiente) {
+  Sessione& sessione = ambiente.sessione;
+  const std::string disegno = PercorsoInCapitali(ambiente.disco, sessione.NomeFileLibretto);
+  const std::string testo = PercorsoLibretto(disegno);
+  if (!ambiente.disco.Esiste(testo)) sessione.Libretto.clear();
+  ApriLibretto(ambiente, testo);
+  CaricaLibrettoInList1(ambiente);
+  sessione.PuntoErrore = "Decozero_130";
+  sessione.NomeFileLibretto = disegno;
+}
+
+DopoComando LibrettoDaDisegno(Ambiente& ambiente) {
+  for (const auto form : {forma::Intestazione, forma::LibrettoDaDisegno})
+    if (!ambiente.finestre.Disponibile(form)) return Annuncia(ambiente);
+  CaricaLibrettoDelDisegno(ambiente);
+  ApriForm(ambiente, forma::Intestazione);
+  if (ambiente.sessione.EsitoForm < 0) return DopoComando::Finisce;
+  ambiente.sessione.EsitoForm = EsitoAnnullato;
+  ApriForm(ambiente, forma::LibrettoDaDisegno);
+  if (ambiente.sessione.EsitoForm == EsitoConfermato) return DopoComando::Finisce; // made, and written
+  ambiente.sessione.NomeFileLibretto = PercorsoLibretto(ambiente.sessione.NomeFileLibretto);
+  return DopoComando::FinestraPrincipale;
+}
+
+struct ComandoConosciuto {
+  std::string_view nome;
+  DopoComando (*esegui)(Ambiente& ambiente);
+};
+
+constexpr std::array Conosciuti = {
+    ComandoConosciuto{"LIBRETTO_DA_DISEGNO", &LibrettoDaDisegno},
+    ComandoConosciuto{"CONFIGURA_PREGEO", [](Ambiente& ambiente) { return Apri(ambiente, forma::ConfiguraPregeo); }},
+    ComandoConosciuto{"SELEZIONA_MISURATE",
+                      [](Ambiente& ambiente) { return Apri(ambiente, forma::SelezionaMisurate); }},
+    ComandoConosciuto{"MISURATE_DA1_PF",
+                      [](Ambiente& ambiente) {
+                        InfoMisurate(ambiente, ambiente.sessione.ParametroTag);
+                        return DopoComando::Finisce;
+                      }},
+    ComandoConosciuto{"INFO_MISURATE", &Annuncia},
+    ComandoConosciuto{"DA_PREGEO", [](Ambiente& ambiente) { return ApriDaPregeo(ambiente, 0); }},
+    ComandoConosciuto{"DA_PREGEO_DXF", [](Ambiente& ambiente) { return ApriDaPregeo(ambiente, 1); }},
+    ComandoConosciuto{"IMPORT-INST_TAF-MISURATE",
+                      [](Ambiente& ambiente) {
+                        ImportaTafMisurate(ambiente);
+                        return DopoComando::Finisce;
+                      }},
+};
+
+} // namespace
+
+DopoComando ComandoTag1(Ambiente& ambiente) {
+  ambiente.sessione.PuntoErrore = "COMANDOTAG_1";
+  const std::string linea = Sostituisci(ambiente.sessione.ComandoTag, "\"", "");
+  if (!Contiene(linea, "|")) {
+    ApriFile(ambiente, PercorsoInCapitali(ambiente.disco, linea));
+    return DopoComando::FinestraPrincipale;
+  }
+  DopoComando dopo = DopoComando::Finisce;
+  (void)Intrappola(ambiente, [&] { dopo = EseguiLinea(ambiente, linea); });
+  return dopo;
+}
+
+DopoComando EseguiComandoTag(Ambiente& ambiente) {
+  const std::string comando = Maiuscolo(ambiente.sessione.ComandoTag);
+  const auto trovato = std::find_if(Conosciuti.begin(), Conosciuti.end(),
+                                    [&](const ComandoConosciuto& voce) { return voce.nome == comando; });
+  return trovato == Conosciuti.end() ? DopoComando::Finisce : trovato->esegui(ambiente);
+}
+
+} // namespace lirmeto

@@ -1,0 +1,27 @@
+#pragma once
+// The command line that the sibling programs start this one with, and the dispatcher of its commands.
+//
+//   C:\act.dat                          a libretto to open; .EMP, .PNG, .DXF, .ZIP: an extract
+//   C:\act.dat|CONFIGURA_PREGEO|        a libretto, a command, its parameter: one command, then the process ends
+//   |DA_PREGEO                          no libretto: \Nuovo.DAT in the program's folder
+//   |||                                 no command: nothing is done
+//
+// Double quotes are passed over and letters count as capitals.
+
+#include <core/ambiente.h>
+
+namespace lirmeto {
+
+enum class DopoComando { Finisce, FinestraPrincipale };
+
+// What ComandoTag asks for, read as the command line. The answer is whether the main window comes up or the process
+// ends. Errors are reported here; one that stops a command ends the process all the same.
+[[nodiscard]] DopoComando ComandoTag1(Ambiente& ambiente);
+
+// Runs the command that ComandoTag names; any other text does nothing. One whose work is still to come says so.
+//   LIBRETTO_DA_DISEGNO, CONFIGURA_PREGEO, SELEZIONA_MISURATE, MISURATE_DA1_PF, INFO_MISURATE, DA_PREGEO,
+//   DA_PREGEO_DXF, IMPORT-INST_TAF-MISURATE
+// The answer is whether the command wants the main window behind it.
+DopoComando EseguiComandoTag(Ambiente& ambiente);
+
+} // namespace lirmeto

@@ -1,0 +1,65 @@
+#include <applicazione/forme.h>
+
+#include <applicazione/catasto1_form.h>
+#include <fiduciali/importa_fiduciali.h>
+#include <fiduciali/seleziona_misurate.h>
+#include <generazione/libretto_da_disegno.h>
+#include <grafica/form_disegno.h>
+#include <pregeo/form_configura_pregeo.h>
+#include <supporto/archivio_possessori.h>
+#include <supporto/cod_fis.h>
+#include <supporto/comuni8.h>
+
+#include <algorithm>
+#include <array>
+
+namespace lirmeto {
+
+namespace {
+
+// A form whose model needs its surroundings alone.
+template <typename Modello>
+void Apri(Ambiente& ambiente) {
+  Modello form(ambiente);
+  form.AlCaricamento();
+  ambiente.finestre.MostraModale(form);
+}
+
+void ApriDisegno(Ambiente& ambiente) {
+  FormDisegno form(ambiente);
+  ambiente.finestre.MostraModale(form);
+}
+
+void ApriLibrettoDaDisegno(Ambiente& ambiente) {
+  DisegnoCondiviso disegno;
+  LibrettoDaDisegno form(ambiente, disegno);
+  form.Form_Load();
+  ambiente.finestre.MostraModale(form);
+  form.Form_Unload();
+}
+
+constexpr std::array ElencoForme = {
+    Forma{forma::ConfiguraPregeo, &Apri<FormConfiguraPregeo>},
+    Forma{forma::Intestazione, &Apri<FormCatasto1TXT>},
+    Forma{forma::Disegno, &ApriDisegno},
+    Forma{forma::LibrettoDaDisegno, &ApriLibrettoDaDisegno},
+    Forma{forma::CodFis, &Apri<KR_CodFis>},
+    Forma{forma::Comuni8, &Apri<KR_Comuni8>},
+    Forma{forma::ArchivioPossessori, &Apri<ArchivioPossessori>},
+    Forma{forma::ImportaFiduciali, &Apri<FormImportaFiduciali>},
+    Forma{forma::SelezionaMisurate, &Apri<KR_SelezionaMisurate>},
+};
+
+} // namespace
+
+std::span<const Forma> Forme() {
+  return ElencoForme;
+}
+
+const Forma* TrovaForma(std::string_view nome) {
+  const auto trovata =
+      std::find_if(ElencoForme.begin(), ElencoForme.end(), [nome](const Forma& form) { return form.nome == nome; });
+  return trovata == ElencoForme.end() ? nullptr : &*trovata;
+}
+
+} // namespace lirmeto
