@@ -1,35 +1,65 @@
 #pragma once
-// The commands of lirmeto-cli, each a function from the open session to the bytes of its result.
+// The commands of lirmeto-cli, each a function from the open session to the bytes of its result. Commands of one matter
+// stand together as a family: "estratto salva FILE".
 
 #include <core/ambiente.h>
 
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lirmeto {
 
-enum class ArgomentoCli { File, TestoFacoltativo };
+enum class GenereArgomento {
+  File,             // a file of the host that must be readable; given to the command as a path with a drive
+  FileFacoltativo,  // the same as an option, "--libretto"; empty when it is not given
+  AltriFile,        // one or more of them, as the last argument
+  Testo,            // Windows-1252
+  TestoFacoltativo, // empty when it is not given; as the last argument
+  AltriTesti,       // an option that may be given more than once or not at all, as the last argument
+  Percorso,         // of the host, whatever stands there; given as a path with a drive
+};
+
+struct ArgomentoCli {
+  std::string_view nome; // "FILE"; of an option "--libretto"
+  GenereArgomento genere = GenereArgomento::File;
+  std::string_view spiegazione; // for the help, UTF-8
+};
+
+// The one argument that most commands take.
+inline constexpr ArgomentoCli UnFile[] = {{"FILE", GenereArgomento::File, "file da aprire"}};
 
 struct ComandoCli {
   std::string_view nome;
   std::string_view descrizione; // for the help, UTF-8
-  ArgomentoCli genere;
-  // Takes the path of the file, or the text, in Windows-1252.
-  std::string (*esegui)(Ambiente& ambiente, const std::string& argomento);
+  std::span<const ArgomentoCli> argomenti;
+  // Takes the arguments in order.
+  std::string (*esegui)(Ambiente& ambiente, const std::vector<std::string>& argomenti);
 };
 
-[[nodiscard]] std::span<const ComandoCli> ComandiCli();
+struct FamigliaCli {
+  std::string_view nome; // empty: its commands stand by themselves
+  std::string_view descrizione;
+  std::span<const ComandoCli> comandi;
+};
 
-// Rows of the list: index TAB kind TAB row, UTF-8.
-[[nodiscard]] std::string ComandoRighe(Ambiente& ambiente, const std::string& percorso);
-// What rows 0 and 9 say: Name=value, UTF-8.
-[[nodiscard]] std::string ComandoIntestazione(Ambiente& ambiente, const std::string& percorso);
-// The bytes of the libretto saved as it stands, and saved in Pregeo's order.
-[[nodiscard]] std::string ComandoSalva(Ambiente& ambiente, const std::string& percorso);
-[[nodiscard]] std::string ComandoRiordina(Ambiente& ambiente, const std::string& percorso);
-// Rows of the municipal table whose name begins with the text or whose code it is, without regard to case; all for an
-// empty text. Code TAB province TAB name TAB the four characters, UTF-8.
-[[nodiscard]] std::string ComandoComuni(Ambiente& ambiente, const std::string& testo);
+// All families, in the order of the help.
+[[nodiscard]] std::span<const FamigliaCli> FamiglieCli();
+
+// Rows, header, save, reorder, comuni.
+[[nodiscard]] FamigliaCli ComandiLibretto();
+// Map extracts.
+[[nodiscard]] FamigliaCli ComandiEstratto();
+
+// The check of a fiscal code; archives.
+[[nodiscard]] FamigliaCli ComandiSupporto();
+[[nodiscard]] FamigliaCli ComandiZip();
+// A libretto from a drawing, a fiducial point.
+[[nodiscard]] FamigliaCli ComandiGenerazione();
+// A drawing as the texts of other programs.
+[[nodiscard]] FamigliaCli ComandiDisegno();
+// Print models.
+[[nodiscard]] FamigliaCli ComandiModello();
 
 } // namespace lirmeto

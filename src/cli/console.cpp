@@ -12,7 +12,7 @@ namespace {
 
 constexpr auto PrimaDiMostrare = std::chrono::milliseconds(500);
 
-void Stampa(std::FILE* canale, std::string_view utf8) {
+void ScriviSu(std::FILE* canale, std::string_view utf8) {
   std::fwrite(utf8.data(), 1, utf8.size(), canale);
   std::fflush(canale);
 }
@@ -28,7 +28,7 @@ DialoghiConsole::DialoghiConsole(std::FILE* canale, std::vector<Risposta> rispos
 
 void DialoghiConsole::Messaggio(std::string_view testo, std::string_view titolo, Gravita /*gravita*/) {
   CancellaAvanzamento();
-  Stampa(canale_, RigaMessaggio(titolo, testo));
+  ScriviSu(canale_, RigaMessaggio(titolo, testo));
 }
 
 Risposta DialoghiConsole::Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) {
@@ -40,12 +40,24 @@ Risposta DialoghiConsole::Chiedi(std::string_view testo, std::string_view titolo
   return bottoni == Bottoni::SiNo && risposta == Risposta::Annulla ? Risposta::No : risposta;
 }
 
+std::string DialoghiConsole::ScegliFileDaAprire(const RichiestaFile& /*richiesta*/) {
+  throw Errore(errore::DialogoAnnullato);
+}
+
 std::string DialoghiConsole::ScegliFileDaSalvare(const RichiestaFile& /*richiesta*/) {
   throw Errore(errore::DialogoAnnullato);
 }
 
 Carattere DialoghiConsole::ScegliCarattere(const Carattere& /*attuale*/) {
   throw Errore(errore::DialogoAnnullato);
+}
+
+void DialoghiConsole::ScegliStampante() {
+  throw Errore(errore::DialogoAnnullato);
+}
+
+void DialoghiConsole::Stampa(const Stampato& /*stampato*/) {
+  throw Errore(errore::ErroreStampante);
 }
 
 void DialoghiConsole::Avanzamento(std::string_view lavoro, std::size_t fatto, std::size_t totale) {
@@ -65,11 +77,11 @@ void DialoghiConsole::Avanzamento(std::string_view lavoro, std::size_t fatto, st
   if (adesso - inizio_ < PrimaDiMostrare || (mostrato_ && percento == percento_)) return;
   percento_ = percento;
   mostrato_ = true;
-  Stampa(canale_, "\r" + AUtf8(lavoro) + ": " + TestoIntero(static_cast<long long>(percento)) + "%");
+  ScriviSu(canale_, "\r" + AUtf8(lavoro) + ": " + TestoIntero(static_cast<long long>(percento)) + "%");
 }
 
 void DialoghiConsole::CancellaAvanzamento() {
-  if (mostrato_) Stampa(canale_, "\r\033[K");
+  if (mostrato_) ScriviSu(canale_, "\r\033[K");
   mostrato_ = false;
 }
 

@@ -25,8 +25,13 @@ public:
   [[nodiscard]] Risposta Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) override;
 
   // Nobody is there to choose: as if cancelled.
+  [[nodiscard]] std::string ScegliFileDaAprire(const RichiestaFile& richiesta) override;
   [[nodiscard]] std::string ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
   [[nodiscard]] Carattere ScegliCarattere(const Carattere& attuale) override;
+  void ScegliStampante() override;
+
+  // There is no printer either.
+  void Stampa(const Stampato& stampato) override;
 
   // One line, written over, when the stream is a terminal.
   void Avanzamento(std::string_view lavoro, std::size_t fatto, std::size_t totale) override;

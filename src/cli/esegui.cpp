@@ -15,6 +15,7 @@
 #include <piattaforma/processi_linux.h>
 #include <piattaforma/trova_dischi.h>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 
@@ -49,6 +50,38 @@ std::string MotivoIllegibile(const fs::path& file) {
   return {};
 }
 
+// Kind of the argument number `indice`: the last one told may be given more than once.
+GenereArgomento GenereDi(const ComandoCli& comando, std::size_t indice) {
+  return comando.argomenti[std::min(indice, comando.argomenti.size() - 1)].genere;
+}
+
+bool EFile(GenereArgomento genere) {
+  return genere == GenereArgomento::File || genere == GenereArgomento::AltriFile ||
+         genere == GenereArgomento::FileFacoltativo;
+}
+
+// Why the first file that cannot be read cannot; empty when all can.
+std::string PrimoIllegibile(const Opzioni& opzioni) {
+  for (std::size_t i = 0; i < opzioni.argomenti.size(); ++i) {
+    const GenereArgomento genere = GenereDi(*opzioni.comando, i);
+    if (!EFile(genere) || (genere == GenereArgomento::FileFacoltativo && opzioni.argomenti[i].empty())) continue;
+    std::string motivo = MotivoIllegibile(opzioni.argomenti[i]);
+    if (!motivo.empty()) return motivo;
+  }
+  return {};
+}
+
+std::vector<std::string> ArgomentiPerIlComando(const Opzioni& opzioni) {
+  std::vector<std::string> argomenti;
+  for (std::size_t i = 0; i < opzioni.argomenti.size(); ++i) {
+    const GenereArgomento genere = GenereDi(*opzioni.comando, i);
+    const bool percorso = EFile(genere) || genere == GenereArgomento::Percorso;
+    argomenti.push_back(percorso && !opzioni.argomenti[i].empty() ? PercorsoDaOspite(opzioni.argomenti[i])
+                                                                  : DaUtf8(opzioni.argomenti[i]));
+  }
+  return argomenti;
+}
+
 // The machine of one run, and its session.
 class Giro {
 public:
@@ -61,13 +94,13 @@ public:
   }
 
   // The result of a command; none when an error report was shown.
-  std::optional<std::string> Esegui(const ComandoCli& comando, const std::string& argomento) {
+  std::optional<std::string> Esegui(const Opzioni& opzioni) {
     Ambiente ambiente = DammiAmbiente();
     std::string risultato;
     const bool riuscito = Intrappola(ambiente, [&] {
       PreparaCartelle(ambiente);
       CaricaInstallazione(ambiente);
-      risultato = comando.esegui(ambiente, argomento);
+      risultato = opzioni.comando->esegui(ambiente, ArgomentiPerIlComando(opzioni));
     });
     if (!riuscito || RapportoMostrato()) return std::nullopt;
     return risultato;
@@ -115,17 +148,13 @@ int Esegui(const std::vector<std::string>& parole, const Canali& canali) {
     return Stampa(canali.uscita, niente->uscita) ? niente->codice : ErroreMostrato;
   }
   const auto& opzioni = std::get<Opzioni>(letto);
-  const bool conFile = opzioni.comando->genere == ArgomentoCli::File;
-  if (conFile) {
-    const std::string motivo = MotivoIllegibile(opzioni.argomento);
-    if (!motivo.empty()) {
-      Stampa(canali.errori, RigaMessaggio(TitoloProgramma, motivo));
-      return FileIllegibile;
-    }
+  const std::string motivo = PrimoIllegibile(opzioni);
+  if (!motivo.empty()) {
+    Stampa(canali.errori, RigaMessaggio(TitoloProgramma, motivo));
+    return FileIllegibile;
   }
   Giro giro(opzioni, canali.errori);
-  const auto risultato =
-      giro.Esegui(*opzioni.comando, conFile ? PercorsoDaOspite(opzioni.argomento) : DaUtf8(opzioni.argomento));
+  const auto risultato = giro.Esegui(opzioni);
   return risultato ? Consegna(giro, opzioni, *risultato, canali) : ErroreMostrato;
 }
 

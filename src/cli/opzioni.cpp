@@ -7,7 +7,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
+#include <array>
 #include <charconv>
 #include <chrono>
 #include <map>
@@ -24,13 +24,14 @@ const std::map<std::string, Risposta>& Risposte() {
   return risposte;
 }
 
-// What the parser fills; the commands share the place of their one argument, since only one of them is given.
+// What the parser fills; the commands share the places of their arguments, since only one of them is given.
 struct Scritte {
   std::string dischi;
   std::string oggi;
   std::vector<std::string> risposte;
   std::string uscita;
-  std::string argomento;
+  std::array<std::string, 4> argomenti;
+  std::vector<std::string> altri; // of an argument that is given more than once
 };
 
 // Whole number of exactly so many digits.
@@ -93,38 +94,95 @@ void AggiungiOpzioni(CLI::App& app, Scritte& scritte) {
       ->check(ControllaUscita);
 }
 
+bool Ripetuto(GenereArgomento genere) {
+  return genere == GenereArgomento::AltriFile || genere == GenereArgomento::AltriTesti;
+}
+
+bool Facoltativo(GenereArgomento genere) {
+  return genere == GenereArgomento::TestoFacoltativo || genere == GenereArgomento::FileFacoltativo ||
+         genere == GenereArgomento::AltriTesti;
+}
+
+void AggiungiArgomento(CLI::App& voce, const ArgomentoCli& argomento, std::string& posto,
+                       std::vector<std::string>& altri) {
+  const std::string nome(argomento.nome);
+  const std::string spiegazione(argomento.spiegazione);
+  CLI::Option* opzione = Ripetuto(argomento.genere) ? voce.add_option(nome, altri, spiegazione)
+                                                    : voce.add_option(nome, posto, spiegazione);
+  opzione->option_text(argomento.genere == GenereArgomento::AltriFile ? "..." : " ")
+      ->required(!Facoltativo(argomento.genere));
+  if (argomento.genere == GenereArgomento::AltriTesti) opzione->allow_extra_args(false);
+}
+
+CLI::App* AggiungiVoce(CLI::App& app, std::string_view nome, std::string_view descrizione) {
+  CLI::App* voce = app.add_subcommand(std::string(nome), std::string(descrizione));
+  voce->group("Comandi")->fallthrough()->set_help_flag("-h,--help", "mostra questo aiuto")->group("Opzioni");
+  voce->footer("Le altre opzioni: lirmeto-cli --help");
+  return voce;
+}
+
+void AggiungiComando(CLI::App& app, const ComandoCli& comando, Scritte& scritte) {
+  CLI::App* voce = AggiungiVoce(app, comando.nome, comando.descrizione);
+  for (std::size_t i = 0; i < comando.argomenti.size(); ++i)
+    AggiungiArgomento(*voce, comando.argomenti[i], scritte.argomenti.at(i), scritte.altri);
+}
+
 void AggiungiComandi(CLI::App& app, Scritte& scritte) {
   app.require_subcommand(1);
-  for (const ComandoCli& comando : ComandiCli()) {
-    CLI::App* voce = app.add_subcommand(std::string(comando.nome), std::string(comando.descrizione));
-    voce->group("Comandi")->fallthrough()->set_help_flag("-h,--help", "mostra questo aiuto")->group("Opzioni");
-    voce->footer("Le altre opzioni: lirmeto-cli --help");
-    if (comando.genere == ArgomentoCli::File)
-      voce->add_option("FILE", scritte.argomento, "file da aprire")->option_text(" ")->required();
-    else
-      voce->add_option("TESTO", scritte.argomento, "inizio del nome, o codice; senza: tutti")->option_text(" ");
+  for (const FamigliaCli& famiglia : FamiglieCli()) {
+    CLI::App* padre = &app;
+    if (!famiglia.nome.empty()) {
+      padre = AggiungiVoce(app, famiglia.nome, famiglia.descrizione);
+      padre->require_subcommand(1);
+    }
+    for (const ComandoCli& comando : famiglia.comandi) AggiungiComando(*padre, comando, scritte);
   }
 }
 
+// The subcommands given, the outer one first.
+std::vector<std::string> Scelti(const CLI::App& app) {
+  std::vector<std::string> nomi;
+  for (auto dati = app.get_subcommands(); !dati.empty(); dati = dati.front()->get_subcommands())
+    nomi.push_back(dati.front()->get_name());
+  return nomi;
+}
+
 const ComandoCli* ComandoScelto(const CLI::App& app) {
-  const auto scelti = app.get_subcommands();
-  if (scelti.empty()) return nullptr;
-  const auto comandi = ComandiCli();
-  const auto trovato = std::find_if(comandi.begin(), comandi.end(), [&](const ComandoCli& comando) {
-    return comando.nome == scelti.front()->get_name();
-  });
-  return &*trovato;
+  const auto nomi = Scelti(app);
+  for (const FamigliaCli& famiglia : FamiglieCli())
+    for (const ComandoCli& comando : famiglia.comandi)
+      if (nomi.back() == comando.nome && (nomi.size() == 1 ? "" : nomi.front()) == famiglia.nome) return &comando;
+  return nullptr;
+}
+
+// A family without its command, or a command without its argument.
+std::string SpiegaMancanza(const CLI::App& app) {
+  const auto nomi = Scelti(app);
+  if (nomi.empty()) return "Manca il comando.";
+  const ComandoCli* comando = ComandoScelto(app);
+  if (comando == nullptr) return "Manca il comando di " + nomi.front() + ".";
+  std::string nome;
+  for (const std::string& parola : nomi) nome += " " + parola;
+  std::string argomenti;
+  std::size_t quanti = 0;
+  for (const ArgomentoCli& argomento : comando->argomenti)
+    if (!Facoltativo(argomento.genere)) {
+      argomenti += " " + std::string(argomento.nome);
+      ++quanti;
+    }
+  return (quanti == 1 ? "Manca il" + argomenti : "Gli argomenti sono" + argomenti) + " del comando" + nome + ".";
 }
 
 std::string SpiegaErrore(const CLI::App& app, const CLI::ParseError& sbaglio) {
   const auto avanzi = app.remaining(true);
   const bool senzaComando = app.get_subcommands().empty();
+  const bool diFamiglia = !senzaComando && ComandoScelto(app) == nullptr;
   if (dynamic_cast<const CLI::ValidationError*>(&sbaglio) != nullptr) return sbaglio.what();
   if (dynamic_cast<const CLI::ArgumentMismatch*>(&sbaglio) != nullptr) return "Un'opzione è senza il suo valore.";
   if (!avanzi.empty() && avanzi.front().rfind('-', 0) == 0) return "Opzione sconosciuta: " + avanzi.front();
-  if (!avanzi.empty()) return (senzaComando ? "Comando sconosciuto: " : "Argomento di troppo: ") + avanzi.front();
-  if (senzaComando) return "Manca il comando.";
-  return "Manca il FILE del comando " + app.get_subcommands().front()->get_name() + ".";
+  if (!avanzi.empty())
+    return (senzaComando || diFamiglia ? "Comando sconosciuto: " : "Argomento di troppo: ") + avanzi.front();
+  return SpiegaMancanza(app);
 }
 
 NienteDaFare UsoSbagliato(const CLI::App& app, const CLI::ParseError& sbaglio) {
@@ -140,7 +198,9 @@ Opzioni DaScritte(const CLI::App& app, const Scritte& scritte) {
   if (!scritte.uscita.empty()) opzioni.uscita = scritte.uscita;
   for (const std::string& risposta : scritte.risposte) opzioni.risposte.push_back(Risposte().at(risposta));
   opzioni.comando = ComandoScelto(app);
-  opzioni.argomento = scritte.argomento;
+  for (std::size_t i = 0; i < opzioni.comando->argomenti.size(); ++i)
+    if (!Ripetuto(opzioni.comando->argomenti[i].genere)) opzioni.argomenti.push_back(scritte.argomenti.at(i));
+  opzioni.argomenti.insert(opzioni.argomenti.end(), scritte.altri.begin(), scritte.altri.end());
   return opzioni;
 }
 

@@ -20,7 +20,7 @@ struct Opzioni {
   std::vector<Risposta> risposte;              // in the order of the questions
   std::optional<std::filesystem::path> uscita; // standard output when there is none
   const ComandoCli* comando = nullptr;
-  std::string argomento; // of the command, as it was typed (UTF-8)
+  std::vector<std::string> argomenti; // of the command, as they were typed (UTF-8)
 };
 
 // A command line that asks for no work: the help, or a mistake.

@@ -1,0 +1,69 @@
+#include <cli/comandi.h>
+
+#include <base/errore.h>
+#include <base/testo.h>
+#include <core/apertura.h>
+#include <core/salvataggio.h>
+#include <core/servizi.h>
+#include <fiduciali/taf.h>
+#include <generazione/libretto_da_disegno.h>
+
+#include <array>
+
+namespace lirmeto {
+
+namespace {
+
+// "CHIAVE=VALORE" into the form.
+void Imposta(LibrettoDaDisegno& form, std::string_view opzione) {
+  const std::size_t uguale = opzione.find('=');
+  const bool fatto =
+      uguale != std::string_view::npos && form.Imposta(Taglia(opzione.substr(0, uguale)), opzione.substr(uguale + 1));
+  if (!fatto)
+    throw Errore(errore::ArgomentoNonValido,
+                 "Opzione sconosciuta o valore non valido: \"" + std::string(opzione) + "\"");
+}
+
+// The old libretto, or rows 0 and 9 by default.
+void ApriPrecedente(Ambiente& ambiente, const std::string& libretto) {
+  if (!libretto.empty()) ApriLibretto(ambiente, libretto);
+  CaricaLibrettoInList1(ambiente);
+}
+
+// The session file of the libretto made from a drawing. Arguments: drawing, old libretto or nothing, options.
+std::string ComandoGenera(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
+  ApriPrecedente(ambiente, argomenti[1]);
+  ambiente.sessione.NomeFileLibretto = argomenti[0];
+  DisegnoCondiviso disegno;
+  LibrettoDaDisegno form(ambiente, disegno);
+  form.Form_Load();
+  for (std::size_t i = 2; i < argomenti.size(); ++i) Imposta(form, argomenti[i]);
+  if (!form.GeneraLibrettoMisureAutomatico())
+    throw Errore(errore::ArgomentoNonValido, "Nessuna modalit\xE0 di orientamento scelta");
+  return TestoDaSalvare(std::move(ambiente.sessione.Libretto), ambiente.sessione);
+}
+
+std::string ComandoPf(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
+  const auto trovato = CercaPFinTAF(ambiente, argomenti[0]);
+  if (!trovato) throw Errore(errore::ArgomentoNonValido, "Punto fiduciale non trovato: \"" + argomenti[0] + "\"");
+  return AUtf8("north=" + trovato->nord + "\neast=" + trovato->est + "\n");
+}
+
+constexpr ArgomentoCli ArgomentiGenera[] = {
+    {"DISEGNO", GenereArgomento::File, "disegno .LXC"},
+    {"--libretto", GenereArgomento::FileFacoltativo, "libretto di partenza; senza: le righe 0 e 9 predefinite"},
+    {"--opzione", GenereArgomento::AltriTesti, "CHIAVE=VALORE; ripetibile"}};
+constexpr ArgomentoCli ArgomentiPf[] = {{"NOME", GenereArgomento::Testo, "come PF01/0010/G224"}};
+
+constexpr std::array<ComandoCli, 2> Comandi = {{
+    {"genera", "il libretto da un disegno", ArgomentiGenera, ComandoGenera},
+    {"pf", "le coordinate di un punto fiduciale", ArgomentiPf, ComandoPf},
+}};
+
+} // namespace
+
+FamigliaCli ComandiGenerazione() {
+  return {"", "", Comandi};
+}
+
+} // namespace lirmeto
