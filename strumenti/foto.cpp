@@ -2,15 +2,30 @@
 // only read, processes are left alone, messages go to standard error.
 //
 //   lirmeto-foto --dischi DIR --uscita DIR [--scala 1|2] FILE
+//   lirmeto-foto --dischi DIR --uscita DIR [--scala 1|2] --disegno FILE
+//   lirmeto-foto --dischi DIR --uscita DIR [--scala 1|2] --disegno FILE.LXC    the libretto from a drawing
 
 #include <ui/aspetto.h>
 #include <ui/barra_ricerca.h>
+#include <ui/finestra_autore.h>
+#include <ui/finestra_catasto1.h>
+#include <ui/finestra_codfis.h>
+#include <ui/finestra_configura_pregeo.h>
+#include <ui/finestra_disegno.h>
 #include <ui/finestra_editor.h>
+#include <ui/finestra_libretto_disegno.h>
 #include <ui/finestra_principale.h>
 #include <ui/finestra_riordino.h>
+#include <ui/finestra_scartate.h>
+#include <ui/finestra_stampa_generale.h>
+#include <ui/grafica_pannello.h>
+#include <ui/grafica_superficie.h>
 #include <ui/testo_qt.h>
 #include <ui/vista_righe.h>
 
+#include <applicazione/forme.h>
+#include <base/testo.h>
+#include <core/apertura.h>
 #include <piattaforma/disco_dischi.h>
 #include <piattaforma/orologi.h>
 #include <piattaforma/processi_linux.h>
@@ -19,6 +34,8 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QLineEdit>
+#include <QListView>
+#include <QMouseEvent>
 #include <QTextStream>
 
 namespace {
@@ -40,6 +57,8 @@ public:
     return disco_.Elenca(cartella, estensione);
   }
   void Scrivi(std::string_view /*percorso*/, std::string_view /*contenuto*/) override {}
+  [[nodiscard]] Istante Modificato(std::string_view percorso) const override { return disco_.Modificato(percorso); }
+  void Rimpiazza(std::string_view /*percorso*/, std::string_view /*contenuto*/) override {}
   void CreaCartella(std::string_view /*percorso*/) override {}
   void Copia(std::string_view /*da*/, std::string_view /*a*/) override {}
   void Elimina(std::string_view /*percorso*/) override {}
@@ -53,10 +72,20 @@ public:
   explicit ProcessiFermi(Processi& processi) : processi_(processi) {}
   [[nodiscard]] CartelleDiSistema Cartelle() override { return processi_.Cartelle(); }
   void AvviaEAttendi(const std::string& /*programma*/, const std::vector<std::string>& /*argomenti*/) override {}
+  void ApriDocumento(const std::string& /*percorso*/) override {}
+  void ApriPagina(const std::string& /*indirizzo*/) override {}
+  void ApriDocumentoCon(const std::string& /*programma*/, const std::string& /*percorso*/) override {}
   [[nodiscard]] std::vector<long> Elenca(std::string_view /*immagine*/) override { return {}; }
   [[nodiscard]] long QuestoProcesso() const override { return processi_.QuestoProcesso(); }
   [[nodiscard]] int Termina(long /*processo*/) override { return 0; }
+  [[nodiscard]] std::unique_ptr<ArchivioAperto> ApriArchivio(std::string byte) override {
+    return processi_.ApriArchivio(std::move(byte));
+  }
   void MostraDesktop() override {}
+  void CreaCollegamento(const Collegamento& /*collegamento*/) override {}
+  [[nodiscard]] std::string VersioneFile(std::string_view percorso) override {
+    return processi_.VersioneFile(percorso);
+  }
 
 private:
   Processi& processi_;
@@ -70,17 +99,23 @@ public:
   [[nodiscard]] Risposta Chiedi(std::string_view /*testo*/, std::string_view /*titolo*/, Bottoni /*bottoni*/) override {
     return Risposta::No;
   }
+  [[nodiscard]] std::string ScegliFileDaAprire(const RichiestaFile& /*richiesta*/) override {
+    throw Errore(errore::DialogoAnnullato);
+  }
   [[nodiscard]] std::string ScegliFileDaSalvare(const RichiestaFile& /*richiesta*/) override {
     throw Errore(errore::DialogoAnnullato);
   }
   [[nodiscard]] Carattere ScegliCarattere(const Carattere& attuale) override { return attuale; }
+  void ScegliStampante() override {}
+  void Stampa(const Stampato& /*stampato*/) override {}
   void Avanzamento(std::string_view /*lavoro*/, std::size_t /*fatto*/, std::size_t /*totale*/) override {}
 };
 
+// Shows none, and says which there are: entries look as in the program.
 class NessunaFinestra final : public Finestre {
 public:
   void MostraModale(Modello& /*modello*/) override {}
-  [[nodiscard]] bool Disponibile(std::string_view /*nome*/) const override { return false; }
+  [[nodiscard]] bool Disponibile(std::string_view nome) const override { return TrovaForma(nome) != nullptr; }
   void Apri(std::string_view /*nome*/) override {}
 };
 
@@ -109,7 +144,39 @@ public:
     ui::FinestraPrincipale finestra(modello_, [](const QString&) { return std::string(); });
     finestra.resize(1440, 900); // the platform's screen is smaller than any real one
     finestra.show();
-    return Principale(finestra) && Ricerca(finestra) && Strumenti(finestra) && Editor() && Riordino();
+    return Principale(finestra) && Ricerca(finestra) && Strumenti(finestra) && Editor() && Riordino() &&
+           ConfiguraPregeo() && Intestazione() && Stampa() && Comuni() && Scartate(finestra);
+  }
+
+  [[nodiscard]] bool Disegno(const std::string& file) {
+    FormDisegno form(ambiente_);
+    if (!form.Apri(file)) return false;
+    ui::FinestraDisegno finestra(form);
+    finestra.resize(1240, 840);
+    finestra.show();
+    // The mouse stands near a point, so that the readout shows.
+    QWidget& superficie = finestra.Pannello().Superficie();
+    const QPointF posto(superficie.width() * 0.45, superficie.height() * 0.55);
+    QMouseEvent mouse(QEvent::MouseMove, posto, superficie.mapToGlobal(posto), Qt::NoButton, Qt::NoButton, {});
+    QApplication::processEvents();
+    QApplication::sendEvent(&superficie, &mouse);
+    return Salva(finestra, "disegno");
+  }
+
+  // The libretto from a drawing, over the old libretto beside it, with one line lit.
+  [[nodiscard]] bool LibrettoDisegno(const std::string& file) {
+    const std::string vecchio = file.substr(0, file.size() - 4) + ".TXT";
+    if (!modello_.Avvia(ambiente_.disco.Esiste(vecchio) ? vecchio : std::string())) return false;
+    ambiente_.sessione.NomeFileLibretto = file;
+    DisegnoCondiviso disegno;
+    LibrettoDaDisegno form(ambiente_, disegno);
+    form.Form_Load();
+    ui::FinestraLibrettoDisegno finestra(form);
+    finestra.resize(1440, 900);
+    finestra.show();
+    auto* linee = finestra.findChild<QListView*>(QStringLiteral("List1"));
+    linee->setCurrentIndex(linee->model()->index(1, 0));
+    return Salva(finestra, "libretto_disegno");
   }
 
 private:
@@ -162,6 +229,61 @@ private:
     return Salva(finestra, "riordino");
   }
 
+  // A reorder that drops two rows: the notice at the foot, and their list.
+  bool Scartate(ui::FinestraPrincipale& finestra) {
+    modello_.DatiSessione().List1.Aggiungi("6|una riga|che nessuna|classe|prende|");
+    modello_.DatiSessione().List1.Aggiungi("6|altra|riga|di troppi|campi|");
+    modello_.Esegui(Comando::RiordinoRighe);
+    finestra.findChild<ui::VistaRighe*>()->VaiA(5);
+    finestra.Mostra();
+    FormRigheScartate form(ambiente_);
+    ui::FinestraScartate elenco(form);
+    elenco.show();
+    autore dati;
+    ui::FinestraAutore informazioni(dati);
+    informazioni.show();
+    return Salva(finestra, "scartate_avviso") && Salva(elenco, "scartate") && Salva(informazioni, "autore");
+  }
+
+  bool ConfiguraPregeo() {
+    FormConfiguraPregeo form(ambiente_);
+    form.AlCaricamento();
+    ui::FinestraConfiguraPregeo finestra(form);
+    finestra.resize(820, 640);
+    finestra.show();
+    return Salva(finestra, "configura_pregeo");
+  }
+
+  // A comune found by what was typed.
+  bool Comuni() {
+    KR_CodFis form(ambiente_);
+    form.AlCaricamento();
+    form.CambiaText1("PAD");
+    ui::FinestraCodFis finestra(form);
+    finestra.show();
+    return Salva(finestra, "comuni");
+  }
+
+  // The rows of the libretto as a report.
+  bool Stampa() {
+    KR_StampaGenerale form(ambiente_);
+    form.List1 = modello_.DatiSessione().List1.Righe();
+    form.AlCaricamento();
+    ui::FinestraStampaGenerale finestra(form);
+    finestra.resize(1080, 680);
+    finestra.show();
+    return Salva(finestra, "stampa");
+  }
+
+  bool Intestazione() {
+    FormCatasto1TXT form(ambiente_);
+    form.AlCaricamento();
+    ui::FinestraCatasto1 finestra(form);
+    finestra.resize(1040, 620);
+    finestra.show();
+    return Salva(finestra, "intestazione");
+  }
+
   bool Salva(QWidget& finestra, const char* nome) {
     QApplication::setActiveWindow(&finestra);
     QApplication::processEvents();
@@ -180,7 +302,7 @@ private:
   QDir uscita_;
 };
 
-int Fotografa(const std::filesystem::path& dischi, const QString& uscita, const QString& libretto) {
+int Fotografa(const std::filesystem::path& dischi, const QString& uscita, const QString& file, bool disegno) {
   Sessione sessione;
   DiscoDischi discoVero(dischi);
   ProcessiLinux processiVeri(discoVero);
@@ -193,7 +315,12 @@ int Fotografa(const std::filesystem::path& dischi, const QString& uscita, const 
   OrologioDiSistema orologio;
   Ambiente ambiente{sessione, disco, dialoghi, finestre, processi, impostazioni, appunti, orologio};
   KR_LibrettoOriginale modello(ambiente);
-  if (!modello.Avvia(PercorsoDaOspite(libretto.toStdString()))) return 1;
+  const bool conUnita = file.mid(1, 2) == QLatin1String(":\\");
+  const std::string percorso = conUnita ? ui::DaQString(file) : PercorsoDaOspite(file.toStdString());
+  if (disegno && FinisceConSenzaCaso(percorso, ".LXC"))
+    return Fotografo(modello, ambiente, QDir(uscita)).LibrettoDisegno(percorso) ? 0 : 1;
+  if (disegno) return Fotografo(modello, ambiente, QDir(uscita)).Disegno(percorso) ? 0 : 1;
+  if (!modello.Avvia(percorso)) return 1;
   return Fotografo(modello, ambiente, QDir(uscita)).Tutte() ? 0 : 1;
 }
 
@@ -221,6 +348,7 @@ int main(int argc, char** argv) {
   lettore.addHelpOption();
   lettore.addOptions({{QStringLiteral("dischi"), QStringLiteral("Cartella delle unità."), QStringLiteral("DIR")},
                       {QStringLiteral("uscita"), QStringLiteral("Cartella delle immagini."), QStringLiteral("DIR")},
+                      {QStringLiteral("disegno"), QStringLiteral("Il file è un disegno.")},
                       {QStringLiteral("scala"), QStringLiteral("1 o 2."), QStringLiteral("N"), QStringLiteral("1")}});
   lettore.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Libretto da mostrare."));
   lettore.process(applicazione);
@@ -229,5 +357,6 @@ int main(int argc, char** argv) {
     lettore.showHelp(2);
   const QString uscita = lettore.value(QStringLiteral("uscita"));
   if (!QDir().mkpath(uscita)) return 1;
-  return Fotografa(lettore.value(QStringLiteral("dischi")).toStdString(), uscita, file.first());
+  return Fotografa(lettore.value(QStringLiteral("dischi")).toStdString(), uscita, file.first(),
+                   lettore.isSet(QStringLiteral("disegno")));
 }

@@ -83,17 +83,36 @@ Risposta DialoghiQt::Chiedi(std::string_view testo, std::string_view titolo, Bot
   return conAnnulla && scatola.clickedButton() != no ? Risposta::Annulla : Risposta::No;
 }
 
-std::string DialoghiQt::ScegliFileDaSalvare(const RichiestaFile& richiesta) {
+std::string DialoghiQt::ScegliFile(const RichiestaFile& richiesta, bool daSalvare) {
   NascondiBarra();
   QFileDialog finestra(FinestraAttuale(), AQString(richiesta.titolo));
-  finestra.setAcceptMode(QFileDialog::AcceptSave);
-  finestra.setFileMode(QFileDialog::AnyFile);
+  finestra.setAcceptMode(daSalvare ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  finestra.setFileMode(daSalvare ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   if (!richiesta.filtro.empty()) finestra.setNameFilter(AQString(richiesta.filtro));
-  finestra.setDirectory(percorsi_.aOspite(richiesta.cartella));
-  finestra.selectFile(AQString(richiesta.nome));
+  if (!richiesta.cartella.empty()) finestra.setDirectory(percorsi_.aOspite(richiesta.cartella));
+  if (!richiesta.nome.empty()) finestra.selectFile(AQString(richiesta.nome));
   if (finestra.exec() != QDialog::Accepted || finestra.selectedFiles().isEmpty())
     throw Errore(errore::DialogoAnnullato);
   return percorsi_.daOspite(finestra.selectedFiles().first());
+}
+
+std::string DialoghiQt::ScegliFileDaAprire(const RichiestaFile& richiesta) {
+  return ScegliFile(richiesta, false);
+}
+
+std::string DialoghiQt::ScegliFileDaSalvare(const RichiestaFile& richiesta) {
+  return ScegliFile(richiesta, true);
+}
+
+void DialoghiQt::ScegliStampante() {
+  NascondiBarra();
+  if (!stampa_.Scegli(FinestraAttuale())) throw Errore(errore::DialogoAnnullato);
+}
+
+void DialoghiQt::Stampa(const Stampato& stampato) {
+  NascondiBarra();
+  if (!stampa_.Pronta()) ScegliStampante();
+  stampa_.Stampa(stampato);
 }
 
 Carattere DialoghiQt::ScegliCarattere(const Carattere& attuale) {

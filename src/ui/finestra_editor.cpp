@@ -54,7 +54,7 @@ FinestraEditor::FinestraEditor(KR_EditorGen& modello, QWidget* padre)
   CreaRicerca();
   connect(casella_, &CasellaTesto::cursorPositionChanged, this, &FinestraEditor::MostraPosto);
   connect(casella_, &CasellaTesto::LettereNonAmmesse, this, [this](const QString& lettere) {
-    avviso_->setText(QStringLiteral("Il libretto non può contenere %1: al salvataggio diventa «?».").arg(lettere));
+    avviso_->setText(QStringLiteral("Il testo non può contenere %1: al salvataggio diventa «?».").arg(lettere));
     avviso_->show();
   });
   AdattaAlloSchermo(*this, 1000, 700);
@@ -73,7 +73,7 @@ QToolBar* FinestraEditor::CreaBarra() {
       voce->setToolTip(QStringLiteral("%1 (%2)").arg(testo, tasti.toString(QKeySequence::NativeText)));
   };
   aggiungi("salva", QStringLiteral("Salva"), QKeySequence(Qt::CTRL | Qt::Key_S), [this] { Salva(); });
-  aggiungi("incolla", QStringLiteral("Incolla"), {}, [this] { casella_->paste(); });
+  if (!modello_.DelLibretto()) aggiungi("incolla", QStringLiteral("Incolla"), {}, [this] { casella_->paste(); });
   barra->addSeparator();
   aggiungi("maiuscolo", QStringLiteral("MAIUSCOLO"), QKeySequence(Qt::CTRL | Qt::Key_U),
            [this] { casella_->SelezioneInMaiuscolo(); });
@@ -129,7 +129,7 @@ void FinestraEditor::MostraPosto() {
                       .arg(cursore.blockNumber() + 1)
                       .arg(casella_->blockCount())
                       .arg(cursore.positionInBlock() + 1));
-  spiegazione_->MostraRiga(DaQString(cursore.block().text()));
+  if (modello_.DiRighe()) spiegazione_->MostraRiga(DaQString(cursore.block().text()));
 }
 
 void FinestraEditor::Salva() {

@@ -41,9 +41,9 @@ QString SpiegaTrascina() {
 FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDaOspite percorso, QWidget* padre)
     : QMainWindow(padre), modello_(modello), percorso_(std::move(percorso)),
       pulsanti_(new PannelloPulsanti(Disponibile(), this)), dati_(new PannelloDati(modello, this)),
-      strumenti_(new PannelloStrumenti(Disponibile(), this)),
-      righe_(new VistaRighe(modello.DatiSessione().List1, this)), ricerca_(new BarraRicerca(this)),
-      spiegazione_(new RigaDiStato(this)), nomeFile_(new QLabel(this)), posizione_(new QLabel(this)) {
+      strumenti_(new PannelloStrumenti(this)), righe_(new VistaRighe(modello.DatiSessione().List1, this)),
+      ricerca_(new BarraRicerca(this)), spiegazione_(new RigaDiStato(this)), nomeFile_(new QLabel(this)),
+      posizione_(new QLabel(this)), scartate_(new QToolButton(this)) {
   setObjectName(QStringLiteral("KR_LibrettoOriginale"));
   RiempiMenu(*menuBar(), Disponibile(), [this](Comando comando) { Comanda(comando); });
   auto* piano = new QSplitter(Qt::Horizontal, this);
@@ -62,14 +62,15 @@ FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDa
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->setSpacing(0);
   colonna->addWidget(piano, 1);
-  colonna->addWidget(spiegazione_);
-  spiegazione_->setObjectName(QStringLiteral("Spiegazione"));
+  colonna->addWidget(CreaPiede());
   setCentralWidget(tutto);
   CollegaElenco();
   CollegaRicerca();
   CreaScorciatoie();
   connect(pulsanti_, &PannelloPulsanti::Premuto, this, &FinestraPrincipale::Comanda);
-  connect(strumenti_, &PannelloStrumenti::Premuto, this, &FinestraPrincipale::Comanda);
+  connect(dati_, &PannelloDati::Premuto, this, &FinestraPrincipale::Comanda);
+  connect(strumenti_, &PannelloStrumenti::Premuto, this,
+          [this](std::string_view tag) { Fa([&] { modello_.EseguiStrumento(tag); }); });
   connect(pulsanti_, &PannelloPulsanti::PuntatoreSopra, this, [this](int indice) {
     modello_.PuntatoreSuPulsante(indice);
     MostraStrumenti();
@@ -110,6 +111,23 @@ QWidget* FinestraPrincipale::CreaTestata() {
   riga->addWidget(posizione_);
   riga->addWidget(cerca);
   return testata;
+}
+
+QWidget* FinestraPrincipale::CreaPiede() {
+  auto* piede = new QWidget(this);
+  auto* riga = new QHBoxLayout(piede);
+  riga->setContentsMargins(0, 0, 6, 0);
+  riga->setSpacing(8);
+  spiegazione_->setObjectName(QStringLiteral("Spiegazione"));
+  scartate_->setObjectName(QStringLiteral("Scartate"));
+  scartate_->setIcon(Icona(QStringLiteral("scartate")));
+  scartate_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  scartate_->setToolTip(QStringLiteral("Mostra l'elenco delle righe scartate"));
+  scartate_->setFocusPolicy(Qt::TabFocus);
+  connect(scartate_, &QToolButton::clicked, this, [this] { Comanda(Comando::MostraRigheScartate); });
+  riga->addWidget(spiegazione_, 1);
+  riga->addWidget(scartate_);
+  return piede;
 }
 
 void FinestraPrincipale::CollegaElenco() {
@@ -162,6 +180,9 @@ void FinestraPrincipale::Fa(const std::function<void()>& azione) {
 
 void FinestraPrincipale::Comanda(Comando comando) {
   Fa([&] { modello_.Esegui(comando); });
+  // What came back is brought into view.
+  const bool storia = comando == Comando::Annulla || comando == Comando::Ripeti;
+  if (storia && Elenco().Indice() >= 0) righe_->VaiA(static_cast<std::size_t>(Elenco().Indice()));
 }
 
 void FinestraPrincipale::Lascia(const QString& percorsoOspite) {
@@ -179,6 +200,18 @@ void FinestraPrincipale::Mostra() {
   const QFont carattere = FontDa(modello_.CarattereElenco);
   if (righe_->font() != carattere) righe_->setFont(carattere);
   MostraElenco();
+  MostraStoria();
+}
+
+// The entries that name the last command, and the notice of the last reorder.
+void FinestraPrincipale::MostraStoria() {
+  for (const Comando comando : {Comando::Annulla, Comando::Ripeti}) {
+    QAction* voce = VoceDi(*menuBar(), comando);
+    voce->setText(u'&' + AQString(modello_.Didascalia(comando)));
+    voce->setEnabled(modello_.Attivo(comando));
+  }
+  scartate_->setText(AQString(modello_.AvvisoScartate));
+  scartate_->setVisible(!modello_.AvvisoScartate.empty());
 }
 
 void FinestraPrincipale::MostraElenco() {

@@ -10,7 +10,9 @@
 #include <string>
 #include <vector>
 
+class QAction;
 class QLabel;
+class QToolButton;
 class QVBoxLayout;
 
 namespace lirmeto::ui {
@@ -43,6 +45,7 @@ protected:
 private:
   [[nodiscard]] QWidget* CreaCentro();
   [[nodiscard]] QWidget* CreaTestata();
+  [[nodiscard]] QWidget* CreaPiede();
   void CollegaElenco();
   void CollegaRicerca();
   void CreaScorciatoie();
@@ -50,6 +53,7 @@ private:
   void Fa(const std::function<void()>& azione);
   void Lascia(const QString& percorsoOspite);
   void MostraElenco();
+  void MostraStoria();
   void MostraStrumenti();
   void MostraSpiegazione();
   void Cerca();
@@ -70,6 +74,7 @@ private:
   RigaDiStato* spiegazione_;
   QLabel* nomeFile_;
   QLabel* posizione_;
+  QToolButton* scartate_;            // notice of the rows that a reorder dropped; lists them
   std::vector<std::size_t> trovate_; // rows that hold the text looked for
   std::optional<unsigned long> versioneTrovate_;
   bool occupata_ = false; // a command is running

@@ -1,11 +1,26 @@
 #include <ui/finestre_qt.h>
 
+#include <ui/finestra_autore.h>
+#include <ui/finestra_catasto1.h>
+#include <ui/finestra_codfis.h>
+#include <ui/finestra_comuni.h>
+#include <ui/finestra_configura_pregeo.h>
+#include <ui/finestra_disegno.h>
 #include <ui/finestra_editor.h>
+#include <ui/finestra_importa_fiduciali.h>
+#include <ui/finestra_libretto_disegno.h>
+#include <ui/finestra_possessori.h>
 #include <ui/finestra_riordino.h>
+#include <ui/finestra_scartate.h>
+#include <ui/finestra_seleziona_misurate.h>
+#include <ui/finestra_stampa_generale.h>
 
+#include <applicazione/forme.h>
 #include <base/errore.h>
 
 #include <QApplication>
+
+#include <array>
 
 namespace lirmeto::ui {
 
@@ -20,19 +35,39 @@ bool MostraSe(Modello& modello) {
   return true;
 }
 
+// Which window belongs to which model, a line each.
+constexpr std::array Mostratori = {
+    &MostraSe<KR_EditorGen, FinestraEditor>,
+    &MostraSe<FormRiordinoRighe, FinestraRiordino>,
+    &MostraSe<FormCatasto1TXT, FinestraCatasto1>,
+    &MostraSe<FormRigheScartate, FinestraScartate>,
+    &MostraSe<FormConfiguraPregeo, FinestraConfiguraPregeo>,
+    &MostraSe<FormDisegno, FinestraDisegno>,
+    &MostraSe<LibrettoDaDisegno, FinestraLibrettoDisegno>,
+    &MostraSe<KR_StampaGenerale, FinestraStampaGenerale>,
+    &MostraSe<KR_CodFis, FinestraCodFis>,
+    &MostraSe<KR_Comuni8, FinestraComuni>,
+    &MostraSe<ArchivioPossessori, FinestraPossessori>,
+    &MostraSe<autore, FinestraAutore>,
+    &MostraSe<FormImportaFiduciali, FinestraImportaFiduciali>,
+    &MostraSe<KR_SelezionaMisurate, FinestraSelezionaMisurate>,
+};
+
 } // namespace
 
 void FinestreQt::MostraModale(Modello& modello) {
-  const bool mostrata =
-      MostraSe<KR_EditorGen, FinestraEditor>(modello) || MostraSe<FormRiordinoRighe, FinestraRiordino>(modello);
-  if (!mostrata) throw Errore(errore::ErroreInterno);
+  for (const auto mostra : Mostratori)
+    if (mostra(modello)) return;
+  throw Errore(errore::ErroreInterno);
 }
 
-bool FinestreQt::Disponibile(std::string_view /*nome*/) const {
-  return false;
+bool FinestreQt::Disponibile(std::string_view nome) const {
+  return ambiente_ != nullptr && TrovaForma(nome) != nullptr;
 }
 
 void FinestreQt::Apri(std::string_view nome) {
+  const Forma* form = ambiente_ == nullptr ? nullptr : TrovaForma(nome);
+  if (form != nullptr) return form->apri(*ambiente_);
   throw Errore(errore::ErroreInterno, "Finestra non disponibile: " + std::string(nome));
 }
 

@@ -2,6 +2,7 @@
 // Shows the window that belongs to a model.
 
 #include <base/dialoghi.h>
+#include <core/ambiente.h>
 
 namespace lirmeto::ui {
 
@@ -10,9 +11,15 @@ public:
   // Throws Errore 51 for a model that has no window.
   void MostraModale(Modello& modello) override;
 
-  // No form is reached by name yet: false, and opening one throws Errore 51.
+  // What the forms opened by name are given; until then there is none. It must outlive this.
+  void Usa(Ambiente& ambiente) { ambiente_ = &ambiente; }
+
+  // The forms of applicazione/forme.h; opening any other throws Errore 51.
   [[nodiscard]] bool Disponibile(std::string_view nome) const override;
   void Apri(std::string_view nome) override;
+
+private:
+  Ambiente* ambiente_ = nullptr;
 };
 
 } // namespace lirmeto::ui

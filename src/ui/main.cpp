@@ -3,6 +3,7 @@
 #include <ui/appunti_qt.h>
 #include <ui/aspetto.h>
 #include <ui/dialoghi_qt.h>
+#include <ui/finestra_disegno.h>
 #include <ui/finestra_principale.h>
 #include <ui/finestre_qt.h>
 #include <ui/impostazioni_qt.h>
@@ -11,6 +12,7 @@
 
 #include <applicazione/avvio.h>
 #include <core/mostra_errore.h>
+#include <core/servizi.h>
 #include <piattaforma/orologi.h>
 #include <piattaforma/processi_linux.h>
 #include <piattaforma/trova_dischi.h>
@@ -24,7 +26,8 @@ using namespace lirmeto;
 
 struct Opzioni {
   std::optional<std::filesystem::path> dischi;
-  QString file;
+  QString comando; // a file, or "file|COMMAND|parameter"
+  std::optional<QString> disegno;
 };
 
 Opzioni LeggiOpzioni(const QApplication& applicazione) {
@@ -35,13 +38,31 @@ Opzioni LeggiOpzioni(const QApplication& applicazione) {
   lettore.addOption({QStringLiteral("dischi"),
                      QStringLiteral("Cartella con una sottocartella per ogni unità (c, d, ...)."),
                      QStringLiteral("DIR")});
-  lettore.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Libretto da aprire."),
+  lettore.addOption({QStringLiteral("disegno"),
+                     QStringLiteral("Mostra soltanto un disegno: .EMP, .SUR, .CSV, .PDF, .DAT."),
+                     QStringLiteral("FILE")});
+  lettore.addPositionalArgument(QStringLiteral("FILE"),
+                                QStringLiteral("Libretto da aprire, o estratto da copiare in Pregeo."),
                                 QStringLiteral("[FILE]"));
+  lettore.addPositionalArgument(QStringLiteral("FILE|COMANDO|PARAMETRO"),
+                                QStringLiteral("Un solo comando su un libretto, come CONFIGURA_PREGEO o DA_PREGEO."),
+                                QStringLiteral("['FILE|COMANDO|PARAMETRO']"));
   lettore.process(applicazione);
   Opzioni opzioni;
   if (lettore.isSet(QStringLiteral("dischi"))) opzioni.dischi = lettore.value(QStringLiteral("dischi")).toStdString();
-  opzioni.file = lettore.positionalArguments().join(u' ');
+  if (lettore.isSet(QStringLiteral("disegno"))) opzioni.disegno = lettore.value(QStringLiteral("disegno"));
+  opzioni.comando = lettore.positionalArguments().join(u' ');
   return opzioni;
+}
+
+// The drawing alone, without a libretto. Nothing is shown when it cannot be read.
+int MostraDisegno(Ambiente& ambiente, const QString& file) {
+  PreparaCartelle(ambiente);
+  (void)Intrappola(ambiente, [&] { CreaCartelle(ambiente); });
+  FormDisegno modello(ambiente);
+  if (!modello.Apri(ui::PercorsoDetto(ambiente)(file))) return 1;
+  ui::FinestraDisegno(modello).exec();
+  return 0;
 }
 
 int Lavora(const Opzioni& opzioni) {
@@ -56,11 +77,14 @@ int Lavora(const Opzioni& opzioni) {
   ui::AppuntiQt appunti;
   OrologioDiSistema orologio;
   Ambiente ambiente{sessione, disco, dialoghi, finestre, processi, impostazioni, appunti, orologio};
+  finestre.Usa(ambiente);
 
   (void)Intrappola(ambiente, [&] { processi.CreaCartelleDiSistema(); });
+  if (opzioni.disegno) return MostraDisegno(ambiente, *opzioni.disegno);
   KR_LibrettoOriginale modello(ambiente);
   const auto percorso = ui::PercorsoDetto(ambiente);
-  if (!modello.Avvia(opzioni.file.isEmpty() ? std::string() : percorso(opzioni.file))) return 0;
+  const auto comando = ui::RigaDiComando(opzioni.comando, percorso);
+  if (!comando || !modello.Avvia(*comando)) return 0;
   ui::FinestraPrincipale finestra(modello, percorso);
   finestra.show();
   QApplication::setQuitOnLastWindowClosed(true);

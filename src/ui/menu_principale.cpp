@@ -36,6 +36,7 @@ public:
       return;
     }
     QAction* azione = menu->addAction(ConMnemonica(AQString(voce.didascalia), prese_[menu]));
+    azione->setData(static_cast<int>(voce.comando));
     if (!disponibile_(voce.comando)) {
       azione->setEnabled(false);
       azione->setToolTip(AQString(NonAncoraDisponibile));
@@ -88,11 +89,22 @@ QKeySequence Scorciatoia(Comando comando) {
     return QKeySequence(Qt::Key_F5);
   case Comando::IncollaDaAppunti:
     return QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V);
+  case Comando::Annulla:
+    return QKeySequence(Qt::CTRL | Qt::Key_Z);
+  case Comando::Ripeti:
+    return QKeySequence(Qt::CTRL | Qt::Key_Y);
   case Comando::Chiudi:
     return QKeySequence(Qt::CTRL | Qt::Key_Q);
   default:
     return {};
   }
+}
+
+QAction* VoceDi(const QMenuBar& barra, Comando comando) {
+  for (const QAction* menu : barra.actions())
+    for (QAction* voce : menu->menu()->actions())
+      if (!voce->data().isNull() && voce->data().toInt() == static_cast<int>(comando)) return voce;
+  return nullptr;
 }
 
 void RiempiMenu(QMenuBar& barra, const ComandoDisponibile& disponibile, const EseguiComando& esegui) {

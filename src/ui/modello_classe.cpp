@@ -16,8 +16,8 @@ constexpr std::size_t MassimoMostrato = 1000;
 
 } // namespace
 
-ModelloClasse::ModelloClasse(const ListaRighe& righe, const QFont& carattere, QObject* padre)
-    : QAbstractListModel(padre), righe_(righe), carattere_(carattere) {}
+ModelloClasse::ModelloClasse(const ListaRighe& righe, const QFont& carattere, QObject* padre, Fondo fondo)
+    : QAbstractListModel(padre), righe_(righe), carattere_(carattere), fondo_(fondo) {}
 
 void ModelloClasse::Ricarica() {
   beginResetModel();
@@ -35,6 +35,7 @@ int ModelloClasse::rowCount(const QModelIndex& padre) const {
 QVariant ModelloClasse::data(const QModelIndex& indice, int ruolo) const {
   const auto riga = static_cast<std::size_t>(indice.row());
   if (!indice.isValid() || riga >= righe_.size()) return {};
+  if (ruolo == Qt::BackgroundRole && fondo_ == Fondo::Bianco) return {};
   if (ruolo == Qt::BackgroundRole) return ColoriDelGenere(righe_[riga]).fondo;
   if (ruolo == Qt::SizeHintRole) return misura_;
   if (ruolo != Qt::DisplayRole) return {};

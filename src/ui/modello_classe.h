@@ -1,5 +1,5 @@
 #pragma once
-// A class of rows as Qt's list views want it; reads the logic's list directly.
+// A list of rows as Qt's list views want it; reads the logic's list directly.
 
 #include <core/riordino.h>
 
@@ -9,13 +9,18 @@
 
 namespace lirmeto::ui {
 
+enum class Fondo { PerGenere, Bianco };
+
 class ModelloClasse : public QAbstractListModel {
   Q_OBJECT
 public:
   // The list must outlive the model.
-  ModelloClasse(const ListaRighe& righe, const QFont& carattere, QObject* padre = nullptr);
+  ModelloClasse(const ListaRighe& righe, const QFont& carattere, QObject* padre = nullptr,
+                Fondo fondo = Fondo::PerGenere);
 
   void Ricarica();
+  // Takes effect with the next Ricarica.
+  void CambiaCarattere(const QFont& carattere) { carattere_ = carattere; }
 
   [[nodiscard]] int rowCount(const QModelIndex& padre = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& indice, int ruolo) const override;
@@ -23,7 +28,8 @@ public:
 private:
   const ListaRighe& righe_;
   QFont carattere_; // the view's
-  QSize misura_;    // of every row, as wide as the widest
+  Fondo fondo_;
+  QSize misura_; // of every row, as wide as the widest
 };
 
 } // namespace lirmeto::ui

@@ -3,6 +3,7 @@
 #include <ui/aspetto.h>
 #include <ui/testo_qt.h>
 
+#include <QAction>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -62,8 +63,10 @@ void PannelloDati::AggiungiEtichette(QVBoxLayout& colonna) {
   estratto_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   estratto_->setAutoRaise(true);
   estratto_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  estratto_->setEnabled(false);
-  estratto_->setToolTip(AQString(NonAncoraDisponibile));
+  estratto_->setEnabled(modello_.Disponibile(Comando::EstrattiDiMappa));
+  estratto_->setToolTip(
+      AQString(estratto_->isEnabled() ? DidascaliaDi(Comando::EstrattiDiMappa) : NonAncoraDisponibile));
+  connect(estratto_, &QToolButton::clicked, this, [this] { emit Premuto(Comando::EstrattiDiMappa); });
   misurate_->setObjectName(QStringLiteral("EtichettaMisurate"));
   versione_->setObjectName(QStringLiteral("EtichettaVersione"));
   colonna.addWidget(estratto_);
@@ -108,6 +111,17 @@ void PannelloDati::AggiungiOpzioni(QVBoxLayout& colonna) {
   opzioni_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   opzioni_->setUniformItemSizes(true);
   colonna.addWidget(opzioni_);
+  const auto aggiungi = [this](const QString& testo, Comando comando) {
+    auto* voce = new QAction(testo, opzioni_);
+    connect(voce, &QAction::triggered, this, [this, comando] {
+      modello_.Esegui(comando);
+      Mostra();
+    });
+    opzioni_->addAction(voce);
+  };
+  opzioni_->setContextMenuPolicy(Qt::ActionsContextMenu);
+  aggiungi(QStringLiteral("Spunta tutte"), Comando::TutteLeOpzioni);
+  aggiungi(QStringLiteral("Togli tutte"), Comando::NessunaOpzione);
   connect(opzioni_, &QListWidget::itemChanged, this, [this](QListWidgetItem* voce) {
     modello_.Opzioni.at(static_cast<std::size_t>(opzioni_->row(voce))).spuntata = voce->checkState() == Qt::Checked;
   });

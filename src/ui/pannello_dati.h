@@ -25,6 +25,9 @@ public:
   // text keeps its caret.
   void Mostra();
 
+signals:
+  void Premuto(lirmeto::Comando comando); // the extract's label
+
 private:
   void AggiungiEtichette(QVBoxLayout& colonna);
   void AggiungiTecnico(QVBoxLayout& colonna);

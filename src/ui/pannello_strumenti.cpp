@@ -10,7 +10,7 @@
 
 namespace lirmeto::ui {
 
-PannelloStrumenti::PannelloStrumenti(const std::function<bool(Comando)>& disponibile, QWidget* padre) : QFrame(padre) {
+PannelloStrumenti::PannelloStrumenti(QWidget* padre) : QFrame(padre) {
   setObjectName(QStringLiteral("PannelloStrumenti"));
   auto* colonna = new QVBoxLayout(this);
   colonna->setContentsMargins(10, 8, 10, 10);
@@ -24,10 +24,7 @@ PannelloStrumenti::PannelloStrumenti(const std::function<bool(Comando)>& disponi
     bottone->setObjectName(AQString(strumento.tag));
     bottone->setFlat(true);
     bottone->setFocusPolicy(Qt::NoFocus);
-    bottone->setEnabled(disponibile(strumento.comando));
-    if (!bottone->isEnabled()) bottone->setToolTip(AQString(NonAncoraDisponibile));
-    const Comando comando = strumento.comando;
-    connect(bottone, &QPushButton::clicked, this, [this, comando] { emit Premuto(comando); });
+    connect(bottone, &QPushButton::clicked, this, [this, tag = strumento.tag] { emit Premuto(tag); });
     colonna->addWidget(bottone);
   }
   auto* ombra = new QGraphicsDropShadowEffect(this);

@@ -5,17 +5,18 @@
 
 #include <QFrame>
 
-#include <functional>
+#include <string_view>
 
 namespace lirmeto::ui {
 
 class PannelloStrumenti : public QFrame {
   Q_OBJECT
 public:
-  PannelloStrumenti(const std::function<bool(Comando)>& disponibile, QWidget* padre);
+  explicit PannelloStrumenti(QWidget* padre);
 
 signals:
-  void Premuto(lirmeto::Comando comando);
+  // The tool's tag, which the table of the tools holds.
+  void Premuto(std::string_view tag);
 };
 
 } // namespace lirmeto::ui

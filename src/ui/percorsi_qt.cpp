@@ -30,4 +30,15 @@ std::function<std::string(const QString&)> PercorsoDetto(Ambiente& ambiente) {
   };
 }
 
+std::optional<std::string> RigaDiComando(const QString& riga,
+                                         const std::function<std::string(const QString&)>& percorso) {
+  const QString intera = QString(riga).remove(u'"');
+  const qsizetype barra = intera.indexOf(u'|');
+  const QString file = intera.left(barra); // all of it where there is no bar
+  std::string detto = file.isEmpty() ? std::string() : percorso(file);
+  if (barra < 0) return detto;
+  if (detto.empty() && !file.isEmpty()) return std::nullopt;
+  return detto + DaQString(intera.mid(barra));
+}
+
 } // namespace lirmeto::ui

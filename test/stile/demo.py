@@ -84,6 +84,51 @@ class Libretti(unittest.TestCase):
         self.assertEqual(chr(65 + somma % 26), codice[15])
 
 
+class Estratti(unittest.TestCase):
+    def test_anelli_e_superfici(self):
+        """Rings name points that are there, count and close; a parcel's surface is its ring's without its holes."""
+        for file in sorted((DISCO / "pregeo" / "estratti").glob("*.EMP")):
+            tutte = [r.split("|") for r in righe(file)]
+            punti = {c[1]: (float(c[2]), float(c[3])) for c in tutte if c[0] == "8"}
+            self.assertEqual(len(punti), sum(c[0] == "8" for c in tutte), file.name)
+            anelli = []
+            for c in tutte:
+                if c[0] == "7":
+                    fine = next(i for i, v in enumerate(c) if v in ("NC", "VT"))
+                    if c[1] != "0":
+                        anelli.append([int(c[1]), [], c[fine + 1:-1]])
+                    anelli[-1][1].extend(c[2:fine])
+            superfici, dette = {}, {}
+            for attesi, nomi, coda in anelli:
+                self.assertEqual(len(nomi), attesi, f"{file.name} {coda}")
+                p = [punti[n] for n in nomi]
+                if coda:
+                    self.assertEqual(nomi[0], nomi[-1], f"{file.name} {coda}")
+                    area = abs(sum(a[1] * b[0] - a[0] * b[1] for a, b in zip(p, p[1:]))) / 2
+                    superfici.setdefault(coda[0], []).append(area)
+                    dette.setdefault(coda[0], []).append(float(coda[2]))
+            self.assertGreater(len(superfici), 0, file.name)
+            for nome, aree in superfici.items():
+                self.assertAlmostEqual(sum(dette[nome]), sum(aree) - sum(superfici.get(nome + "-", [])), delta=1e-3,
+                                       msg=f"{file.name} {nome}")
+
+
+class Fiduciali(unittest.TestCase):
+    def test_le_misurate_concordano_con_la_taf(self):
+        """Every measured distance is that of the two points' coordinates, within two centimetres; columns are fixed."""
+        dati = DISCO / "fiducial" / "DATI"
+        punti = {}
+        for r in righe(dati / "G224.taf"):
+            nome = f"PF{int(r[13:17]):02}/{int(r[5:10]):03}{r[10:12].strip()}/{r[0:5].strip()}"
+            punti[nome] = float(r[101:113]), float(r[114:126])
+        misurate = righe(dati / "PD2024.DDD")
+        self.assertGreaterEqual(len(misurate), 30)
+        for r in misurate:
+            self.assertEqual((len(r), r[15:17]), (71, "- "), r)
+            attesa = math.dist(punti[r[:15].strip()], punti[r[17:32].strip()])
+            self.assertAlmostEqual(float(r[33:46]), attesa, delta=0.02, msg=r)
+
+
 class Atto(unittest.TestCase):
     def test_sezioni_ed_estratto(self):
         pdf = (DISCO / "libretti" / "ATTO.PDF").read_bytes()

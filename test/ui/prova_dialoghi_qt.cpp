@@ -88,6 +88,12 @@ TEST(DialoghiQt, UnaSceltaAnnullataEErrore32755) {
   EXPECT_EQ(numero([&] { (void)dialoghi.ScegliFileDaSalvare({"Salva", "c:\\", "zzz.dat", {}}); }), 32755);
   annulla();
   EXPECT_EQ(numero([&] { (void)dialoghi.ScegliCarattere({}); }), 32755);
+  annulla();
+  EXPECT_EQ(numero([&] { (void)dialoghi.ScegliFileDaAprire({"Apri", {}, {}, "Editor (*.EXE)"}); }), 32755);
+  annulla();
+  EXPECT_EQ(numero([&] { dialoghi.ScegliStampante(); }), 32755);
+  annulla();
+  EXPECT_EQ(numero([&] { dialoghi.Stampa({}); }), 32755) << "without a printer one is asked for first";
 }
 
 TEST(DialoghiQt, IlFileSceltoTornaComePercorso) {

@@ -56,6 +56,7 @@ inline void NellaProssimaFinestra(const std::function<void(QWidget&)>& azione) {
 
 struct Tavolo {
   explicit Tavolo(const std::vector<std::string>& righe = RigheDiProva()) {
+    finestre.Usa(ambiente);
     banco.disco.Metti("C:\\LIBRETTO.DAT", Testo(righe));
     modello.Avvia("C:\\LIBRETTO.DAT");
     banco.dialoghi.detti.clear();

@@ -1,0 +1,35 @@
+#pragma once
+// The window over PREGEO.INI as a text.
+
+#include <pregeo/form_configura_pregeo.h>
+
+#include <QDialog>
+
+class QLabel;
+class QToolBar;
+
+namespace lirmeto::ui {
+
+class CasellaTesto;
+
+class FinestraConfiguraPregeo : public QDialog {
+  Q_OBJECT
+public:
+  // The model must be loaded and outlive the window.
+  explicit FinestraConfiguraPregeo(FormConfiguraPregeo& modello, QWidget* padre = nullptr);
+
+private:
+  [[nodiscard]] QToolBar* CreaBarra();
+  [[nodiscard]] QWidget* CreaPiede();
+  void Salva();
+  void Ricarica();
+  void Chiudi();
+  void MostraEtichette();
+
+  FormConfiguraPregeo& modello_;
+  CasellaTesto* casella_;
+  QLabel* avviso_;
+  QLabel* versione_;
+};
+
+} // namespace lirmeto::ui
