@@ -1,10 +1,12 @@
-// Any bytes as PREGEO.INI: read, written back, read again.
+// Any bytes as PREGEO.INI and as Catasto1.txt: read, written back, read again.
 
 #include "pretendi.h"
 
 #include <base/testo.h>
 #include <core/sessione.h>
+#include <pregeo/catasto1_file.h>
 #include <pregeo/pregeo_ini.h>
+#include <pregeo/pregeo_ini_scrittura.h>
 
 #include <algorithm>
 #include <array>
@@ -49,10 +51,20 @@ void ProvaRigheCambiate(const std::vector<std::string>& prima, const std::vector
   }
 }
 
+void ProvaByte(std::string_view byte) {
+  Pretendi(TestoIni(RigheIni(byte), byte) == byte, "lines that did not change give the same bytes");
+  const Catasto1 letto = LeggiCatasto1(byte);
+  const Catasto1 riletto = LeggiCatasto1(TestoCatasto1(letto, byte));
+  Pretendi(letto.zero == riletto.zero && letto.nove == riletto.nove && letto.commento == riletto.commento,
+           "the default header is read as it was written");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quanti) {
-  const std::string testo = ConFineRiga(std::string_view(reinterpret_cast<const char*>(dati), quanti));
+  const std::string_view byte(reinterpret_cast<const char*>(dati), quanti);
+  ProvaByte(byte);
+  const std::string testo = ConFineRiga(byte);
   const auto righe = Dividi(testo, FineRiga);
   const std::vector<std::string> prima(righe.begin(), righe.end());
   Sessione sessione = Letta(prima);
