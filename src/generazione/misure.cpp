@@ -3,6 +3,7 @@
 #include <generazione/angoli.h>
 #include <generazione/generazione.h>
 
+#include <base/avanzamento.h>
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
@@ -172,7 +173,9 @@ private:
 
 void CalcolaMisure(Generazione& g, double passo) {
   Misure misure(g, passo);
+  Avanzamento avanzamento(g.ambiente.dialoghi, "Calcolo delle misure", g.righe.size());
   for (std::size_t i = 0; i < g.righe.size(); ++i) {
+    avanzamento.Fatto(i);
     const double genere = GenereRiga(g.righe[i]);
     if (genere == 1) misure.Stazione(i);
     if (genere == 2) misure.Battuta(g.righe[i]);
