@@ -1,5 +1,7 @@
 #include <generazione/angoli.h>
 
+#include <core/servizi.h>
+
 #include <cmath>
 #include <numbers>
 
@@ -13,7 +15,7 @@ constexpr double RadiantiAGradi = 200 / std::numbers::pi;
 } // namespace
 
 double Distanza2D(double x1, double y1, double x2, double y2) {
-  return std::sqrt((x1 - x2) * (x1 - x2) + (y1 - y2) * (y1 - y2));
+  return DistanzaPiana(x1, y1, x2, y2);
 }
 
 Direzione AzimutDistanza(double ax, double ay, double bx, double by) {

@@ -19,13 +19,6 @@ namespace {
 
 using Indici = std::vector<std::size_t>;
 
-template <typename T>
-T& Figlio(Tavolo& tavolo, const char* nome) {
-  auto* figlio = tavolo.finestra->findChild<T*>(QString::fromLatin1(nome));
-  if (figlio == nullptr) qFatal("no such widget");
-  return *figlio;
-}
-
 void Voce(Tavolo& tavolo, const QString& titolo) {
   for (QAction* azione : tavolo.finestra->findChildren<QAction*>())
     if (azione->text().remove(u'&') == titolo) return azione->trigger();

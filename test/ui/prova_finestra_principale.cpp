@@ -25,13 +25,6 @@ namespace {
 
 using Indici = std::vector<std::size_t>;
 
-template <typename T>
-T& Figlio(Tavolo& tavolo, const char* nome) {
-  auto* figlio = tavolo.finestra->findChild<T*>(QString::fromLatin1(nome));
-  if (figlio == nullptr) qFatal("no such widget");
-  return *figlio;
-}
-
 // As a drag from another program: it enters, moves, is let go. The answer is whether the list took it.
 bool Lascia(Tavolo& tavolo, const QList<QUrl>& indirizzi) {
   QMimeData dati;

@@ -92,4 +92,12 @@ struct Tavolo {
   ui::VistaRighe* vista = nullptr;
 };
 
+// A widget of the window by its name; ends the test when there is none.
+template <typename T>
+T& Figlio(Tavolo& tavolo, const char* nome) {
+  auto* figlio = tavolo.finestra->findChild<T*>(QString::fromLatin1(nome));
+  if (figlio == nullptr) qFatal("no such widget");
+  return *figlio;
+}
+
 } // namespace lirmeto::prova
