@@ -5,23 +5,23 @@
 //   lirmeto-foto --dischi DIR --uscita DIR [--scala 1|2] --disegno FILE
 //   lirmeto-foto --dischi DIR --uscita DIR [--scala 1|2] --disegno FILE.LXC    the libretto from a drawing
 
-#include <ui/aspetto.h>
-#include <ui/barra_ricerca.h>
-#include <ui/finestra_autore.h>
-#include <ui/finestra_catasto1.h>
-#include <ui/finestra_codfis.h>
-#include <ui/finestra_configura_pregeo.h>
-#include <ui/finestra_disegno.h>
-#include <ui/finestra_editor.h>
-#include <ui/finestra_libretto_disegno.h>
-#include <ui/finestra_principale.h>
-#include <ui/finestra_riordino.h>
-#include <ui/finestra_scartate.h>
-#include <ui/finestra_stampa_generale.h>
-#include <ui/grafica_pannello.h>
-#include <ui/grafica_superficie.h>
-#include <ui/testo_qt.h>
-#include <ui/vista_righe.h>
+#include <ui/comune/aspetto.h>
+#include <ui/comune/barra_ricerca.h>
+#include <ui/comune/testo_qt.h>
+#include <ui/disegno/finestra_disegno.h>
+#include <ui/disegno/grafica_pannello.h>
+#include <ui/disegno/grafica_superficie.h>
+#include <ui/generazione/finestra_libretto_disegno.h>
+#include <ui/intestazione/finestra_catasto1.h>
+#include <ui/libretto/finestra_principale.h>
+#include <ui/libretto/finestra_riordino.h>
+#include <ui/libretto/finestra_scartate.h>
+#include <ui/libretto/vista_righe.h>
+#include <ui/pregeo/finestra_configura_pregeo.h>
+#include <ui/supporto/finestra_autore.h>
+#include <ui/supporto/finestra_codfis.h>
+#include <ui/supporto/finestra_editor.h>
+#include <ui/supporto/finestra_stampa_generale.h>
 
 #include <applicazione/forme.h>
 #include <base/testo.h>

@@ -1,10 +1,10 @@
 #include <applicazione/forme.h>
 
-#include <applicazione/catasto1_form.h>
 #include <fiduciali/importa_fiduciali.h>
 #include <fiduciali/seleziona_misurate.h>
 #include <generazione/libretto_da_disegno.h>
 #include <grafica/form_disegno.h>
+#include <intestazione/catasto1_form.h>
 #include <pregeo/form_configura_pregeo.h>
 #include <supporto/archivio_possessori.h>
 #include <supporto/cod_fis.h>

@@ -1,19 +1,19 @@
 #include <ui/finestre_qt.h>
 
-#include <ui/finestra_autore.h>
-#include <ui/finestra_catasto1.h>
-#include <ui/finestra_codfis.h>
-#include <ui/finestra_comuni.h>
-#include <ui/finestra_configura_pregeo.h>
-#include <ui/finestra_disegno.h>
-#include <ui/finestra_editor.h>
-#include <ui/finestra_importa_fiduciali.h>
-#include <ui/finestra_libretto_disegno.h>
-#include <ui/finestra_possessori.h>
-#include <ui/finestra_riordino.h>
-#include <ui/finestra_scartate.h>
-#include <ui/finestra_seleziona_misurate.h>
-#include <ui/finestra_stampa_generale.h>
+#include <ui/disegno/finestra_disegno.h>
+#include <ui/fiduciali/finestra_importa_fiduciali.h>
+#include <ui/fiduciali/finestra_seleziona_misurate.h>
+#include <ui/generazione/finestra_libretto_disegno.h>
+#include <ui/intestazione/finestra_catasto1.h>
+#include <ui/libretto/finestra_riordino.h>
+#include <ui/libretto/finestra_scartate.h>
+#include <ui/pregeo/finestra_configura_pregeo.h>
+#include <ui/supporto/finestra_autore.h>
+#include <ui/supporto/finestra_codfis.h>
+#include <ui/supporto/finestra_comuni.h>
+#include <ui/supporto/finestra_editor.h>
+#include <ui/supporto/finestra_possessori.h>
+#include <ui/supporto/finestra_stampa_generale.h>
 
 #include <applicazione/forme.h>
 #include <base/errore.h>

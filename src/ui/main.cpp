@@ -1,14 +1,14 @@
 // The program with its windows.
 
-#include <ui/appunti_qt.h>
-#include <ui/aspetto.h>
-#include <ui/dialoghi_qt.h>
-#include <ui/finestra_disegno.h>
-#include <ui/finestra_principale.h>
+#include <ui/comune/appunti_qt.h>
+#include <ui/comune/aspetto.h>
+#include <ui/comune/dialoghi_qt.h>
+#include <ui/comune/impostazioni_qt.h>
+#include <ui/comune/percorsi_qt.h>
+#include <ui/comune/testo_qt.h>
+#include <ui/disegno/finestra_disegno.h>
 #include <ui/finestre_qt.h>
-#include <ui/impostazioni_qt.h>
-#include <ui/percorsi_qt.h>
-#include <ui/testo_qt.h>
+#include <ui/libretto/finestra_principale.h>
 
 #include <applicazione/avvio.h>
 #include <core/mostra_errore.h>

@@ -1,12 +1,12 @@
 #include "sostituti/banco.h"
 
-#include <applicazione/catasto1_form.h>
 #include <applicazione/comandi_tag.h>
 #include <applicazione/finestra_principale.h>
 #include <applicazione/forme.h>
 #include <base/errore.h>
 #include <base/testo.h>
 #include <generazione/libretto_da_disegno.h>
+#include <intestazione/catasto1_form.h>
 #include <pregeo/form_configura_pregeo.h>
 
 #include <gtest/gtest.h>

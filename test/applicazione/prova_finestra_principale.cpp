@@ -1,13 +1,13 @@
 #include "sostituti/banco.h"
 
 #include <applicazione/autore.h>
-#include <applicazione/catasto1_form.h>
 #include <applicazione/finestra_principale.h>
 #include <applicazione/forme.h>
 #include <base/errore.h>
 #include <base/testo.h>
 #include <core/righe_scartate.h>
 #include <core/riordino.h>
+#include <intestazione/catasto1_form.h>
 #include <supporto/editor_gen.h>
 #include <supporto/stampa_generale.h>
 

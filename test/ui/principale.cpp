@@ -1,6 +1,6 @@
 // The test program's start: one application without a display for all tests.
 
-#include <ui/aspetto.h>
+#include <ui/comune/aspetto.h>
 
 #include <QApplication>
 

@@ -1,10 +1,10 @@
 #pragma once
 // A main window over the machine in memory, with the real windows for its dialogs.
 
-#include <ui/finestra_principale.h>
+#include <ui/comune/testo_qt.h>
 #include <ui/finestre_qt.h>
-#include <ui/testo_qt.h>
-#include <ui/vista_righe.h>
+#include <ui/libretto/finestra_principale.h>
+#include <ui/libretto/vista_righe.h>
 
 #include <applicazione/finestra_principale.h>
 #include <base/testo.h>

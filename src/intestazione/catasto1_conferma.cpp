@@ -1,0 +1,159 @@
+// The header form's confirm, step by step.
+
+#include <intestazione/catasto1_form.h>
+
+#include <base/numeri.h>
+#include <base/testo.h>
+#include <core/apertura.h>
+#include <core/mostra_errore.h>
+#include <core/riga.h>
+#include <core/salvataggio.h>
+#include <core/zero_nove.h>
+#include <intestazione/catasto1_righe.h>
+#include <pregeo/pregeo_ini.h>
+#include <pregeo/tecnico.h>
+#include <supporto/codice_fiscale.h>
+
+#include <algorithm>
+
+namespace lirmeto {
+
+// How the confirm goes, where it could be done in more than one way:
+//
+//   eight characters that are no date           as a date of another length
+//   the surveyor's file or PREGEO.INI cannot    the report says so, and the rows are written all the same
+//   be written
+//   the list once its rows are changed          goes to Libretto at once: Pregeo's defaults are taken from there
+//   the fiscal code                             is checked without the blanks around it
+
+namespace {
+
+constexpr std::string_view Conferma = "6|CONFERMA|";
+constexpr std::size_t TerzaRiga = 2;
+
+bool EConferma(const ElencoRighe& righe) {
+  return righe.Quante() > TerzaRiga && UgualiSenzaCaso(righe.Riga(TerzaRiga), Conferma);
+}
+
+// "6|CONFERMA|" stands third where row 9 is of type CM, and nowhere else.
+void AccordaConferma(ElencoRighe& righe, std::string_view rigaNove) {
+  const bool voluta = Contiene(rigaNove, "|CM|");
+  if (voluta == EConferma(righe)) return;
+  voluta ? righe.Inserisci(TerzaRiga, Conferma) : righe.Togli(TerzaRiga);
+}
+
+} // namespace
+
+void FormCatasto1TXT::ConfermaConfigurazione0() {
+  Sessione& sessione = ambiente_.sessione;
+  sessione.PuntoErrore = "ConfermaConfigurazione0";
+  AvvisaProtocollo();
+  ControllaData();
+  AssicuraZeroNoveInList1(ambiente_);
+  sessione.PuntoErrore = "RiordinoMappali";
+  std::string& mappali = Text1[casella::Mappali];
+  mappali = Taglia(mappali).empty() ? "1" : RiordinoMappali(mappali);
+  sessione.PuntoErrore = "ConfermaConfigurazione4";
+  for (std::size_t i = 0; i < NumeroCaselle; ++i)
+    if (i <= casella::Strumentazione || i == casella::Nome) Text1[i] = Taglia(Maiuscolo(InUnCampo(Text1[i])));
+  CompletaCaselle();
+  PrendiTecnico();
+  sessione.PuntoErrore = "ConfermaConfigurazione5";
+  Prova([&] { SalvaTecnico(ambiente_); });
+  ScriviZeroNove();
+  ScriviCommento();
+  AccordaConferma(sessione.List1, sessione.RigaNove);
+  AggiornaLibrettoMisure(ambiente_);
+  sessione.EstrattoAssociato = Taglia(EtichettaEstratto);
+  sessione.ModoEditor = ModoEditorLibretto;
+  AggiornaPregeo();
+  Chiusa = AccettaCodiceFiscale();
+}
+
+void FormCatasto1TXT::AvvisaProtocollo() {
+  if (Valore(Text1[casella::Protocollo]) < 1)
+    ambiente_.dialoghi.Messaggio("Protocollo non numerico!", "Protocollo non Numerico", Gravita::Critico);
+}
+
+void FormCatasto1TXT::ControllaData() {
+  const Data oggi = ambiente_.orologio.Oggi();
+  std::string& testo = Text1[casella::Data];
+  if (AggiornaData) testo = TestoData(oggi);
+  const auto data = DataDaTesto(testo);
+  if (!data) {
+    ambiente_.dialoghi.Messaggio("Formato Data Errato!!", "Errore nella data", Gravita::Critico);
+    testo = TestoData(oggi);
+  } else if (*data < oggi) {
+    std::string domanda;
+    domanda += "La data indicata è precedente la data attuale del PC!!"_w;
+    domanda += std::string(FineRiga) + "Inserire data attuale?";
+    if (ambiente_.dialoghi.Chiedi(domanda, "Verifica data Libretto", Bottoni::SiNo) == Risposta::Si)
+      testo = TestoData(oggi);
+  }
+}
+
+void FormCatasto1TXT::PrendiTecnico() {
+  Sessione& sessione = ambiente_.sessione;
+  sessione.Cognome = Text1[casella::Cognome];
+  sessione.Nome = Text1[casella::Nome];
+  sessione.Tecnico = sessione.Cognome + " " + sessione.Nome;
+  sessione.Qualifica = Text1[casella::Qualifica];
+  sessione.Provincia = Text1[casella::Provincia];
+  sessione.PrecisioneLineare = Text1[casella::PrecisioneLineare];
+  sessione.PrecisioneAngolare = Text1[casella::PrecisioneAngolare];
+  sessione.Strumentazione = Text1[casella::Strumentazione];
+  sessione.NumeroIscrizione = Text1[casella::Iscrizione];
+  sessione.CodiceFiscale = Text1[casella::CodiceFiscale];
+  sessione.Recapito = Text1[casella::Recapito];
+}
+
+// A row of boxes. Surname and name are one field of it; their boxes keep what they hold.
+std::string FormCatasto1TXT::Riga(std::string_view genere, std::size_t primo, std::size_t ultimo) const {
+  std::string riga(genere);
+  for (std::size_t i = primo; i <= ultimo; ++i)
+    riga += "|" + (i == casella::Cognome ? Text1[i] + " " + Text1[casella::Nome] : Text1[i]);
+  return riga + "|";
+}
+
+void FormCatasto1TXT::ScriviZeroNove() {
+  Sessione& sessione = ambiente_.sessione;
+  sessione.RigaZero = Riga("0", casella::Data, casella::Provincia);
+  sessione.RigaNove = Riga("9", casella::QuotaMedia, casella::Strumentazione);
+  sessione.List1.Cambia(0, sessione.RigaZero);
+  sessione.List1.Cambia(1, sessione.RigaNove);
+}
+
+void FormCatasto1TXT::ScriviCommento() {
+  Sessione& sessione = ambiente_.sessione;
+  ElencoRighe& righe = sessione.List1;
+  const std::string commento(Taglia(InUnCampo(Text1[casella::Commento])));
+  sessione.RigaCommento = commento.empty() ? std::string{} : "6|" + commento + "|";
+  const std::size_t posto = PostoCommento(righe.Righe());
+  const bool occupato = posto < righe.Quante() && CedeIlPosto(righe.Riga(posto));
+  if (sessione.RigaCommento.empty()) {
+    if (occupato && Contiene(righe.Riga(posto), "DettaglioTipoAgg")) righe.Togli(posto);
+  } else if (occupato) {
+    righe.Cambia(posto, sessione.RigaCommento);
+  } else {
+    righe.Inserisci(TerzaRiga, sessione.RigaCommento);
+  }
+}
+
+void FormCatasto1TXT::AggiornaPregeo() {
+  Sessione& sessione = ambiente_.sessione;
+  sessione.PuntoErrore = "ConfermaConfigurazione6";
+  if (AggiornaPregeoIni)
+    Prova([&] { AggiornaConfigurazionePregeo(ambiente_); });
+  else
+    DecoZeroNove(ambiente_);
+  sessione.PuntoErrore = "ConfermaConfigurazione7";
+  ScriviOpzioni();
+}
+
+bool FormCatasto1TXT::AccettaCodiceFiscale() {
+  if (ControllaCodiceFiscale(Taglia(Text1[casella::CodiceFiscale])) != CodiceErrato) return true;
+  const std::string domanda = "Probabile Codice Fiscale non Corretto!" + std::string(FineRiga) + "Continuare?";
+  return ambiente_.dialoghi.Chiedi(domanda, "Verifica Codice Fiscale", Bottoni::SiNo) == Risposta::Si;
+}
+
+} // namespace lirmeto

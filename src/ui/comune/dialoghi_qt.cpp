@@ -1,0 +1,160 @@
+#include <ui/comune/dialoghi_qt.h>
+
+#include <ui/comune/aspetto.h>
+#include <ui/comune/testo_qt.h>
+
+#include <base/errore.h>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QGridLayout>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <utility>
+
+namespace lirmeto::ui {
+
+namespace {
+
+constexpr int Attesa = 500;    // milliseconds before a bar shows
+constexpr int Ridisegno = 50;  // milliseconds between two drawings
+constexpr int Abbandono = 300; // milliseconds of idle windows after which a bar is stale
+constexpr int PassiBarra = 1000;
+
+QWidget* FinestraAttuale() {
+  QWidget* modale = QApplication::activeModalWidget();
+  return modale != nullptr ? modale : QApplication::activeWindow();
+}
+
+// A box is only as wide as its text, and its frame would cut a longer title.
+void AllargaPerIlTitolo(QMessageBox& scatola) {
+  constexpr int bottoniCornice = 140; // pixels
+  auto* griglia = qobject_cast<QGridLayout*>(scatola.layout());
+  if (griglia == nullptr) return;
+  QFont grassetto = scatola.font();
+  grassetto.setBold(true);
+  const int larga = QFontMetrics(grassetto).horizontalAdvance(scatola.windowTitle()) + bottoniCornice;
+  griglia->addItem(new QSpacerItem(larga, 0), griglia->rowCount(), 0, 1, griglia->columnCount());
+}
+
+void Componi(QMessageBox& scatola, std::string_view testo, std::string_view titolo) {
+  scatola.setTextFormat(Qt::PlainText);
+  scatola.setText(PerMessaggio(testo));
+  scatola.setWindowTitle(PerMessaggio(titolo));
+  AllargaPerIlTitolo(scatola);
+}
+
+} // namespace
+
+DialoghiQt::DialoghiQt(Percorsi percorsi) : percorsi_(std::move(percorsi)) {
+  abbandono_.setSingleShot(true);
+  abbandono_.setInterval(Abbandono);
+  QObject::connect(&abbandono_, &QTimer::timeout, &abbandono_, [this] { NascondiBarra(); });
+}
+
+DialoghiQt::~DialoghiQt() {
+  delete barra_;
+}
+
+void DialoghiQt::Messaggio(std::string_view testo, std::string_view titolo, Gravita gravita) {
+  NascondiBarra();
+  QMessageBox scatola(FinestraAttuale());
+  Componi(scatola, testo, titolo);
+  scatola.setIcon(gravita == Gravita::Critico ? QMessageBox::Critical : QMessageBox::Information);
+  scatola.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+  scatola.exec();
+}
+
+Risposta DialoghiQt::Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) {
+  NascondiBarra();
+  QMessageBox scatola(FinestraAttuale());
+  Componi(scatola, testo, titolo);
+  scatola.setIcon(QMessageBox::Question);
+  QPushButton* si = scatola.addButton(QStringLiteral("&Sì"), QMessageBox::YesRole);
+  QPushButton* no = scatola.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
+  const bool conAnnulla = bottoni == Bottoni::SiNoAnnulla;
+  QPushButton* annulla = conAnnulla ? scatola.addButton(QStringLiteral("&Annulla"), QMessageBox::RejectRole) : no;
+  scatola.setDefaultButton(si);
+  scatola.setEscapeButton(annulla);
+  scatola.exec();
+  if (scatola.clickedButton() == si) return Risposta::Si;
+  return conAnnulla && scatola.clickedButton() != no ? Risposta::Annulla : Risposta::No;
+}
+
+std::string DialoghiQt::ScegliFile(const RichiestaFile& richiesta, bool daSalvare) {
+  NascondiBarra();
+  QFileDialog finestra(FinestraAttuale(), AQString(richiesta.titolo));
+  finestra.setAcceptMode(daSalvare ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  finestra.setFileMode(daSalvare ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  if (!richiesta.filtro.empty()) finestra.setNameFilter(AQString(richiesta.filtro));
+  if (!richiesta.cartella.empty()) finestra.setDirectory(percorsi_.aOspite(richiesta.cartella));
+  if (!richiesta.nome.empty()) finestra.selectFile(AQString(richiesta.nome));
+  if (finestra.exec() != QDialog::Accepted || finestra.selectedFiles().isEmpty())
+    throw Errore(errore::DialogoAnnullato);
+  return percorsi_.daOspite(finestra.selectedFiles().first());
+}
+
+std::string DialoghiQt::ScegliFileDaAprire(const RichiestaFile& richiesta) {
+  return ScegliFile(richiesta, false);
+}
+
+std::string DialoghiQt::ScegliFileDaSalvare(const RichiestaFile& richiesta) {
+  return ScegliFile(richiesta, true);
+}
+
+void DialoghiQt::ScegliStampante() {
+  NascondiBarra();
+  if (!stampa_.Scegli(FinestraAttuale())) throw Errore(errore::DialogoAnnullato);
+}
+
+void DialoghiQt::Stampa(const Stampato& stampato) {
+  NascondiBarra();
+  if (!stampa_.Pronta()) ScegliStampante();
+  stampa_.Stampa(stampato);
+}
+
+Carattere DialoghiQt::ScegliCarattere(const Carattere& attuale) {
+  NascondiBarra();
+  QFontDialog finestra(FontDa(attuale), FinestraAttuale());
+  finestra.setWindowTitle(QStringLiteral("Carattere dell'elenco"));
+  if (finestra.exec() != QDialog::Accepted) throw Errore(errore::DialogoAnnullato);
+  return CarattereDa(finestra.selectedFont());
+}
+
+void DialoghiQt::Avanzamento(std::string_view lavoro, std::size_t fatto, std::size_t totale) {
+  if (fatto >= totale) {
+    NascondiBarra();
+    return;
+  }
+  if (!inizio_.isValid()) inizio_.start();
+  if (inizio_.elapsed() < Attesa || (disegno_.isValid() && disegno_.elapsed() < Ridisegno)) return;
+  MostraBarra(AQString(lavoro), fatto, totale);
+}
+
+void DialoghiQt::MostraBarra(const QString& lavoro, std::size_t fatto, std::size_t totale) {
+  if (barra_ == nullptr) {
+    barra_ = new QProgressDialog(FinestraAttuale());
+    barra_->setWindowModality(Qt::ApplicationModal);
+    barra_->setCancelButton(nullptr);
+    barra_->setMinimumWidth(360);
+    barra_->setRange(0, PassiBarra);
+    barra_->setWindowTitle(AQString(TitoloProgramma));
+  }
+  barra_->setLabelText(lavoro);
+  barra_->setValue(static_cast<int>(static_cast<double>(fatto) / static_cast<double>(totale) * PassiBarra));
+  barra_->show();
+  abbandono_.start();
+  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  disegno_.start();
+}
+
+void DialoghiQt::NascondiBarra() {
+  abbandono_.stop();
+  inizio_.invalidate();
+  disegno_.invalidate();
+  delete barra_;
+}
+
+} // namespace lirmeto::ui

@@ -1,0 +1,95 @@
+#include <ui/disegno/finestra_disegno.h>
+
+#include <ui/comune/aspetto.h>
+#include <ui/comune/percorsi_qt.h>
+#include <ui/comune/testo_qt.h>
+#include <ui/disegno/grafica_pannello.h>
+#include <ui/disegno/grafica_superficie.h>
+
+#include <QAction>
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace lirmeto::ui {
+
+FinestraDisegno::FinestraDisegno(FormDisegno& modello, QWidget* padre)
+    : QDialog(padre, Qt::Window), modello_(modello),
+      pannello_(new GraficaPannello(modello.Dintorni(), modello.Grafica1(), host::AnteprimaGrafica, this)),
+      invito_(new QLabel(QStringLiteral("Trascinare qui un disegno: .EMP, .SUR, .CSV, .PDF, .DAT"), this)) {
+  setObjectName(QStringLiteral("FormDisegno"));
+  setAcceptDrops(true);
+  connect(this, &FinestraDisegno::FileLasciato, this, &FinestraDisegno::Lascia, Qt::QueuedConnection);
+  auto* colonna = new QVBoxLayout(this);
+  colonna->setContentsMargins(0, 0, 0, 0);
+  colonna->addWidget(pannello_);
+  AggiungiApri();
+  invito_->setObjectName(QStringLiteral("Invito"));
+  invito_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  invito_->setAlignment(Qt::AlignCenter);
+  connect(pannello_, &GraficaPannello::RicaricaRichiesta, this, [this] {
+    modello_.Ricarica();
+    Mostra();
+  });
+  connect(pannello_, &GraficaPannello::FineRichiesta, this, &QDialog::accept);
+  AdattaAlloSchermo(*this, 1240, 840);
+  pannello_->Superficie().setFocus();
+  Mostra();
+}
+
+// Before all that the drawing itself offers.
+void FinestraDisegno::AggiungiApri() {
+  QToolBar& barra = pannello_->Barra();
+  auto* apri = new QAction(Icona(QStringLiteral("apri")), QStringLiteral("Apri"), this);
+  apri->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_O));
+  apri->setToolTip(QStringLiteral("Apre un disegno (Ctrl+O)"));
+  connect(apri, &QAction::triggered, this, [this] {
+    modello_.Sfoglia();
+    Mostra();
+  });
+  QAction* prima = barra.actions().isEmpty() ? nullptr : barra.actions().first();
+  barra.insertAction(prima, apri);
+  barra.insertSeparator(prima);
+  if (auto* bottone = qobject_cast<QToolButton*>(barra.widgetForAction(apri)))
+    bottone->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+}
+
+void FinestraDisegno::Mostra() {
+  setWindowTitle(AQString(modello_.Titolo));
+  invito_->setVisible(modello_.Grafica1().Archivio().Punti().empty() && modello_.Grafica1().Archivio().Linee().empty());
+  MettiInvito();
+}
+
+void FinestraDisegno::MettiInvito() {
+  const QWidget& superficie = pannello_->Superficie();
+  invito_->adjustSize();
+  invito_->move(superficie.mapTo(this, superficie.rect().center()) - invito_->rect().center());
+}
+
+void FinestraDisegno::dragEnterEvent(QDragEnterEvent* evento) {
+  if (evento->mimeData()->hasUrls()) evento->acceptProposedAction();
+}
+
+// The file is read after the drop is over: the program that holds it must not wait for a message to be answered.
+void FinestraDisegno::dropEvent(QDropEvent* evento) {
+  const auto indirizzi = evento->mimeData()->urls();
+  if (indirizzi.isEmpty() || !indirizzi.first().isLocalFile()) return;
+  evento->acceptProposedAction();
+  emit FileLasciato(indirizzi.first().toLocalFile());
+}
+
+void FinestraDisegno::Lascia(const QString& percorsoOspite) {
+  const std::string percorso = PercorsoDetto(modello_.Dintorni())(percorsoOspite);
+  if (!percorso.empty()) (void)modello_.Apri(percorso);
+  Mostra();
+}
+
+void FinestraDisegno::resizeEvent(QResizeEvent* evento) {
+  QDialog::resizeEvent(evento);
+  MettiInvito();
+}
+
+} // namespace lirmeto::ui

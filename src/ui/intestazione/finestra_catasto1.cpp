@@ -1,0 +1,444 @@
+#include <ui/intestazione/finestra_catasto1.h>
+
+#include <ui/comune/aspetto.h>
+#include <ui/comune/testo_qt.h>
+
+#include <core/servizi.h>
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace lirmeto::ui {
+
+namespace {
+
+constexpr int Larghezza = 1040;
+constexpr int Altezza = 620;
+constexpr int SpazioGruppi = 8; // above the title of a group
+
+QString Nome(const char* genere, std::size_t indice) {
+  return QStringLiteral("%1_%2").arg(QLatin1String(genere)).arg(indice);
+}
+
+QStringList AQStringList(const std::vector<std::string>& voci) {
+  QStringList lista;
+  lista.reserve(static_cast<qsizetype>(voci.size()));
+  for (const auto& voce : voci) lista.append(AQString(voce));
+  return lista;
+}
+
+QStringList Mostrate(const QComboBox& elenco) {
+  QStringList voci;
+  for (int i = 0; i < elenco.count(); ++i) voci.append(elenco.itemText(i));
+  return voci;
+}
+
+// The text, with the caret where it was.
+void MostraTesto(QLineEdit& casella, const std::string& testo) {
+  const QString nuovo = AQString(testo);
+  if (casella.text() == nuovo) return;
+  const int posto = casella.cursorPosition();
+  casella.setText(nuovo);
+  casella.setCursorPosition(casella.hasFocus() ? posto : 0);
+}
+
+// Widgets side by side, from the left where none of them takes the room that is left.
+QWidget* Affianca(const std::vector<QWidget*>& parti, QWidget* padre) {
+  auto* riga = new QWidget(padre);
+  auto* piano = new QHBoxLayout(riga);
+  piano->setContentsMargins(0, 0, 0, 0);
+  piano->setSpacing(6);
+  bool elastica = false;
+  for (QWidget* parte : parti) {
+    const bool si = parte->sizePolicy().horizontalPolicy() == QSizePolicy::Expanding;
+    piano->addWidget(parte, si ? 1 : 0);
+    elastica = elastica || si;
+  }
+  if (!elastica) piano->addStretch(1);
+  return riga;
+}
+
+} // namespace
+
+FinestraCatasto1::FinestraCatasto1(FormCatasto1TXT& modello, QWidget* padre)
+    : QDialog(padre), modello_(modello), tecnici_(new QListWidget(this)), comune_(new QLabel(this)),
+      estratto_(new QToolButton(this)), misurate_(new QLabel(this)), archivio_(new QLineEdit(this)),
+      aggiornaIni_(new QCheckBox(QStringLiteral("Aggiorna su Pregeo.INI [Default di Pregeo ]"), this)),
+      aggiornaData_(new QCheckBox(QStringLiteral("Aggiorna alla Data di Oggi in Automatico alla Conferma"), this)) {
+  setObjectName(QStringLiteral("FormCatasto1TXT"));
+  setWindowTitle(QStringLiteral("Intestazione del Libretto - Righe 0 e 9"));
+  // On a small screen the boxes are scrolled and the buttons stay in sight.
+  auto* area = new QScrollArea(this);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidget(CreaCaselle());
+  auto* colonna = new QVBoxLayout(this);
+  colonna->setContentsMargins(12, 8, 12, 12);
+  colonna->setSpacing(10);
+  colonna->addWidget(area, 1);
+  colonna->addWidget(CreaPiede());
+  Mostra();
+  OrdinaTasti();
+  MettiAlPosto();
+  caselle_[casella::Data]->setFocus();
+  caselle_[casella::Data]->selectAll();
+}
+
+QWidget* FinestraCatasto1::CreaCaselle() {
+  auto* dentro = new QWidget(this);
+  auto* piano = new QHBoxLayout(dentro);
+  piano->setContentsMargins(0, 0, 6, 0);
+  piano->setSpacing(28);
+  auto* sinistra = new QVBoxLayout;
+  auto* destra = new QVBoxLayout;
+  for (QVBoxLayout* colonna : {sinistra, destra}) colonna->setSpacing(4);
+  AggiungiAtto(*sinistra);
+  AggiungiRilievo(*sinistra);
+  AggiungiTecnico(*destra);
+  AggiungiArchivi(*destra);
+  AggiungiOpzioni(*destra);
+  sinistra->addStretch(1);
+  destra->addStretch(1);
+  piano->addLayout(sinistra, 1);
+  piano->addLayout(destra, 1);
+  return dentro;
+}
+
+QGridLayout& FinestraCatasto1::AggiungiGruppo(QBoxLayout& colonna, const QString& titolo) {
+  auto* etichetta = new QLabel(titolo, this);
+  etichetta->setObjectName(QStringLiteral("TitoloGruppo"));
+  auto* griglia = new QGridLayout;
+  griglia->setHorizontalSpacing(10);
+  griglia->setVerticalSpacing(5);
+  griglia->setColumnStretch(1, 1);
+  // The captions of all groups of a column stand in one line.
+  griglia->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(QStringLiteral("Nome x Backup Arch2 ")));
+  colonna.addSpacing(colonna.isEmpty() ? 0 : SpazioGruppi);
+  colonna.addWidget(etichetta);
+  colonna.addLayout(griglia);
+  return *griglia;
+}
+
+void FinestraCatasto1::AggiungiAtto(QBoxLayout& colonna) {
+  QGridLayout& griglia = AggiungiGruppo(colonna, QStringLiteral("Atto (riga 0)"));
+  comune_->setObjectName(QStringLiteral("NomeComune"));
+  comune_->setTextFormat(Qt::PlainText);
+  AggiungiCasella(griglia, casella::Data, 10, {Bottone(3)});
+  AggiungiCasella(griglia, casella::Protocollo, 10);
+  AggiungiCasella(griglia, casella::Comune, 10, {Bottone(6), comune_});
+  AggiungiCasella(griglia, casella::Foglio, 10);
+  AggiungiCasella(griglia, casella::Mappali, 0);
+  AggiungiScelta(griglia, Elenco::Commento);
+  AggiungiRiga(griglia, {}, {Bottone(18), Bottone(20)});
+}
+
+void FinestraCatasto1::AggiungiRilievo(QBoxLayout& colonna) {
+  QGridLayout& griglia = AggiungiGruppo(colonna, QStringLiteral("Rilievo (riga 9)"));
+  AggiungiScelta(griglia, Elenco::Tipologia);
+  AggiungiScelta(griglia, Elenco::Strumentazione);
+  AggiungiRiga(griglia, {}, {Bottone(16), Bottone(17)});
+  AggiungiCasella(griglia, casella::PrecisioneLineare, 10, {Unita(QStringLiteral("cm"))});
+  AggiungiCasella(griglia, casella::PrecisioneAngolare, 10);
+  AggiungiCasella(griglia, casella::QuotaMedia, 10, {Unita(QStringLiteral("m")), Bottone(4), Bottone(5)});
+  AggiungiCasella(griglia, casella::EstMedio, 10, {Unita(QStringLiteral("m")), Bottone(7)});
+  AggiungiCasella(griglia, casella::Versione, 0);
+}
+
+void FinestraCatasto1::AggiungiTecnico(QBoxLayout& colonna) {
+  QGridLayout& griglia = AggiungiGruppo(colonna, QStringLiteral("Tecnico"));
+  AggiungiElencoTecnici(griglia);
+  AggiungiCasella(griglia, casella::Cognome, 0);
+  AggiungiCasella(griglia, casella::Nome, 0);
+  AggiungiScelta(griglia, Elenco::Qualifica, PiuMeno(9, 11));
+  AggiungiScelta(griglia, Elenco::Provincia, PiuMeno(12, 15));
+  AggiungiCasella(griglia, casella::Iscrizione, 20);
+  AggiungiCasella(griglia, casella::CodiceFiscale, 20);
+  AggiungiCasella(griglia, casella::Recapito, 0);
+}
+
+void FinestraCatasto1::AggiungiElencoTecnici(QGridLayout& griglia) {
+  tecnici_->setObjectName(QStringLiteral("File1"));
+  tecnici_->setAccessibleName(QStringLiteral("Archivio Tecnici"));
+  tecnici_->setUniformItemSizes(true);
+  constexpr int righe = 4;
+  tecnici_->setFixedHeight(righe * (fontMetrics().height() + 4) + 2 * tecnici_->frameWidth());
+  connect(tecnici_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* voce) {
+    modello_.ScegliTecnico(static_cast<std::size_t>(tecnici_->row(voce)));
+    Mostra();
+  });
+  connect(tecnici_, &QListWidget::currentRowChanged, this,
+          [this](int riga) { modello_.File1Indice = riga < 0 ? std::string::npos : static_cast<std::size_t>(riga); });
+  auto* accanto = new QWidget(this);
+  auto* bottoni = new QVBoxLayout(accanto);
+  bottoni->setContentsMargins(0, 0, 0, 0);
+  bottoni->addWidget(Bottone(21));
+  bottoni->addWidget(Bottone(14));
+  bottoni->addStretch(1);
+  AggiungiRiga(griglia, QStringLiteral("Archivio Tecnici"), {tecnici_, accanto});
+}
+
+void FinestraCatasto1::AggiungiArchivi(QBoxLayout& colonna) {
+  QGridLayout& griglia = AggiungiGruppo(colonna, QStringLiteral("Estratto, Misurate, Archivio di Pregeo"));
+  const bool apribile = modello_.Disponibile("KR_EstrattiDiMappa1");
+  estratto_->setObjectName(QStringLiteral("EtichettaEstratto"));
+  estratto_->setIcon(Icona(QStringLiteral("estratti")));
+  estratto_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  estratto_->setAutoRaise(true);
+  estratto_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  estratto_->setEnabled(apribile);
+  estratto_->setToolTip(apribile ? QStringLiteral("Gestione Estratti di Mappa") : AQString(NonAncoraDisponibile));
+  connect(estratto_, &QToolButton::clicked, this, [this] {
+    modello_.ApriEstratti();
+    Mostra();
+  });
+  misurate_->setTextFormat(Qt::PlainText);
+  misurate_->setObjectName(QStringLiteral("MisurateAssociate"));
+  misurate_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  archivio_->setObjectName(QStringLiteral("NomeBackupArch2"));
+  archivio_->setPlaceholderText(QStringLiteral("C:\\cartella con arch2.db"));
+  archivio_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  connect(archivio_, &QLineEdit::textEdited, this,
+          [this](const QString& testo) { modello_.NomeBackupArch2 = DaQString(testo); });
+  AggiungiRiga(griglia, QStringLiteral("Estratto"), {estratto_});
+  AggiungiRiga(griglia, {}, {Bottone(27), Bottone(13)});
+  AggiungiRiga(griglia, QStringLiteral("Misurate"), {misurate_, Bottone(23)});
+  AggiungiRiga(griglia, QStringLiteral("Nome x Backup Arch2"), {archivio_, Bottone(8)});
+}
+
+void FinestraCatasto1::AggiungiOpzioni(QBoxLayout& colonna) {
+  auto* titolo = new QLabel(QStringLiteral("Alla Conferma"), this);
+  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
+  colonna.addSpacing(SpazioGruppi);
+  colonna.addWidget(titolo);
+  aggiornaIni_->setObjectName(QStringLiteral("AggiornaPregeoIni"));
+  aggiornaData_->setObjectName(QStringLiteral("AggiornaData"));
+  connect(aggiornaIni_, &QCheckBox::toggled, this, [this](bool si) { modello_.AggiornaPregeoIni = si; });
+  connect(aggiornaData_, &QCheckBox::toggled, this, [this](bool si) { modello_.AggiornaData = si; });
+  colonna.addWidget(aggiornaIni_);
+  colonna.addWidget(aggiornaData_);
+}
+
+QWidget* FinestraCatasto1::CreaPiede() {
+  auto* piede = new QWidget(this);
+  auto* riga = new QHBoxLayout(piede);
+  riga->setContentsMargins(0, 0, 0, 0);
+  for (const int indice : {2, 22, 30}) riga->addWidget(Bottone(indice));
+  riga->addStretch(1);
+  QPushButton* conferma = Bottone(0);
+  conferma->setDefault(true);
+  riga->addWidget(conferma);
+  riga->addWidget(Bottone(1));
+  return piede;
+}
+
+// --- boxes
+
+void FinestraCatasto1::AggiungiCasella(QGridLayout& griglia, std::size_t indice, int lettere, Parti dietro) {
+  auto* linea = new QLineEdit(this);
+  constexpr int aria = 20; // pixels, frame and margins
+  if (lettere > 0) linea->setFixedWidth(fontMetrics().horizontalAdvance(u'0') * lettere + aria);
+  linea->setSizePolicy(lettere > 0 ? QSizePolicy::Fixed : QSizePolicy::Expanding, QSizePolicy::Fixed);
+  CollegaCasella(indice, linea);
+  dietro.insert(dietro.begin(), linea);
+  AggiungiRiga(griglia, AQString(EtichetteCaselle()[indice]), dietro);
+}
+
+void FinestraCatasto1::AggiungiScelta(QGridLayout& griglia, Elenco elenco, Parti dietro) {
+  auto* scelta = new QComboBox(this);
+  scelta->setObjectName(Nome("Elenco", static_cast<std::size_t>(elenco)));
+  scelta->setEditable(true);
+  scelta->setInsertPolicy(QComboBox::NoInsert);
+  scelta->setCompleter(nullptr); // what is typed stays as it is typed
+  scelta->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  constexpr int lettereMinime = 12;
+  scelta->setMinimumContentsLength(lettereMinime);
+  scelta->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  connect(scelta, &QComboBox::activated, this, [this, elenco](int voce) {
+    modello_.Scegli(elenco, static_cast<std::size_t>(voce));
+    Mostra();
+  });
+  elenchi_[static_cast<std::size_t>(elenco)] = scelta;
+  const std::size_t indice = DatiElenco(elenco).casella;
+  CollegaCasella(indice, scelta->lineEdit());
+  dietro.insert(dietro.begin(), scelta);
+  AggiungiRiga(griglia, AQString(EtichetteCaselle()[indice]), dietro);
+}
+
+void FinestraCatasto1::AggiungiRiga(QGridLayout& griglia, const QString& etichetta, const Parti& parti) {
+  const int posto = griglia.count() == 0 ? 0 : griglia.rowCount();
+  const bool alta = parti.front() == tecnici_;
+  if (!etichetta.isEmpty()) {
+    auto* davanti = new QLabel(etichetta, this);
+    davanti->setBuddy(parti.front());
+    griglia.addWidget(davanti, posto, 0, alta ? Qt::AlignTop : Qt::AlignVCenter);
+  }
+  griglia.addWidget(Affianca(parti, this), posto, 1);
+}
+
+void FinestraCatasto1::CollegaCasella(std::size_t indice, QLineEdit* linea) {
+  linea->setObjectName(Nome("Text1", indice));
+  linea->setAccessibleName(AQString(EtichetteCaselle()[indice]));
+  connect(linea, &QLineEdit::textEdited, this, [this, indice, linea](const QString& testo) {
+    modello_.Cambia(indice, DaQString(testo));
+    MostraTesto(*linea, modello_.Text1[indice]);
+    if (indice == casella::Comune) comune_->setText(AQString(modello_.ComuneInCasella()));
+  });
+  connect(linea, &QLineEdit::editingFinished, this, [this, indice] {
+    modello_.Lascia(indice);
+    Mostra();
+  });
+  caselle_[indice] = linea;
+}
+
+QLabel* FinestraCatasto1::Unita(const QString& testo) {
+  auto* unita = new QLabel(testo, this);
+  unita->setObjectName(QStringLiteral("Posto"));
+  return unita;
+}
+
+QPushButton* FinestraCatasto1::Bottone(int indice) {
+  const auto pulsanti = FormCatasto1TXT::Pulsanti();
+  const auto pulsante = std::find_if(pulsanti.begin(), pulsanti.end(),
+                                     [indice](const FormCatasto1TXT::Pulsante& uno) { return uno.indice == indice; });
+  const QString didascalia = AQString(pulsante->didascalia);
+  auto* bottone = new QPushButton(didascalia, this);
+  bottone->setObjectName(Nome("Pulsante", static_cast<std::size_t>(indice)));
+  bottone->setToolTip(AQString(pulsante->spiegazione));
+  bottone->setAutoDefault(false);
+  connect(bottone, &QPushButton::clicked, this, [this, indice] { Premi(indice); });
+  bottoni_.push_back(bottone);
+  return bottone;
+}
+
+// A pair of small buttons that lengthen and shorten the list beside them.
+FinestraCatasto1::Parti FinestraCatasto1::PiuMeno(int piu, int meno) {
+  Parti coppia{Bottone(piu), Bottone(meno)};
+  const QStringList segni{QStringLiteral("+"), QStringLiteral("\u2212")};
+  for (qsizetype i = 0; i < segni.size(); ++i) {
+    auto* bottone = qobject_cast<QPushButton*>(coppia[static_cast<std::size_t>(i)]);
+    bottone->setAccessibleName(bottone->text());
+    bottone->setText(segni[i]);
+    constexpr int aria = 18; // pixels, frame and margins
+    bottone->setFixedWidth(fontMetrics().horizontalAdvance(u'W') + aria);
+  }
+  return coppia;
+}
+
+// --- order, place, commands
+
+// From box to box as the rows go; then the options and the confirm; the other buttons last.
+void FinestraCatasto1::OrdinaTasti() {
+  Parti giro;
+  for (const std::size_t i : {casella::Data, casella::Protocollo, casella::Comune, casella::Foglio, casella::Mappali})
+    giro.push_back(caselle_[i]);
+  const auto scelta = [this](Elenco elenco) { return elenchi_[static_cast<std::size_t>(elenco)]; };
+  giro.insert(giro.end(), {scelta(Elenco::Commento), tecnici_, caselle_[casella::Cognome], caselle_[casella::Nome],
+                           scelta(Elenco::Qualifica), scelta(Elenco::Provincia), caselle_[casella::Iscrizione],
+                           caselle_[casella::CodiceFiscale], caselle_[casella::Recapito], scelta(Elenco::Tipologia),
+                           scelta(Elenco::Strumentazione)});
+  for (const std::size_t i : {casella::PrecisioneLineare, casella::PrecisioneAngolare, casella::QuotaMedia,
+                              casella::EstMedio, casella::Versione})
+    giro.push_back(caselle_[i]);
+  giro.insert(giro.end(), {aggiornaIni_, aggiornaData_, findChild<QPushButton*>(QStringLiteral("Pulsante_0")),
+                           findChild<QPushButton*>(QStringLiteral("Pulsante_1"))});
+  for (QWidget* bottone : bottoni_)
+    if (std::find(giro.begin(), giro.end(), bottone) == giro.end()) giro.push_back(bottone);
+  giro.insert(giro.end(), {estratto_, archivio_});
+  for (std::size_t i = 1; i < giro.size(); ++i) setTabOrder(giro[i - 1], giro[i]);
+}
+
+// Where it stood last, as long as some screen still shows that place.
+void FinestraCatasto1::MettiAlPosto() {
+  AdattaAlloSchermo(*this, Larghezza, Altezza);
+  if (!modello_.PostoSalvato) return;
+  const QPoint posto(modello_.PostoSalvato->sinistra, modello_.PostoSalvato->alto);
+  const QList<QScreen*> schermi = QGuiApplication::screens();
+  const bool visibile = std::any_of(schermi.begin(), schermi.end(), [&](const QScreen* schermo) {
+    constexpr int margine = 80; // pixels of the title that must be in reach
+    return schermo->availableGeometry().adjusted(0, 0, -margine, -margine).contains(posto);
+  });
+  if (visibile) move(posto);
+}
+
+void FinestraCatasto1::done(int esito) {
+  modello_.SalvaPosto({x(), y()});
+  QDialog::done(esito);
+}
+
+void FinestraCatasto1::reject() {
+  constexpr int chiudi = 1;
+  Premi(chiudi);
+}
+
+void FinestraCatasto1::Premi(int indice) {
+  modello_.Premi(indice);
+  Mostra();
+  if (modello_.Chiusa) accept();
+}
+
+// --- what it shows
+
+void FinestraCatasto1::Mostra() {
+  MostraElenchi();
+  MostraTecnici();
+  for (std::size_t i = 0; i < NumeroCaselle; ++i) MostraTesto(*caselle_[i], modello_.Text1[i]);
+  const Sessione& sessione = modello_.DatiSessione();
+  comune_->setText(AQString(modello_.ComuneInCasella()));
+  estratto_->setText(modello_.EtichettaEstratto.empty() ? QStringLiteral("(nessuno)")
+                                                        : AQString(modello_.EtichettaEstratto));
+  misurate_->setText(sessione.MisurateAssociate.empty() ? QStringLiteral("(nessuna)")
+                                                        : AQString(sessione.MisurateAssociate));
+  MostraTesto(*archivio_, modello_.NomeBackupArch2);
+  const QSignalBlocker fermi[] = {QSignalBlocker(aggiornaIni_), QSignalBlocker(aggiornaData_)};
+  aggiornaIni_->setChecked(modello_.AggiornaPregeoIni);
+  aggiornaData_->setChecked(modello_.AggiornaData);
+}
+
+// Each list stands at the entry that its box holds, so that the keys go on from there; the box keeps its own text.
+void FinestraCatasto1::MostraElenchi() {
+  for (std::size_t i = 0; i < NumeroElenchi; ++i) {
+    const QStringList voci = AQStringList(modello_.Elenchi[i]);
+    const std::size_t voce = modello_.VoceInCasella(static_cast<Elenco>(i));
+    const int posto = voce == std::string::npos ? -1 : static_cast<int>(voce);
+    QComboBox& elenco = *elenchi_[i];
+    const bool cambiate = Mostrate(elenco) != voci;
+    if (!cambiate && elenco.currentIndex() == posto) continue;
+    const QSignalBlocker fermo(&elenco);
+    if (cambiate) {
+      elenco.clear();
+      elenco.addItems(voci);
+      elenco.view()->setMinimumWidth(elenco.view()->sizeHintForColumn(0));
+    }
+    elenco.setCurrentIndex(posto);
+  }
+}
+
+void FinestraCatasto1::MostraTecnici() {
+  const QSignalBlocker fermo(tecnici_);
+  const QStringList voci = AQStringList(modello_.File1);
+  QStringList mostrate;
+  for (int i = 0; i < tecnici_->count(); ++i) mostrate.append(tecnici_->item(i)->text());
+  if (mostrate != voci) {
+    tecnici_->clear();
+    tecnici_->addItems(voci);
+  }
+  const bool scelto = modello_.File1Indice < modello_.File1.size();
+  tecnici_->setCurrentRow(scelto ? static_cast<int>(modello_.File1Indice) : -1);
+}
+
+} // namespace lirmeto::ui

@@ -1,0 +1,297 @@
+#include <ui/libretto/finestra_principale.h>
+
+#include <ui/comune/aspetto.h>
+#include <ui/comune/barra_ricerca.h>
+#include <ui/comune/ricerca.h>
+#include <ui/comune/testo_qt.h>
+#include <ui/libretto/menu_principale.h>
+#include <ui/libretto/pannello_dati.h>
+#include <ui/libretto/pannello_pulsanti.h>
+#include <ui/libretto/pannello_strumenti.h>
+#include <ui/libretto/riga_di_stato.h>
+#include <ui/libretto/vista_righe.h>
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScopedValueRollback>
+#include <QShortcut>
+#include <QSplitter>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace lirmeto::ui {
+
+namespace {
+
+constexpr int Larghezza = 1360;
+constexpr int Altezza = 860;
+constexpr int LarghezzaDati = 290;
+
+QString SpiegaTrascina() {
+  return QStringLiteral("Trascinare qui un libretto: .TXT, .DAT, .LXB, .PDF");
+}
+
+} // namespace
+
+FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDaOspite percorso, QWidget* padre)
+    : QMainWindow(padre), modello_(modello), percorso_(std::move(percorso)),
+      pulsanti_(new PannelloPulsanti(Disponibile(), this)), dati_(new PannelloDati(modello, this)),
+      strumenti_(new PannelloStrumenti(this)), righe_(new VistaRighe(modello.DatiSessione().List1, this)),
+      ricerca_(new BarraRicerca(this)), spiegazione_(new RigaDiStato(this)), nomeFile_(new QLabel(this)),
+      posizione_(new QLabel(this)), scartate_(new QToolButton(this)) {
+  setObjectName(QStringLiteral("KR_LibrettoOriginale"));
+  RiempiMenu(*menuBar(), Disponibile(), [this](Comando comando) { Comanda(comando); });
+  auto* piano = new QSplitter(Qt::Horizontal, this);
+  piano->setChildrenCollapsible(false);
+  piano->setHandleWidth(1);
+  piano->addWidget(pulsanti_);
+  piano->addWidget(CreaCentro());
+  piano->addWidget(dati_);
+  piano->setStretchFactor(1, 1);
+  dati_->setMinimumWidth(220);
+  AdattaAlloSchermo(*this, Larghezza, Altezza);
+  piano->setSizes({pulsanti_->minimumWidth(), width() - pulsanti_->minimumWidth() - LarghezzaDati, LarghezzaDati});
+  // The explanation of a row is long: it has the whole width.
+  auto* tutto = new QWidget(this);
+  auto* colonna = new QVBoxLayout(tutto);
+  colonna->setContentsMargins(0, 0, 0, 0);
+  colonna->setSpacing(0);
+  colonna->addWidget(piano, 1);
+  colonna->addWidget(CreaPiede());
+  setCentralWidget(tutto);
+  CollegaElenco();
+  CollegaRicerca();
+  CreaScorciatoie();
+  connect(pulsanti_, &PannelloPulsanti::Premuto, this, &FinestraPrincipale::Comanda);
+  connect(dati_, &PannelloDati::Premuto, this, &FinestraPrincipale::Comanda);
+  connect(strumenti_, &PannelloStrumenti::Premuto, this,
+          [this](std::string_view tag) { Fa([&] { modello_.EseguiStrumento(tag); }); });
+  connect(pulsanti_, &PannelloPulsanti::PuntatoreSopra, this, [this](int indice) {
+    modello_.PuntatoreSuPulsante(indice);
+    MostraStrumenti();
+  });
+  Mostra();
+  righe_->setFocus();
+}
+
+QWidget* FinestraPrincipale::CreaCentro() {
+  auto* centro = new QWidget(this);
+  centro->setObjectName(QStringLiteral("Centro"));
+  auto* colonna = new QVBoxLayout(centro);
+  colonna->setContentsMargins(0, 0, 0, 0);
+  colonna->setSpacing(0);
+  colonna->addWidget(CreaTestata());
+  colonna->addWidget(ricerca_);
+  colonna->addWidget(righe_, 1);
+  return centro;
+}
+
+QWidget* FinestraPrincipale::CreaTestata() {
+  auto* testata = new QWidget(this);
+  testata->setObjectName(QStringLiteral("Testata"));
+  auto* riga = new QHBoxLayout(testata);
+  riga->setContentsMargins(10, 3, 6, 3);
+  nomeFile_->setObjectName(QStringLiteral("EtichettaFile"));
+  nomeFile_->setFont(FontMonospazio(10));
+  nomeFile_->setTextFormat(Qt::PlainText);
+  nomeFile_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  posizione_->setObjectName(QStringLiteral("EtichettaPosizione"));
+  auto* cerca = new QToolButton(testata);
+  cerca->setIcon(Icona(QStringLiteral("cerca")));
+  cerca->setToolTip(QStringLiteral("Cerca nelle righe (Ctrl+F)"));
+  cerca->setAutoRaise(true);
+  cerca->setFocusPolicy(Qt::NoFocus);
+  connect(cerca, &QToolButton::clicked, ricerca_, &BarraRicerca::Apri);
+  riga->addWidget(nomeFile_, 1);
+  riga->addWidget(posizione_);
+  riga->addWidget(cerca);
+  return testata;
+}
+
+QWidget* FinestraPrincipale::CreaPiede() {
+  auto* piede = new QWidget(this);
+  auto* riga = new QHBoxLayout(piede);
+  riga->setContentsMargins(0, 0, 6, 0);
+  riga->setSpacing(8);
+  spiegazione_->setObjectName(QStringLiteral("Spiegazione"));
+  scartate_->setObjectName(QStringLiteral("Scartate"));
+  scartate_->setIcon(Icona(QStringLiteral("scartate")));
+  scartate_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  scartate_->setToolTip(QStringLiteral("Mostra l'elenco delle righe scartate"));
+  scartate_->setFocusPolicy(Qt::TabFocus);
+  connect(scartate_, &QToolButton::clicked, this, [this] { Comanda(Comando::MostraRigheScartate); });
+  riga->addWidget(spiegazione_, 1);
+  riga->addWidget(scartate_);
+  return piede;
+}
+
+void FinestraPrincipale::CollegaElenco() {
+  righe_->setToolTip(SpiegaTrascina());
+  connect(righe_, &VistaRighe::Toccata, this, [this] {
+    if (occupata_) return; // the command that moved the list shows everything at its end
+    modello_.Righe_Indice();
+    MostraElenco();
+  });
+  connect(righe_, &VistaRighe::DoppioClick, this,
+          [this](std::size_t riga) { Fa([&] { modello_.DoppioClick(riga); }); });
+  connect(righe_, &VistaRighe::Invio, this, [this](std::size_t riga) { Fa([&] { modello_.TastoInvio(riga); }); });
+  connect(righe_, &VistaRighe::Cancella, this, [this] {
+    Fa([&] { modello_.TastoCancella(); });
+    righe_->setFocus();
+  });
+  // The question comes after the drop is over: the program that holds the file must not wait for the answer.
+  connect(righe_, &VistaRighe::FileLasciato, this, &FinestraPrincipale::Lascia, Qt::QueuedConnection);
+}
+
+void FinestraPrincipale::CollegaRicerca() {
+  connect(ricerca_, &BarraRicerca::TestoCambiato, this, &FinestraPrincipale::Cerca);
+  connect(ricerca_, &BarraRicerca::Successiva, this, [this] { VaiATrovata(true); });
+  connect(ricerca_, &BarraRicerca::Precedente, this, [this] { VaiATrovata(false); });
+  connect(ricerca_, &BarraRicerca::Chiusa, this, [this] {
+    righe_->Evidenzia({});
+    righe_->setFocus();
+  });
+}
+
+void FinestraPrincipale::CreaScorciatoie() {
+  const auto aggiungi = [this](const QKeySequence& tasti, const std::function<void()>& azione) {
+    connect(new QShortcut(tasti, this), &QShortcut::activated, this, azione);
+  };
+  aggiungi(QKeySequence(Qt::CTRL | Qt::Key_F), [this] { ricerca_->Apri(); });
+  aggiungi(QKeySequence(Qt::Key_F3), [this] { VaiATrovata(true); });
+  aggiungi(QKeySequence(Qt::SHIFT | Qt::Key_F3), [this] { VaiATrovata(false); });
+}
+
+// Runs something of the model and shows what came of it. While it runs the list's own events are held back.
+void FinestraPrincipale::Fa(const std::function<void()>& azione) {
+  if (occupata_) return;
+  {
+    const QScopedValueRollback occupata(occupata_, true);
+    azione();
+  }
+  Mostra();
+  ChiudiSeFinita();
+}
+
+void FinestraPrincipale::Comanda(Comando comando) {
+  Fa([&] { modello_.Esegui(comando); });
+  // What came back is brought into view.
+  const bool storia = comando == Comando::Annulla || comando == Comando::Ripeti;
+  if (storia && Elenco().Indice() >= 0) righe_->VaiA(static_cast<std::size_t>(Elenco().Indice()));
+}
+
+void FinestraPrincipale::Lascia(const QString& percorsoOspite) {
+  const std::string percorso = percorso_(percorsoOspite);
+  if (!percorso.empty()) Fa([&] { modello_.Trascina(percorso); });
+}
+
+void FinestraPrincipale::ChiudiSeFinita() {
+  if (modello_.Finita && !chiusa_) close();
+}
+
+void FinestraPrincipale::Mostra() {
+  pulsanti_->MostraProvincia(AQString(modello_.SiglaPulsanteProvincia));
+  dati_->Mostra();
+  const QFont carattere = FontDa(modello_.CarattereElenco);
+  if (righe_->font() != carattere) righe_->setFont(carattere);
+  MostraElenco();
+  MostraStoria();
+}
+
+// The entries that name the last command, and the notice of the last reorder.
+void FinestraPrincipale::MostraStoria() {
+  for (const Comando comando : {Comando::Annulla, Comando::Ripeti}) {
+    QAction* voce = VoceDi(*menuBar(), comando);
+    voce->setText(u'&' + AQString(modello_.Didascalia(comando)));
+    voce->setEnabled(modello_.Attivo(comando));
+  }
+  scartate_->setText(AQString(modello_.AvvisoScartate));
+  scartate_->setVisible(!modello_.AvvisoScartate.empty());
+}
+
+void FinestraPrincipale::MostraElenco() {
+  setWindowTitle(AQString(modello_.Titolo));
+  nomeFile_->setText(AQString(modello_.EtichettaFile));
+  nomeFile_->setToolTip(nomeFile_->text());
+  posizione_->setText(AQString(modello_.DatiSessione().EtichettaPosizione));
+  righe_->Aggiorna();
+  MostraSpiegazione();
+  MostraStrumenti();
+  if (ricerca_->isVisible() && versioneTrovate_ != Elenco().Versione()) Cerca();
+}
+
+void FinestraPrincipale::MostraSpiegazione() {
+  const long indice = Elenco().Indice();
+  if (indice < 0 || static_cast<std::size_t>(indice) >= Elenco().Quante()) return spiegazione_->Pulisci();
+  spiegazione_->MostraRiga(Elenco().Riga(static_cast<std::size_t>(indice)));
+}
+
+void FinestraPrincipale::MostraStrumenti() {
+  if (modello_.PannelloStrumenti && !strumenti_->isVisible()) {
+    strumenti_->adjustSize();
+    const QWidget* bottone = pulsanti_->Bottone(PulsanteUtilita);
+    const QPoint accanto = pulsanti_->mapTo(this, QPoint(pulsanti_->width() + 6, 0));
+    const int alto = bottone == nullptr ? accanto.y() : bottone->mapTo(this, QPoint(0, 0)).y() - 8;
+    strumenti_->move(accanto.x(), std::clamp(alto, accanto.y(),
+                                             std::max(accanto.y(), spiegazione_->mapTo(this, QPoint()).y() -
+                                                                       strumenti_->height() - 6)));
+    strumenti_->raise();
+  }
+  strumenti_->setVisible(modello_.PannelloStrumenti);
+}
+
+void FinestraPrincipale::Cerca() {
+  const std::string testo = DaQString(ricerca_->Testo());
+  trovate_ = RigheCheContengono(Elenco().Righe(), testo);
+  versioneTrovate_ = Elenco().Versione();
+  righe_->Evidenzia(testo);
+  const auto posto = std::find(trovate_.begin(), trovate_.end(), static_cast<std::size_t>(Elenco().Indice()));
+  ricerca_->MostraEsito(posto == trovate_.end() ? 0 : static_cast<std::size_t>(posto - trovate_.begin()) + 1,
+                        trovate_.size());
+}
+
+void FinestraPrincipale::VaiATrovata(bool avanti) {
+  if (ricerca_->Testo().isEmpty()) return ricerca_->Apri();
+  if (!ricerca_->isVisible() || versioneTrovate_ != Elenco().Versione()) Cerca();
+  if (trovate_.empty()) return;
+  const long da = Elenco().Indice();
+  const std::size_t quale = avanti ? TrovataDopo(trovate_, da) : TrovataPrima(trovate_, da);
+  righe_->VaiA(trovate_[quale]);
+  ricerca_->MostraEsito(quale + 1, trovate_.size());
+}
+
+void FinestraPrincipale::changeEvent(QEvent* evento) {
+  QMainWindow::changeEvent(evento);
+  if (evento->type() != QEvent::ActivationChange || !isActiveWindow() || occupata_ || chiusa_) return;
+  modello_.Attivazione(isMinimized());
+  Mostra();
+}
+
+void FinestraPrincipale::resizeEvent(QResizeEvent* evento) {
+  QMainWindow::resizeEvent(evento);
+  if (occupata_ || chiusa_) return;
+  modello_.Aggiornami();
+  Mostra();
+}
+
+void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
+  if (occupata_) return evento->ignore();
+  if (!chiusa_) {
+    chiusa_ = true;
+    occupata_ = true;
+    modello_.Chiusura({x(), y(), width(), height()});
+  }
+  evento->accept();
+}
+
+void FinestraPrincipale::keyPressEvent(QKeyEvent* evento) {
+  if (evento->key() == Qt::Key_Escape && ricerca_->isVisible()) return ricerca_->Chiudi();
+  QMainWindow::keyPressEvent(evento);
+}
+
+} // namespace lirmeto::ui

@@ -1,0 +1,115 @@
+#include <ui/libretto/menu_principale.h>
+
+#include <ui/comune/testo_qt.h>
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QSet>
+
+#include <utility>
+
+namespace lirmeto::ui {
+
+namespace {
+
+// Marks the first letter that no other entry of the same menu has taken.
+QString ConMnemonica(const QString& testo, QSet<QChar>& prese) {
+  for (qsizetype i = 0; i < testo.size(); ++i) {
+    const QChar lettera = testo[i].toUpper();
+    if (lettera < u'A' || lettera > u'Z' || prese.contains(lettera)) continue;
+    prese.insert(lettera);
+    return QString(testo).insert(i, u'&');
+  }
+  return testo;
+}
+
+class Costruttore {
+public:
+  Costruttore(QMenuBar& barra, ComandoDisponibile disponibile, EseguiComando esegui)
+      : barra_(barra), disponibile_(std::move(disponibile)), esegui_(std::move(esegui)) {}
+
+  void Aggiungi(const VoceMenu& voce) {
+    QMenu* menu = Menu(AQString(voce.menu));
+    if (!voce.sottomenu.empty()) menu = Sottomenu(*menu, AQString(voce.sottomenu));
+    if (voce.didascalia == Separatore) {
+      menu->addSeparator();
+      return;
+    }
+    QAction* azione = menu->addAction(ConMnemonica(AQString(voce.didascalia), prese_[menu]));
+    azione->setData(static_cast<int>(voce.comando));
+    if (!disponibile_(voce.comando)) {
+      azione->setEnabled(false);
+      azione->setToolTip(AQString(NonAncoraDisponibile));
+    }
+    if (!usate_.contains(voce.comando)) azione->setShortcut(Scorciatoia(voce.comando));
+    usate_.insert(voce.comando);
+    QObject::connect(azione, &QAction::triggered, &barra_,
+                     [esegui = esegui_, comando = voce.comando] { esegui(comando); });
+  }
+
+private:
+  QMenu* Nuovo(QMenu* menu) {
+    menu->setToolTipsVisible(true);
+    return menu;
+  }
+
+  QMenu* Menu(const QString& titolo) {
+    if (!menu_.contains(titolo)) menu_[titolo] = Nuovo(barra_.addMenu(ConMnemonica(titolo, preseBarra_)));
+    return menu_[titolo];
+  }
+
+  QMenu* Sottomenu(QMenu& padre, const QString& titolo) {
+    const QString chiave = padre.title() + u'\n' + titolo;
+    if (!menu_.contains(chiave)) menu_[chiave] = Nuovo(padre.addMenu(ConMnemonica(titolo, prese_[&padre])));
+    return menu_[chiave];
+  }
+
+  QMenuBar& barra_;
+  ComandoDisponibile disponibile_;
+  EseguiComando esegui_;
+  QHash<QString, QMenu*> menu_;
+  QHash<QMenu*, QSet<QChar>> prese_;
+  QSet<QChar> preseBarra_;
+  QSet<Comando> usate_;
+};
+
+} // namespace
+
+QKeySequence Scorciatoia(Comando comando) {
+  switch (comando) {
+  case Comando::NuovoLibretto:
+    return QKeySequence(Qt::CTRL | Qt::Key_N);
+  case Comando::SalvaLibretto:
+    return QKeySequence(Qt::CTRL | Qt::Key_S);
+  case Comando::EsportaLibretto:
+    return QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+  case Comando::ModificaDiretta:
+    return QKeySequence(Qt::Key_F2);
+  case Comando::RiordinoRighe:
+    return QKeySequence(Qt::Key_F5);
+  case Comando::IncollaDaAppunti:
+    return QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V);
+  case Comando::Annulla:
+    return QKeySequence(Qt::CTRL | Qt::Key_Z);
+  case Comando::Ripeti:
+    return QKeySequence(Qt::CTRL | Qt::Key_Y);
+  case Comando::Chiudi:
+    return QKeySequence(Qt::CTRL | Qt::Key_Q);
+  default:
+    return {};
+  }
+}
+
+QAction* VoceDi(const QMenuBar& barra, Comando comando) {
+  for (const QAction* menu : barra.actions())
+    for (QAction* voce : menu->menu()->actions())
+      if (!voce->data().isNull() && voce->data().toInt() == static_cast<int>(comando)) return voce;
+  return nullptr;
+}
+
+void RiempiMenu(QMenuBar& barra, const ComandoDisponibile& disponibile, const EseguiComando& esegui) {
+  Costruttore costruttore(barra, disponibile, esegui);
+  for (const VoceMenu& voce : VociMenu()) costruttore.Aggiungi(voce);
+}
+
+} // namespace lirmeto::ui

@@ -1,0 +1,168 @@
+#include <ui/libretto/pannello_dati.h>
+
+#include <ui/comune/aspetto.h>
+#include <ui/comune/testo_qt.h>
+
+#include <QAction>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <QTextCursor>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace lirmeto::ui {
+
+namespace {
+
+void AggiungiTitolo(QVBoxLayout& colonna, const QString& testo, QWidget* padre) {
+  auto* titolo = new QLabel(testo, padre);
+  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
+  colonna.addWidget(titolo);
+}
+
+QLabel* EtichettaElastica(QWidget* padre) {
+  auto* etichetta = new QLabel(padre);
+  etichetta->setTextFormat(Qt::PlainText);
+  etichetta->setWordWrap(true);
+  return etichetta;
+}
+
+// Sets a line's text and leaves the caret where it was.
+void MostraLinea(QLineEdit& casella, const std::string& testo) {
+  const QString nuovo = AQString(testo);
+  if (casella.text() == nuovo) return;
+  const QSignalBlocker fermo(&casella);
+  const int posto = casella.cursorPosition();
+  casella.setText(nuovo);
+  casella.setCursorPosition(posto);
+}
+
+} // namespace
+
+PannelloDati::PannelloDati(KR_LibrettoOriginale& modello, QWidget* padre)
+    : QWidget(padre), modello_(modello), estratto_(new QToolButton(this)), misurate_(EtichettaElastica(this)),
+      versione_(EtichettaElastica(this)), iscrizione_(new QLineEdit(this)), codiceFiscale_(new QLineEdit(this)),
+      ditta_(new QPlainTextEdit(this)), opzioni_(new QListWidget(this)) {
+  auto* colonna = new QVBoxLayout(this);
+  colonna->setContentsMargins(10, 6, 10, 8);
+  colonna->setSpacing(4);
+  AggiungiEtichette(*colonna);
+  AggiungiTecnico(*colonna);
+  AggiungiDitta(*colonna);
+  AggiungiOpzioni(*colonna);
+}
+
+void PannelloDati::AggiungiEtichette(QVBoxLayout& colonna) {
+  AggiungiTitolo(colonna, QStringLiteral("Atto"), this);
+  estratto_->setObjectName(QStringLiteral("EtichettaEstratto"));
+  estratto_->setIcon(Icona(QStringLiteral("estratti")));
+  estratto_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  estratto_->setAutoRaise(true);
+  estratto_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  estratto_->setEnabled(modello_.Disponibile(Comando::EstrattiDiMappa));
+  estratto_->setToolTip(
+      AQString(estratto_->isEnabled() ? DidascaliaDi(Comando::EstrattiDiMappa) : NonAncoraDisponibile));
+  connect(estratto_, &QToolButton::clicked, this, [this] { emit Premuto(Comando::EstrattiDiMappa); });
+  misurate_->setObjectName(QStringLiteral("EtichettaMisurate"));
+  versione_->setObjectName(QStringLiteral("EtichettaVersione"));
+  colonna.addWidget(estratto_);
+  colonna.addWidget(misurate_);
+  colonna.addWidget(versione_);
+}
+
+void PannelloDati::AggiungiTecnico(QVBoxLayout& colonna) {
+  AggiungiTitolo(colonna, QStringLiteral("Tecnico"), this);
+  iscrizione_->setObjectName(QStringLiteral("CasellaIscrizione"));
+  codiceFiscale_->setObjectName(QStringLiteral("CasellaCodiceFiscale"));
+  auto* modulo = new QFormLayout;
+  modulo->setContentsMargins(0, 0, 0, 0);
+  modulo->setHorizontalSpacing(8);
+  modulo->setVerticalSpacing(4);
+  modulo->addRow(QStringLiteral("Iscrizione Albo"), iscrizione_);
+  modulo->addRow(QStringLiteral("Codice Fiscale"), codiceFiscale_);
+  colonna.addLayout(modulo);
+  connect(iscrizione_, &QLineEdit::textEdited, this,
+          [this](const QString& testo) { modello_.CambiaIscrizione(DaQString(testo)); });
+  connect(codiceFiscale_, &QLineEdit::textEdited, this, [this](const QString& testo) {
+    modello_.CambiaCodiceFiscale(DaQString(testo));
+    MostraLinea(*codiceFiscale_, modello_.CasellaCodiceFiscale);
+  });
+}
+
+void PannelloDati::AggiungiDitta(QVBoxLayout& colonna) {
+  AggiungiTitolo(colonna, QStringLiteral("Ditta"), this);
+  ditta_->setObjectName(QStringLiteral("CasellaDitta"));
+  ditta_->setAccessibleName(QStringLiteral("Ditta"));
+  ditta_->setTabChangesFocus(true);
+  ditta_->setMinimumHeight(90);
+  colonna.addWidget(ditta_, 1);
+  connect(ditta_, &QPlainTextEdit::textChanged, this, &PannelloDati::DittaCambiata);
+}
+
+void PannelloDati::AggiungiOpzioni(QVBoxLayout& colonna) {
+  AggiungiTitolo(colonna, QStringLiteral("Opzioni del Libretto Automatico"), this);
+  opzioni_->setObjectName(QStringLiteral("Opzioni"));
+  opzioni_->setSelectionMode(QAbstractItemView::NoSelection);
+  opzioni_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  opzioni_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  opzioni_->setUniformItemSizes(true);
+  colonna.addWidget(opzioni_);
+  const auto aggiungi = [this](const QString& testo, Comando comando) {
+    auto* voce = new QAction(testo, opzioni_);
+    connect(voce, &QAction::triggered, this, [this, comando] {
+      modello_.Esegui(comando);
+      Mostra();
+    });
+    opzioni_->addAction(voce);
+  };
+  opzioni_->setContextMenuPolicy(Qt::ActionsContextMenu);
+  aggiungi(QStringLiteral("Spunta tutte"), Comando::TutteLeOpzioni);
+  aggiungi(QStringLiteral("Togli tutte"), Comando::NessunaOpzione);
+  connect(opzioni_, &QListWidget::itemChanged, this, [this](QListWidgetItem* voce) {
+    modello_.Opzioni.at(static_cast<std::size_t>(opzioni_->row(voce))).spuntata = voce->checkState() == Qt::Checked;
+  });
+}
+
+// What was typed goes in upper case into the model, and the box shows the same letters.
+void PannelloDati::DittaCambiata() {
+  modello_.CambiaDitta(TestoDocumento(*ditta_->document()));
+  const QString scritto = ditta_->document()->toRawText();
+  const QString maiuscolo = InMaiuscolo(scritto);
+  if (scritto == maiuscolo) return;
+  const QSignalBlocker fermo(ditta_);
+  const int posto = ditta_->textCursor().position();
+  QTextCursor cursore(ditta_->document());
+  cursore.joinPreviousEditBlock();
+  cursore.select(QTextCursor::Document);
+  cursore.insertText(maiuscolo);
+  cursore.endEditBlock();
+  cursore.setPosition(posto);
+  ditta_->setTextCursor(cursore);
+}
+
+void PannelloDati::Mostra() {
+  estratto_->setText(AQString(modello_.EtichettaEstratto));
+  misurate_->setText(AQString(modello_.EtichettaMisurate));
+  versione_->setText(AQString(modello_.EtichettaVersione));
+  MostraLinea(*iscrizione_, modello_.CasellaIscrizione);
+  MostraLinea(*codiceFiscale_, modello_.CasellaCodiceFiscale);
+  if (TestoDocumento(*ditta_->document()) != modello_.CasellaDitta) {
+    const QSignalBlocker fermo(ditta_);
+    ditta_->setPlainText(AQString(modello_.CasellaDitta));
+  }
+  const QSignalBlocker fermo(opzioni_);
+  while (opzioni_->count() < static_cast<int>(modello_.Opzioni.size())) opzioni_->addItem(QString());
+  for (std::size_t i = 0; i < modello_.Opzioni.size(); ++i) {
+    QListWidgetItem* voce = opzioni_->item(static_cast<int>(i));
+    voce->setText(AQString(modello_.Opzioni[i].testo));
+    voce->setCheckState(modello_.Opzioni[i].spuntata ? Qt::Checked : Qt::Unchecked);
+  }
+  const int altezza = opzioni_->count() * (opzioni_->sizeHintForRow(0)) + 2 * opzioni_->frameWidth() + 8;
+  opzioni_->setFixedHeight(altezza);
+}
+
+} // namespace lirmeto::ui

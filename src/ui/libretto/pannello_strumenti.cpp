@@ -1,0 +1,38 @@
+#include <ui/libretto/pannello_strumenti.h>
+
+#include <ui/comune/aspetto.h>
+#include <ui/comune/testo_qt.h>
+
+#include <QGraphicsDropShadowEffect>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace lirmeto::ui {
+
+PannelloStrumenti::PannelloStrumenti(QWidget* padre) : QFrame(padre) {
+  setObjectName(QStringLiteral("PannelloStrumenti"));
+  auto* colonna = new QVBoxLayout(this);
+  colonna->setContentsMargins(10, 8, 10, 10);
+  colonna->setSpacing(2);
+  auto* titolo = new QLabel(QStringLiteral("Utilità Catastali"), this);
+  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
+  colonna->addWidget(titolo);
+  for (const Strumento& strumento : Strumenti()) {
+    auto* bottone = new QPushButton(this);
+    bottone->setText(AQString(strumento.didascalia));
+    bottone->setObjectName(AQString(strumento.tag));
+    bottone->setFlat(true);
+    bottone->setFocusPolicy(Qt::NoFocus);
+    connect(bottone, &QPushButton::clicked, this, [this, tag = strumento.tag] { emit Premuto(tag); });
+    colonna->addWidget(bottone);
+  }
+  auto* ombra = new QGraphicsDropShadowEffect(this);
+  ombra->setBlurRadius(18);
+  ombra->setOffset(0, 3);
+  ombra->setColor(QColor(0, 0, 0, 70));
+  setGraphicsEffect(ombra);
+  hide();
+}
+
+} // namespace lirmeto::ui

@@ -1,0 +1,364 @@
+#include <ui/libretto/vista_righe.h>
+
+#include <ui/comune/aspetto.h>
+#include <ui/comune/ricerca.h>
+#include <ui/comune/testo_qt.h>
+
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QUrl>
+
+#include <algorithm>
+#include <limits>
+
+namespace lirmeto::ui {
+
+namespace {
+
+constexpr int Striscia = 5; // pixels
+constexpr int PrimaDelTesto = 8;
+constexpr int CifreMinime = 4; // room for row numbers
+
+int Entro(std::size_t valore) {
+  return static_cast<int>(std::min<std::size_t>(valore, std::numeric_limits<int>::max()));
+}
+
+} // namespace
+
+VistaRighe::VistaRighe(ElencoRighe& elenco, QWidget* padre)
+    : QAbstractScrollArea(padre), elenco_(elenco), selezione_(elenco) {
+  setFocusPolicy(Qt::StrongFocus);
+  setAcceptDrops(true);
+  viewport()->setAcceptDrops(true);
+  viewport()->setCursor(Qt::ArrowCursor);
+  verticalScrollBar()->setSingleStep(1);
+  setAccessibleName(QStringLiteral("Righe del libretto"));
+}
+
+void VistaRighe::Aggiorna() {
+  const bool righe = versione_ != elenco_.Versione();
+  const bool altro = versioneSelezione_ != elenco_.VersioneSelezione() || indice_ != elenco_.Indice();
+  if (!righe && !altro) return;
+  versione_ = elenco_.Versione();
+  versioneSelezione_ = elenco_.VersioneSelezione();
+  indice_ = elenco_.Indice();
+  if (righe) MisuraRighe();
+  if (righe) DisponiBarre();
+  const bool presente = indice_ >= 0 && static_cast<std::size_t>(indice_) < elenco_.Quante();
+  setAccessibleDescription(presente ? AQString(elenco_.Riga(static_cast<std::size_t>(indice_)).substr(0, 200))
+                                    : QString());
+  viewport()->update();
+}
+
+void VistaRighe::Evidenzia(const std::string& testo) {
+  evidenziato_ = testo;
+  viewport()->update();
+}
+
+void VistaRighe::VaiA(std::size_t riga) {
+  selezione_.Semplice(riga);
+  MostraRiga(elenco_.Indice());
+  Tocco();
+}
+
+std::optional<std::size_t> VistaRighe::RigaAlPunto(const QPoint& punto) const {
+  if (punto.y() < 0) return std::nullopt;
+  const std::size_t riga = PrimaVisibile() + static_cast<std::size_t>(punto.y() / AltezzaRiga());
+  return riga < elenco_.Quante() ? std::optional(riga) : std::nullopt;
+}
+
+QRect VistaRighe::RettangoloRiga(std::size_t riga) const {
+  const long scarto = static_cast<long>(riga) - static_cast<long>(PrimaVisibile());
+  return {0, static_cast<int>(scarto * AltezzaRiga()), viewport()->width(), AltezzaRiga()};
+}
+
+// --- drawing
+
+void VistaRighe::paintEvent(QPaintEvent* evento) {
+  QPainter pittore(viewport());
+  pittore.setFont(font());
+  pittore.fillRect(evento->rect(), palette().base());
+  pittore.fillRect(QRect(0, 0, LarghezzaMargine(), viewport()->height()), ColoreMargine());
+  const int quante = viewport()->height() / AltezzaRiga() + 1;
+  const std::size_t prima = PrimaVisibile();
+  const std::size_t fine = std::min(elenco_.Quante(), prima + static_cast<std::size_t>(quante));
+  for (std::size_t riga = prima; riga < fine; ++riga)
+    if (evento->rect().intersects(RettangoloRiga(riga))) DisegnaRiga(pittore, riga);
+}
+
+void VistaRighe::DisegnaRiga(QPainter& pittore, std::size_t riga) const {
+  const QRect intero = RettangoloRiga(riga);
+  const int margine = LarghezzaMargine();
+  const std::string_view testo = elenco_.Riga(riga);
+  const ColoriRiga colori = ColoriDelGenere(testo);
+  const QRect zona = intero.adjusted(margine, 0, 0, 0);
+  DisegnaNumero(pittore, riga, QRect(0, intero.top(), margine, intero.height()));
+  pittore.fillRect(zona, elenco_.Selezionata(riga) ? ColoreSelezione() : colori.fondo);
+  pittore.fillRect(QRect(zona.left(), zona.top(), Striscia, zona.height()), colori.striscia);
+  DisegnaTesto(pittore, testo, zona.adjusted(Striscia + PrimaDelTesto, 0, 0, 0));
+  if (elenco_.Indice() != static_cast<long>(riga)) return;
+  pittore.setPen(hasFocus() ? palette().highlight().color() : ColoreBarre());
+  pittore.drawRect(zona.adjusted(Striscia, 0, -1, -1));
+}
+
+void VistaRighe::DisegnaNumero(QPainter& pittore, std::size_t riga, const QRect& rettangolo) const {
+  const bool attuale = elenco_.Indice() == static_cast<long>(riga);
+  pittore.setPen(attuale ? palette().text().color() : ColoreNumeri());
+  pittore.drawText(rettangolo.adjusted(0, 0, -PrimaDelTesto, 0), Qt::AlignRight | Qt::AlignVCenter,
+                   QString::number(riga + 1));
+}
+
+void VistaRighe::DisegnaTesto(QPainter& pittore, std::string_view riga, const QRect& rettangolo) const {
+  const auto prima = static_cast<std::size_t>(horizontalScrollBar()->value());
+  if (prima >= riga.size()) return;
+  // The narrowest letters take a sixth of the widest: what lies beyond cannot be in the window.
+  const int massime = 6 * rettangolo.width() / LarghezzaColonna() + 1;
+  const std::string_view visibile = riga.substr(prima, static_cast<std::size_t>(massime));
+  DisegnaTrovati(pittore, visibile, rettangolo);
+  const QFontMetricsF misure(font());
+  const double linea = rettangolo.top() + (rettangolo.height() - misure.height()) / 2 + misure.ascent();
+  double x = rettangolo.left();
+  for (std::size_t da = 0; da < visibile.size() && x < rettangolo.right();) {
+    const bool barra = visibile[da] == '|';
+    const std::size_t fine = barra ? da + 1 : std::min(visibile.find('|', da), visibile.size());
+    const QString pezzo = PerDisegno(visibile.substr(da, fine - da));
+    pittore.setPen(barra ? ColoreBarre() : palette().text().color());
+    pittore.drawText(QPointF(x, linea), pezzo);
+    x += misure.horizontalAdvance(pezzo);
+    da = fine;
+  }
+}
+
+void VistaRighe::DisegnaTrovati(QPainter& pittore, std::string_view visibile, const QRect& rettangolo) const {
+  const QFontMetricsF misure(font());
+  for (const auto& [colonna, lunghezza] : PostiNellaRiga(visibile, evidenziato_)) {
+    const double x = rettangolo.left() + misure.horizontalAdvance(PerDisegno(visibile.substr(0, colonna)));
+    const double larga = misure.horizontalAdvance(PerDisegno(visibile.substr(colonna, lunghezza)));
+    pittore.fillRect(QRectF(x, rettangolo.top() + 1, larga, rettangolo.height() - 2), ColoreTrovato());
+  }
+}
+
+// --- measures and scroll bars
+
+int VistaRighe::AltezzaRiga() const {
+  return QFontMetrics(font()).height() + 4;
+}
+
+// Of the widest letter, so that the end of a row can be reached with any font.
+int VistaRighe::LarghezzaColonna() const {
+  return std::max(1, QFontMetrics(font()).horizontalAdvance(u'W'));
+}
+
+int VistaRighe::LarghezzaMargine() const {
+  const auto cifre = std::max<qsizetype>(CifreMinime, QString::number(elenco_.Quante()).size());
+  return static_cast<int>(cifre) * QFontMetrics(font()).horizontalAdvance(u'0') + 2 * PrimaDelTesto;
+}
+
+std::size_t VistaRighe::PrimaVisibile() const {
+  return static_cast<std::size_t>(verticalScrollBar()->value());
+}
+
+void VistaRighe::MisuraRighe() {
+  rigaPiuLunga_ = 0;
+  for (const std::string_view riga : elenco_.Righe()) rigaPiuLunga_ = std::max(rigaPiuLunga_, riga.size());
+}
+
+// Scrolls by rows and by characters, so that no number of pixels can overflow.
+void VistaRighe::DisponiBarre() {
+  const int intere = std::max(1, viewport()->height() / AltezzaRiga());
+  verticalScrollBar()->setPageStep(intere);
+  verticalScrollBar()->setRange(0, std::max(0, Entro(elenco_.Quante()) - intere));
+  const int larga = viewport()->width() - LarghezzaMargine() - Striscia - 2 * PrimaDelTesto;
+  const int colonne = std::max(1, larga / LarghezzaColonna());
+  horizontalScrollBar()->setPageStep(colonne);
+  horizontalScrollBar()->setSingleStep(4);
+  horizontalScrollBar()->setRange(0, std::max(0, Entro(rigaPiuLunga_) - colonne));
+}
+
+void VistaRighe::resizeEvent(QResizeEvent* evento) {
+  QAbstractScrollArea::resizeEvent(evento);
+  DisponiBarre();
+}
+
+void VistaRighe::changeEvent(QEvent* evento) {
+  QAbstractScrollArea::changeEvent(evento);
+  if (evento->type() == QEvent::FontChange) DisponiBarre();
+}
+
+void VistaRighe::scrollContentsBy(int /*dx*/, int /*dy*/) {
+  viewport()->update();
+  emit Toccata();
+}
+
+void VistaRighe::MostraRiga(long riga) {
+  if (riga < 0) return;
+  const int intere = std::max(1, viewport()->height() / AltezzaRiga());
+  const int cima = verticalScrollBar()->value();
+  const int posto = static_cast<int>(riga);
+  if (posto < cima) verticalScrollBar()->setValue(posto);
+  if (posto >= cima + intere) verticalScrollBar()->setValue(posto - intere + 1);
+}
+
+void VistaRighe::Tocco() {
+  Aggiorna();
+  emit Toccata();
+}
+
+// --- mouse
+
+std::size_t VistaRighe::RigaVicina(const QPoint& punto) const {
+  const long scarto = punto.y() < 0 ? -1 : punto.y() / AltezzaRiga();
+  const long riga = static_cast<long>(PrimaVisibile()) + scarto;
+  return static_cast<std::size_t>(std::max(0L, riga));
+}
+
+void VistaRighe::mousePressEvent(QMouseEvent* evento) {
+  const std::optional<std::size_t> riga = RigaAlPunto(evento->position().toPoint());
+  if (!riga || evento->button() != Qt::LeftButton) return;
+  const bool ctrl = evento->modifiers().testFlag(Qt::ControlModifier);
+  trascina_ = !ctrl;
+  if (evento->modifiers().testFlag(Qt::ShiftModifier)) {
+    selezione_.Estendi(*riga, ctrl);
+  } else if (ctrl) {
+    selezione_.Alterna(*riga);
+  } else {
+    selezione_.Semplice(*riga);
+  }
+  Tocco();
+}
+
+void VistaRighe::mouseMoveEvent(QMouseEvent* evento) {
+  if (!trascina_ || !evento->buttons().testFlag(Qt::LeftButton) || elenco_.Vuoto()) return;
+  const std::size_t riga = RigaVicina(evento->position().toPoint());
+  if (static_cast<long>(riga) == elenco_.Indice()) return;
+  selezione_.Estendi(riga, false);
+  MostraRiga(elenco_.Indice());
+  Tocco();
+}
+
+void VistaRighe::mouseReleaseEvent(QMouseEvent* /*evento*/) {
+  trascina_ = false;
+  emit Toccata();
+}
+
+void VistaRighe::mouseDoubleClickEvent(QMouseEvent* evento) {
+  trascina_ = false;
+  const std::optional<std::size_t> riga = RigaAlPunto(evento->position().toPoint());
+  if (riga && evento->button() == Qt::LeftButton) emit DoppioClick(*riga);
+}
+
+// --- keys
+
+void VistaRighe::keyPressEvent(QKeyEvent* evento) {
+  if (TastoDiComando(*evento) || TastoDiMovimento(*evento)) return;
+  QAbstractScrollArea::keyPressEvent(evento);
+}
+
+bool VistaRighe::TastoDiComando(const QKeyEvent& evento) {
+  const int tasto = evento.key();
+  const bool ctrl = evento.modifiers().testFlag(Qt::ControlModifier);
+  const bool corrente = elenco_.Indice() >= 0;
+  if (tasto == Qt::Key_Delete) {
+    emit Cancella();
+  } else if ((tasto == Qt::Key_Return || tasto == Qt::Key_Enter) && corrente) {
+    emit Invio(static_cast<std::size_t>(elenco_.Indice()));
+  } else if (tasto == Qt::Key_A && ctrl) {
+    selezione_.Tutte();
+    Tocco();
+  } else if (tasto == Qt::Key_Space && corrente) {
+    const auto riga = static_cast<std::size_t>(elenco_.Indice());
+    ctrl ? selezione_.Alterna(riga) : selezione_.Semplice(riga);
+    Tocco();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool VistaRighe::TastoDiMovimento(const QKeyEvent& evento) {
+  const long pagina = std::max(1, verticalScrollBar()->pageStep() - 1);
+  const auto tutte = static_cast<long>(elenco_.Quante());
+  switch (evento.key()) {
+  case Qt::Key_Up:
+    Muovi(-1, evento.modifiers());
+    return true;
+  case Qt::Key_Down:
+    Muovi(1, evento.modifiers());
+    return true;
+  case Qt::Key_PageUp:
+    Muovi(-pagina, evento.modifiers());
+    return true;
+  case Qt::Key_PageDown:
+    Muovi(pagina, evento.modifiers());
+    return true;
+  case Qt::Key_Home:
+    Muovi(-tutte, evento.modifiers());
+    return true;
+  case Qt::Key_End:
+    Muovi(tutte, evento.modifiers());
+    return true;
+  case Qt::Key_Left:
+    horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepSub);
+    return true;
+  case Qt::Key_Right:
+    horizontalScrollBar()->triggerAction(QScrollBar::SliderSingleStepAdd);
+    return true;
+  default:
+    return false;
+  }
+}
+
+void VistaRighe::Muovi(long passo, Qt::KeyboardModifiers modificatori) {
+  if (elenco_.Vuoto()) return;
+  const long ultima = static_cast<long>(elenco_.Quante()) - 1;
+  MuoviA(static_cast<std::size_t>(std::clamp(elenco_.Indice() + passo, 0L, ultima)), modificatori);
+}
+
+void VistaRighe::MuoviA(std::size_t riga, Qt::KeyboardModifiers modificatori) {
+  const bool ctrl = modificatori.testFlag(Qt::ControlModifier);
+  if (modificatori.testFlag(Qt::ShiftModifier)) {
+    selezione_.Estendi(riga, ctrl);
+  } else if (ctrl) {
+    selezione_.Sposta(riga);
+  } else {
+    selezione_.Semplice(riga);
+  }
+  MostraRiga(elenco_.Indice());
+  Tocco();
+}
+
+void VistaRighe::keyReleaseEvent(QKeyEvent* evento) {
+  QAbstractScrollArea::keyReleaseEvent(evento);
+  emit Toccata();
+}
+
+void VistaRighe::focusInEvent(QFocusEvent* evento) {
+  QAbstractScrollArea::focusInEvent(evento);
+  viewport()->update();
+}
+
+void VistaRighe::focusOutEvent(QFocusEvent* evento) {
+  QAbstractScrollArea::focusOutEvent(evento);
+  viewport()->update();
+}
+
+// --- dropped files
+
+void VistaRighe::dragEnterEvent(QDragEnterEvent* evento) {
+  if (evento->mimeData()->hasUrls()) evento->acceptProposedAction();
+}
+
+void VistaRighe::dragMoveEvent(QDragMoveEvent* evento) {
+  if (evento->mimeData()->hasUrls()) evento->acceptProposedAction();
+}
+
+void VistaRighe::dropEvent(QDropEvent* evento) {
+  const QList<QUrl> indirizzi = evento->mimeData()->urls();
+  if (indirizzi.isEmpty() || !indirizzi.first().isLocalFile()) return;
+  evento->acceptProposedAction();
+  emit FileLasciato(indirizzi.first().toLocalFile());
+}
+
+} // namespace lirmeto::ui

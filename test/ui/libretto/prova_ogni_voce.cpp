@@ -1,0 +1,186 @@
+#include <ui/tavolo.h>
+
+#include <ui/libretto/pannello_pulsanti.h>
+
+#include <QAction>
+#include <QDialog>
+#include <QMenuBar>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace lirmeto::prova {
+namespace {
+
+// Everything that an entry can leave behind.
+struct Stato {
+  std::vector<std::string> righe;
+  std::vector<std::size_t> selezionate;
+  std::map<std::string, std::string> file;
+  std::vector<std::string> avviati;
+  std::vector<std::string> aperti;
+  std::vector<long> terminati;
+  std::size_t collegamenti = 0;
+  std::size_t detti = 0;
+  std::string appunti;
+  bool strumenti = false;
+  bool aperta = true;
+};
+
+Stato StatoDi(Tavolo& tavolo) {
+  const Banco& banco = tavolo.banco;
+  return {banco.Righe(),
+          tavolo.Selezionate(),
+          banco.disco.file,
+          banco.processi.avviati,
+          banco.processi.aperti,
+          banco.processi.terminati,
+          banco.processi.collegamenti.size(),
+          banco.dialoghi.detti.size(),
+          banco.appunti.testo,
+          tavolo.modello.PannelloStrumenti,
+          tavolo.finestra->isVisible()};
+}
+
+// A modal window tells its title and is closed, and so is one behind it.
+void ChiudiFinestre(std::vector<std::string>& titoli) {
+  Dopo(0, [&titoli] {
+    QWidget* finestra = QApplication::activeModalWidget();
+    if (finestra == nullptr) return;
+    titoli.push_back(finestra->windowTitle().toStdString());
+    ChiudiFinestre(titoli);
+    finestra->close();
+  });
+}
+
+std::string Differenza(const Stato& prima, const Stato& dopo, const std::vector<std::string>& titoli) {
+  std::string detto;
+  const auto dici = [&](bool si, const std::string& che) { detto += si ? (detto.empty() ? "" : ", ") + che : ""; };
+  for (const std::string& titolo : titoli) dici(true, "finestra " + titolo.substr(0, titolo.find(" : ")));
+  dici(prima.righe != dopo.righe, "righe");
+  dici(prima.selezionate != dopo.selezionate, "selezione");
+  dici(prima.file != dopo.file, "file");
+  dici(prima.avviati != dopo.avviati, "programma " + (dopo.avviati.empty() ? "" : dopo.avviati.back()));
+  dici(prima.aperti != dopo.aperti, "documento " + (dopo.aperti.empty() ? "" : dopo.aperti.back()));
+  dici(prima.terminati != dopo.terminati, "processi");
+  dici(prima.collegamenti != dopo.collegamenti, "collegamenti");
+  dici(prima.appunti != dopo.appunti, "appunti");
+  dici(prima.detti != dopo.detti, "messaggio");
+  dici(prima.strumenti != dopo.strumenti, "pannello");
+  dici(prima.aperta != dopo.aperta, "chiusa");
+  return detto.empty() ? "niente" : detto;
+}
+
+// What an entry of a fresh window does; `usa` finds it there and uses it, or says that it is disabled.
+std::string Effetto(const std::function<bool(Tavolo&)>& usa) {
+  Tavolo tavolo;
+  tavolo.banco.appunti.testo = "A\t1,5\t2\r\n";
+  tavolo.banco.dialoghi.fileScelto = "C:\\ESPORTATO.DAT";
+  tavolo.banco.dialoghi.carattereScelto = {14, "Liberation Mono", true, false};
+  tavolo.banco.processi.vivi["pregeo.exe"] = {77};
+  tavolo.Clicca(3);
+  const Stato prima = StatoDi(tavolo);
+  std::vector<std::string> titoli;
+  ChiudiFinestre(titoli);
+  if (!usa(tavolo)) return "spenta";
+  QCoreApplication::processEvents();
+  return Differenza(prima, StatoDi(tavolo), titoli);
+}
+
+std::vector<QAction*> Voci(Tavolo& tavolo) {
+  std::vector<QAction*> voci;
+  for (QAction* azione : tavolo.finestra->menuBar()->findChildren<QAction*>())
+    if (azione->menu() == nullptr && !azione->isSeparator()) voci.push_back(azione);
+  return voci;
+}
+
+bool Usa(QAction& voce) {
+  if (voce.isEnabled()) voce.trigger();
+  return voce.isEnabled();
+}
+
+// An entry that stands in neither table does nothing, and is not meant to.
+using Effetti = std::map<std::string, std::string>;
+
+TEST(OgniVoce, DelMenuFaCioCheDice) {
+  const Effetti attesi = {
+      {"Nuovo Libretto", "finestra Intestazione del Libretto - Righe 0 e 9, righe, selezione, file"},
+      {"Salva", "file"},
+      {"Esporta Libretto", "file, messaggio"},
+      {"Seleziona Font", "file"},
+      {"Kill Pregeo", "processi"},
+      {"Chiudi", "file, chiusa"},
+      {"Annulla", "spenta"},
+      {"Ripeti", "spenta"},
+      {"Modifica Diretta", "finestra Edit Libretto Misure, messaggio"},
+      {"Riordino Righe", "selezione"},
+      {"Modello Censuario", "spenta"},
+      {"Importa Fiduciali da TAF", "finestra Importa Fiduciali da TAF, selezione"},
+      {"Incolla da Appunti", "righe, selezione"},
+      {"Descrizione", "spenta"},
+      {"Seleziona Stazioni", "selezione"},
+      {"Seleziona Squadri", "selezione"},
+      {"Seleziona Contorni", "selezione"},
+      {"Righe 8 - (P, N, E)", "righe, selezione"},
+      {"Righe 8 Nome Auto (N, E)", "righe, selezione"},
+      {"Righe Complete", "righe, selezione"},
+      {"Gondella", "programma C:\\Program Files (x86)\\Gondella\\GondellaLibretti.exe"},
+      {"Grafica Pregeo > DXF", "spenta"},
+      {"Crea Collegamenti Pregeo", "collegamenti, messaggio"},
+      {"Info Misurate PF", "spenta"},
+      {"Guarda un Disegno", "finestra Disegno"},
+      {"Cerca Comune", "finestra Ricerca Comune"},
+      {"Comuni per Provincia", "finestra Comuni per Provincia"},
+      {"Archivio Possessori", "finestra Archivio Possessori"},
+      {"Gestione Estratti di Mappa", "spenta"},
+      {"Informazioni generali - operative - garanzie", "messaggio"},
+      {"Libretto per coordinate da Elaborazione Pregeo", "righe, selezione"},
+      {"Autore", "finestra Autore"},
+      {"Configurazione", "finestra Stampa Generale"},
+      {"Pagina Web", "documento https://www.lirmeto.example/"},
+  };
+  Tavolo elenco;
+  const auto voci = Voci(elenco);
+  for (std::size_t i = 0; i < voci.size(); ++i) {
+    const std::string titolo = voci[i]->text().remove(u'&').toStdString();
+    const auto atteso = attesi.find(titolo);
+    EXPECT_EQ(Effetto([i](Tavolo& tavolo) { return Usa(*Voci(tavolo)[i]); }),
+              atteso == attesi.end() ? "niente" : atteso->second)
+        << titolo;
+  }
+}
+
+TEST(OgniVoce, DeiPulsantiFaCioCheDice) {
+  const std::map<int, std::string> attesi = {
+      {4, "file"},
+      {5, "messaggio"},
+      {6, "programma C:\\Program Files (x86)\\Gondella\\Dervola.exe"},
+      {10, "finestra Intestazione del Libretto - Righe 0 e 9, righe, selezione, file"},
+      {11, "messaggio"},
+      {14, "finestra Riordino Righe"},
+      {15, "programma desktop"},
+      {16, "finestra Edit Libretto Misure, messaggio"},
+      {17, "spenta"},
+      {18, "spenta"},
+      {20, "programma C:\\Program Files (x86)\\Gondella\\GondellaLibretti.exe"},
+      {25, "pannello"},
+      {27, "selezione"},
+      {28, "selezione"},
+      {30, "selezione"},
+      {31, "file, appunti, messaggio"},
+  };
+  for (const Pulsante& pulsante : Pulsanti()) {
+    const auto atteso = attesi.find(pulsante.indice);
+    const auto usa = [&](Tavolo& tavolo) {
+      auto* bottone = tavolo.finestra->findChild<ui::PannelloPulsanti*>()->Bottone(pulsante.indice);
+      QTest::mouseClick(bottone, Qt::LeftButton);
+      return bottone->isEnabled();
+    };
+    EXPECT_EQ(Effetto(usa), atteso == attesi.end() ? "niente" : atteso->second) << pulsante.indice;
+  }
+}
+
+} // namespace
+} // namespace lirmeto::prova
