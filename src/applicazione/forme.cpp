@@ -31,7 +31,7 @@ void ApriDisegno(Ambiente& ambiente) {
 }
 
 void ApriLibrettoDaDisegno(Ambiente& ambiente) {
-  DisegnoCondiviso disegno;
+  DisegnoDellUtente disegno(ambiente);
   LibrettoDaDisegno form(ambiente, disegno);
   form.Form_Load();
   ambiente.finestre.MostraModale(form);

@@ -125,7 +125,7 @@ void AggiungiRigaLibretto(Sessione& sessione, std::string_view riga) {
 }
 
 double DistanzaPiana(double x1, double y1, double x2, double y2) {
-  return std::hypot(x2 - x1, y2 - y1);
+  return DistanzaPiana(PuntoPiano{x1, y1}, PuntoPiano{x2, y2});
 }
 
 bool ApriForm(Ambiente& ambiente, std::string_view nome) {

@@ -1,6 +1,7 @@
 #pragma once
 // Service routines that all parts of the program call.
 
+#include <base/piano.h>
 #include <core/ambiente.h>
 
 #include <string>

@@ -85,6 +85,10 @@ std::int16_t StileDelCodice(std::string_view codice) {
   return codice.ends_with("T") ? stile::Tratteggiato : codice.ends_with("P") ? stile::Punteggiato : stile::Continuo;
 }
 
+PennaGrafica PennaDelCodice(std::string_view codice) {
+  return {ColoreDelCodice(codice), static_cast<std::int16_t>(codice.empty() ? 1 : 2), StileDelCodice(codice)};
+}
+
 // Vertex points one by one: nothing joins them.
 bool ElencoDiVertici(const ContornoDisegno& contorno) {
   return contorno.Tipo == "PV" || contorno.Tipo == "PD";
@@ -206,7 +210,7 @@ void LibrettoDaDisegno::DisegnaRaggi() {
     if (stazione == fatta || !NomeMillesimale(stazione)) continue;
     fatta = stazione; // the list is sorted by the first end
     for (const auto nome : punti.Di(stazione))
-      if (nome != stazione) Grafica1.KR_AggiungiLineaGraf2Punti(stazione, nome, colore::Grigio, 1, stile::Continuo);
+      if (nome != stazione) Grafica1.KR_AggiungiLineaGraf2Punti(stazione, nome, {.Colore = colore::Grigio});
   }
 }
 
@@ -216,8 +220,7 @@ void LibrettoDaDisegno::DisegnaContorni() {
     std::vector<std::string_view> tratto;
     const auto traccia = [&](std::string_view codice) {
       for (std::size_t i = 1; i < tratto.size(); ++i)
-        Grafica1.KR_AggiungiLineaGraf2Punti(tratto[i - 1], tratto[i], ColoreDelCodice(codice), codice.empty() ? 1 : 2,
-                                            StileDelCodice(codice));
+        Grafica1.KR_AggiungiLineaGraf2Punti(tratto[i - 1], tratto[i], PennaDelCodice(codice));
       if (!tratto.empty()) tratto = {tratto.back()};
     };
     for (const auto elemento : Elementi(contorno.Punti)) {

@@ -15,6 +15,15 @@ void ArchivioGrafica::Aggiungi(const LineaGrafica& linea) {
   ++versione_;
 }
 
+void ArchivioGrafica::AggiungiTra(std::string_view primo, std::string_view secondo, const PennaGrafica& penna) {
+  const auto da = PrimoDiNome(primo);
+  const auto a = PrimoDiNome(secondo);
+  if (!da || !a) return;
+  const PuntoGrafica& p = punti_[*da];
+  const PuntoGrafica& q = punti_[*a];
+  Aggiungi(LineaGrafica{p.X, p.Y, p.Z, q.X, q.Y, q.Z, penna.Spessore, penna.Colore, penna.Stile});
+}
+
 void ArchivioGrafica::Svuota() {
   punti_.clear();
   linee_.clear();

@@ -1,6 +1,7 @@
 #pragma once
 // The drawing store: points and lines in map coordinates, and the points by their names.
 
+#include <base/piano.h>
 #include <grafica/indice_nomi.h>
 
 #include <cstddef>
@@ -39,7 +40,15 @@ struct PuntoGrafica {
   double Angolo = 0;       // degrees, counterclockwise
   std::string Font;        // face name
   double Dimensione = 0;   // text size, points
+  [[nodiscard]] PuntoPiano Posto() const { return {X, Y}; }
   bool operator==(const PuntoGrafica&) const = default;
+};
+
+// How a line is drawn.
+struct PennaGrafica {
+  std::int16_t Colore = 0;   // 0 to 15
+  std::int16_t Spessore = 1; // pixels
+  std::int16_t Stile = 0;    // 0 solid, 1 dashed, 2 dotted
 };
 
 struct LineaGrafica {
@@ -63,6 +72,8 @@ public:
 
   void Aggiungi(PuntoGrafica punto);
   void Aggiungi(const LineaGrafica& linea);
+  // A line between the first points so named; nothing when either is missing.
+  void AggiungiTra(std::string_view primo, std::string_view secondo, const PennaGrafica& penna);
   void Svuota();
   void Riserva(std::size_t punti, std::size_t linee);
 

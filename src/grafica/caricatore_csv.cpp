@@ -1,13 +1,12 @@
-#include <grafica/grafica.h>
+#include <grafica/caricatori.h>
 
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
-#include <core/servizi.h>
+#include <grafica/righe_in_disegno.h>
 
 #include <cmath>
 #include <limits>
-#include <memory>
 #include <utility>
 
 namespace lirmeto {
@@ -79,20 +78,21 @@ void Smista(std::string_view riga, ListaRighe& punti, ListaRighe& linee) {
 
 } // namespace
 
-void Grafica::KR_LoadFileCSV(std::string_view percorso) {
-  ambiente_.sessione.PuntoErrore = "KR_LoadFileCSV";
-  const auto testo = std::make_shared<const std::string>(ConFineRiga(CaricaFileBinario(ambiente_, percorso)));
-  Comincia(percorso);
+ListeGrafica RigheCsv(const TestoCondiviso& testo) {
+  ListeGrafica liste;
   for (const auto riga : RigheDi(*testo)) {
     if (Taglia(riga).empty()) continue;
-    List2[0].AggiungiVista(riga);
-    Smista(riga, List1, List3);
+    liste.List2[0].AggiungiVista(riga);
+    Smista(riga, liste.List1, liste.List3);
   }
-  for (ListaRighe* lista : {List2.data(), &List1, &List3}) lista->Tieni(testo);
-  disegno_.archivio.Riserva(List1.size(), List3.size());
-  for (const auto riga : List1) KR_AggiungiPuntoGraf(Punto(riga));
-  for (const auto riga : List3) KR_AggiungiLineaGraf(Linea(riga));
-  KR_ZoomTutto();
+  for (ListaRighe* lista : {liste.List2.data(), &liste.List1, &liste.List3}) lista->Tieni(testo);
+  return liste;
+}
+
+void DisegnaCsv(const ListaRighe& punti, const ListaRighe& linee, ArchivioGrafica& archivio) {
+  archivio.Riserva(punti.size(), linee.size());
+  for (const auto riga : punti) archivio.Aggiungi(Punto(riga));
+  for (const auto riga : linee) archivio.Aggiungi(Linea(riga));
 }
 
 } // namespace lirmeto

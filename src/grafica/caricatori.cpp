@@ -1,4 +1,4 @@
-#include <grafica/grafica.h>
+#include <grafica/caricatori.h>
 
 #include <base/testo.h>
 #include <core/apertura.h>
@@ -23,12 +23,6 @@ namespace {
 
 constexpr std::string_view RigaPropostaAggiornata = "6|ESTRATTO DI MAPPA AGGIORNATO|";
 
-// A file's text that lists of rows can share.
-TestoCondiviso LeggiTesto(Ambiente& ambiente, std::string_view percorso, std::string_view punto) {
-  ambiente.sessione.PuntoErrore = punto;
-  return std::make_shared<const std::string>(ConFineRiga(CaricaFileBinario(ambiente, percorso)));
-}
-
 bool Esclusa(std::string_view riga, const VistaGrafica& vista) {
   return (vista.Check4 && Contiene(riga, "|PF")) || (vista.Check3 && Contiene(riga, "T|"));
 }
@@ -48,29 +42,6 @@ void AggiungiRigaEstratto(ListaRighe& lista, std::string_view riga, const VistaG
     AggiungiRiga7(lista, riga);
   else if (!Taglia(riga).empty())
     lista.AggiungiVista(riga);
-}
-
-bool HaSezioni(std::string_view testo) {
-  return Contiene(testo, RigaProposta) || Contiene(testo, RigaPropostaAggiornata);
-}
-
-void CaricaSezioni(Grafica& grafica, std::string_view percorso, const TestoCondiviso& testo) {
-  grafica.Comincia(percorso);
-  ListaRighe* sezione = nullptr;
-  for (const auto riga : RigheDi(*testo)) {
-    if (Contiene(riga, RigaProposta)) sezione = grafica.List2.data();
-    if (Contiene(riga, RigaPropostaAggiornata)) sezione = &grafica.List2[1];
-    if (sezione != nullptr) sezione->AggiungiVista(riga);
-  }
-  for (ListaRighe& lista : grafica.List2) lista.Tieni(testo);
-  grafica.GeneraGrafica();
-}
-
-void CaricaIntero(Grafica& grafica, std::string_view percorso, const TestoCondiviso& testo) {
-  grafica.Comincia(percorso);
-  grafica.List2[0].Viste() = RigheDi(*testo);
-  grafica.List2[0].Tieni(testo);
-  grafica.GeneraGrafica();
 }
 
 // The parts of a section as rows of a list that keeps the file's bytes.
@@ -93,72 +64,61 @@ void AggiungiDitta(ListaRighe& lista, std::string_view contenuto) {
   for (const auto parte : Dividi(contenuto, "<nr>")) lista.Aggiungi(Sostituisci(parte, "9|", ""));
 }
 
-void AggiungiSezione(Grafica& grafica, const TestoCondiviso& byte, const SezionePdf& sezione) {
+void AggiungiSezione(ListeGrafica& liste, const TestoCondiviso& byte, const SezionePdf& sezione) {
   const auto [numero, contenuto] = sezione;
-  if (numero == 1000) AggiungiParti(grafica.List1, byte, contenuto, "<nr>");
-  if (numero == 2000) AggiungiRilievo(grafica.List2, byte, contenuto);
-  if (numero == 3000 || numero == 5000) AggiungiParti(grafica.List3, byte, contenuto, "|");
-  if (numero == 4000) AggiungiDitta(grafica.List4, contenuto);
+  if (numero == 1000) AggiungiParti(liste.List1, byte, contenuto, "<nr>");
+  if (numero == 2000) AggiungiRilievo(liste.List2, byte, contenuto);
+  if (numero == 3000 || numero == 5000) AggiungiParti(liste.List3, byte, contenuto, "|");
+  if (numero == 4000) AggiungiDitta(liste.List4, contenuto);
 }
 
 } // namespace
 
-void Grafica::Comincia(std::string_view percorso) {
-  Percorso = percorso;
-  for (ListaRighe* lista : {&List1, List2.data(), &List2[1], &List3, &List4, &List5}) lista->clear();
-  KR_Clear();
+TestoCondiviso LeggiTestoDisegno(Ambiente& ambiente, std::string_view percorso, std::string_view punto) {
+  return std::make_shared<const std::string>(ConFineRiga(*LeggiByteDisegno(ambiente, percorso, punto)));
 }
 
-void Grafica::KR_CaricaEstratto_EMP(std::string_view percorso) {
-  const TestoCondiviso testo = LeggiTesto(ambiente_, percorso, "KR_CaricaEstratto_EMP");
-  Comincia(percorso);
+TestoCondiviso LeggiByteDisegno(Ambiente& ambiente, std::string_view percorso, std::string_view punto) {
+  ambiente.sessione.PuntoErrore = punto;
+  return std::make_shared<const std::string>(CaricaFileBinario(ambiente, percorso));
+}
+
+ListeGrafica RigheEstratto(const TestoCondiviso& testo, const VistaGrafica& vista) {
+  ListeGrafica liste;
   const auto righe = RigheDi(*testo);
-  List2[0].Riserva(righe.size());
-  for (const auto riga : righe) AggiungiRigaEstratto(List2[0], riga, disegno_.vista);
-  List2[0].Tieni(testo);
-  GeneraGrafica();
+  liste.List2[0].Riserva(righe.size());
+  for (const auto riga : righe) AggiungiRigaEstratto(liste.List2[0], riga, vista);
+  liste.List2[0].Tieni(testo);
+  return liste;
 }
 
-void Grafica::KR_CaricaPropostaDaLibretto(std::string_view percorso) {
-  CaricaSezioni(*this, percorso, LeggiTesto(ambiente_, percorso, "KR_CaricaPropostaDaLibretto"));
+ListeGrafica RigheSezioni(const TestoCondiviso& testo) {
+  ListeGrafica liste;
+  ListaRighe* sezione = nullptr;
+  for (const auto riga : RigheDi(*testo)) {
+    if (Contiene(riga, RigaProposta)) sezione = liste.List2.data();
+    if (Contiene(riga, RigaPropostaAggiornata)) sezione = &liste.List2[1];
+    if (sezione != nullptr) sezione->AggiungiVista(riga);
+  }
+  for (ListaRighe& lista : liste.List2) lista.Tieni(testo);
+  return liste;
 }
 
-void Grafica::KR_CaricaProposta_SUR(std::string_view percorso) {
-  CaricaSezioni(*this, percorso, LeggiTesto(ambiente_, percorso, "KR_CaricaProposta_SUR"));
+bool HaSezioni(std::string_view testo) {
+  return Contiene(testo, RigaProposta) || Contiene(testo, RigaPropostaAggiornata);
 }
 
-void Grafica::KR_Elaborazione_SUR(std::string_view percorso) {
-  CaricaIntero(*this, percorso, LeggiTesto(ambiente_, percorso, "KR_Elaborazione_SUR"));
+ListeGrafica RigheIntere(const TestoCondiviso& testo) {
+  ListeGrafica liste;
+  liste.List2[0].Viste() = RigheDi(*testo);
+  liste.List2[0].Tieni(testo);
+  return liste;
 }
 
-void Grafica::EsplodiPDF(std::string_view percorso) {
-  ambiente_.sessione.PuntoErrore = "EsplodiPDF";
-  const auto byte = std::make_shared<const std::string>(CaricaFileBinario(ambiente_, percorso));
-  Comincia(percorso);
-  for (const SezionePdf& sezione : DividiSezioniPdf(*byte)) AggiungiSezione(*this, byte, sezione);
-  GeneraGrafica();
-}
-
-void Grafica::CaricaDisegno(std::string_view percorso) {
-  const auto e = [&](std::string_view estensione) { return FinisceConSenzaCaso(percorso, estensione); };
-  if (e(".EMP") || e(".AGG") || e(".SMP")) return KR_CaricaEstratto_EMP(percorso);
-  if (e(".CSV")) return KR_LoadFileCSV(percorso);
-  if (e(".PDF")) return EsplodiPDF(percorso);
-  if (!e(".SUR")) return KR_CaricaPropostaDaLibretto(percorso);
-  const TestoCondiviso testo = LeggiTesto(ambiente_, percorso, "KR_Elaborazione_SUR");
-  if (HaSezioni(*testo)) return CaricaSezioni(*this, percorso, testo);
-  CaricaIntero(*this, percorso, testo);
-}
-
-void Grafica::GeneraGrafica() {
-  KR_Clear();
-  const bool conProposta = disegno_.vista.Check1;
-  AggiungiGrafica(0, conProposta ? 1 : 0);
-  if (conProposta) AggiungiGrafica(1, 1);
-  LibrettoOriginale = List2[0];
-  if (conProposta)
-    for (const auto riga : List2[1]) LibrettoOriginale.Aggiungi(riga);
-  KR_ZoomTutto();
+ListeGrafica RighePdf(const TestoCondiviso& byte) {
+  ListeGrafica liste;
+  for (const SezionePdf& sezione : DividiSezioniPdf(*byte)) AggiungiSezione(liste, byte, sezione);
+  return liste;
 }
 
 } // namespace lirmeto

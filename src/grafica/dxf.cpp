@@ -1,5 +1,4 @@
 #include <grafica/esportazioni.h>
-#include <grafica/grafica.h>
 
 #include <base/errore.h>
 #include <base/numeri.h>
@@ -108,13 +107,6 @@ std::string TestoDXF(const ArchivioGrafica& archivio, bool nomiSpenti) {
   dxf.Gruppo("  0", "ENDSEC");
   dxf.Gruppo("  0", "EOF");
   return dxf.Prendi();
-}
-
-std::string Grafica::KR_SalvaDXF() {
-  ambiente_.sessione.PuntoErrore = "KR_SalvaDXF";
-  std::string percorso = ambiente_.sessione.CartellaProgramma + "\\GraficaPF.DXF";
-  ambiente_.disco.Scrivi(percorso, TestoDXF(Archivio(), Vista().Check2));
-  return percorso;
 }
 
 } // namespace lirmeto

@@ -11,7 +11,7 @@ namespace lirmeto {
 
 class FormDisegno : public Modello {
 public:
-  explicit FormDisegno(Ambiente& ambiente) : grafica_(ambiente, disegno_), ambiente_(ambiente) {}
+  explicit FormDisegno(Ambiente& ambiente) : disegno_(ambiente), grafica_(ambiente, disegno_), ambiente_(ambiente) {}
 
   std::string Titolo = "Disegno"; // window caption
 
@@ -26,7 +26,7 @@ public:
   void Ricarica();
 
 private:
-  DisegnoCondiviso disegno_;
+  DisegnoDellUtente disegno_;
   Grafica grafica_;
   Ambiente& ambiente_;
 };

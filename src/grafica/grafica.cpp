@@ -1,128 +1,63 @@
 #include <grafica/grafica.h>
 
-#include <base/numeri.h>
-#include <core/mostra_errore.h>
-
-#include <algorithm>
-#include <cmath>
-#include <limits>
-#include <numeric>
+#include <base/testo.h>
+#include <grafica/file_esportati.h>
+#include <grafica/righe_in_disegno.h>
 
 namespace lirmeto {
 
 namespace {
 
-constexpr std::string_view Sezione = "CONFIGURA_GRAFICA1";
+constexpr double Passetto = 0.1; // of the height, by which the view moves
 
-struct FlagSalvato {
-  std::string_view chiave;
-  bool VistaGrafica::*flag;
-};
-
-constexpr std::array<FlagSalvato, 4> Flag = {{{"PROPOSTASINO", &VistaGrafica::Check1},
-                                              {"NOMISINO", &VistaGrafica::Check2},
-                                              {"TOPONIMISINO", &VistaGrafica::Check3},
-                                              {"PFSINO", &VistaGrafica::Check4}}};
-
-constexpr double Margine = 3;           // metres on each side of the extent
-constexpr double AltezzaIniziale = 640; // metres, of a view that has no height
-constexpr double Passetto = 0.1;        // of the height, by which the view moves
+// A point placed by a tool.
+constexpr std::string_view TestoNuovo = "SF";
+constexpr double DimensioneNuovo = 10;
 
 } // namespace
-
-Grafica::Grafica(Ambiente& ambiente, DisegnoCondiviso& disegno) : ambiente_(ambiente), disegno_(disegno) {
-  for (const auto& [chiave, flag] : Flag)
-    disegno_.vista.*flag = Valore(ambiente_.impostazioni.Leggi(Sezione, chiave, "0")) != 0;
-}
-
-Grafica::~Grafica() {
-  (void)Intrappola(ambiente_, [&] {
-    for (const auto& [chiave, flag] : Flag)
-      ambiente_.impostazioni.Scrivi(Sezione, chiave, disegno_.vista.*flag ? "1" : "0");
-  });
-}
-
-void Grafica::MostraErrore(std::string_view testo) {
-  ambiente_.dialoghi.Messaggio(testo, TitoloProgramma, Gravita::Critico);
-}
 
 void Grafica::KR_Clear() {
   disegno_.archivio.Svuota();
   KR_ZoomTutto();
 }
 
-void Grafica::KR_AggiungiLineaGraf2Punti(std::string_view primo, std::string_view secondo, std::int16_t colore,
-                                         std::int16_t spessore, std::int16_t stile) {
-  const auto da = Archivio().PrimoDiNome(primo);
-  const auto a = Archivio().PrimoDiNome(secondo);
-  if (!da || !a) return;
-  const PuntoGrafica& p = Archivio().Punti()[*da];
-  const PuntoGrafica& q = Archivio().Punti()[*a];
-  KR_AggiungiLineaGraf({p.X, p.Y, p.Z, q.X, q.Y, q.Z, spessore, colore, stile});
+void Grafica::KR_ZoomTutto() {
+  disegno_.vista.Inquadra(Archivio());
+  KR_RidisegnaGrafica();
 }
 
-// The extent starts from the first point, whatever its class; an empty store counts as one point at the origin. Lines
-// take no part.
-void Grafica::KR_ZoomTutto() {
-  VistaGrafica& vista = disegno_.vista;
-  const auto& punti = Archivio().Punti();
-  const PuntoGrafica primo = punti.empty() ? PuntoGrafica{} : punti.front();
-  vista.Xmin = vista.Xmax = primo.X;
-  vista.Ymin = vista.Ymax = primo.Y;
-  for (const PuntoGrafica& punto : punti) {
-    if (vista.Check3 && Valore(punto.Nome) == 0) continue;
-    vista.Xmin = std::min(vista.Xmin, punto.X);
-    vista.Xmax = std::max(vista.Xmax, punto.X);
-    vista.Ymin = std::min(vista.Ymin, punto.Y);
-    vista.Ymax = std::max(vista.Ymax, punto.Y);
-  }
-  vista.Xmin -= Margine;
-  vista.Xmax += Margine;
-  vista.Ymin -= Margine;
-  vista.Ymax += Margine;
-  // Coordinates near the greatest number: the size stays one.
-  constexpr double massimo = std::numeric_limits<double>::max();
-  vista.dX = std::min(vista.Xmax - vista.Xmin, massimo);
-  vista.dY = std::min(vista.Ymax - vista.Ymin, massimo);
-  vista.Xc = std::midpoint(vista.Xmin, vista.Xmax);
-  vista.Yc = std::midpoint(vista.Ymin, vista.Ymax);
-  vista.Zoom = std::max(vista.dX, vista.dY);
+void Grafica::Scala(double fattore) {
+  disegno_.vista.Zoom *= fattore;
+  KR_RidisegnaGrafica();
+}
+
+void Grafica::Sposta(const PuntoPiano& quota) {
+  disegno_.vista.Sposta(quota);
   KR_RidisegnaGrafica();
 }
 
 void Grafica::KR_ZoomPiu() {
-  disegno_.vista.Zoom *= 0.9;
-  KR_RidisegnaGrafica();
+  Scala(0.9);
 }
 
 void Grafica::KR_ZoomMeno() {
-  disegno_.vista.Zoom *= 1.1;
-  KR_RidisegnaGrafica();
+  Scala(1.1);
 }
 
 void Grafica::KR_ZoomUP() {
-  disegno_.vista.Yc -= disegno_.vista.Zoom * Passetto;
-  KR_RidisegnaGrafica();
+  Sposta({.nord = -Passetto});
 }
 
 void Grafica::KR_ZoomDown() {
-  disegno_.vista.Yc += disegno_.vista.Zoom * Passetto;
-  KR_RidisegnaGrafica();
+  Sposta({.nord = Passetto});
 }
 
 void Grafica::KR_ZoomLeft() {
-  disegno_.vista.Xc += disegno_.vista.Zoom * Passetto;
-  KR_RidisegnaGrafica();
+  Sposta({.est = Passetto});
 }
 
 void Grafica::KR_ZoomRight() {
-  disegno_.vista.Xc -= disegno_.vista.Zoom * Passetto;
-  KR_RidisegnaGrafica();
-}
-
-// The view stays where it is: only the middle button moves it.
-void Grafica::CentraMouse(float /*x*/, float /*y*/) {
-  KR_RidisegnaGrafica();
+  Sposta({.est = -Passetto});
 }
 
 void Grafica::KR_RidisegnaGrafica() {
@@ -130,10 +65,143 @@ void Grafica::KR_RidisegnaGrafica() {
 }
 
 Operazioni Grafica::Dipingi(double rapporto) {
-  VistaGrafica& vista = disegno_.vista;
-  vista.Rapporto = rapporto;
-  if (!(vista.Zoom > 0) || std::isinf(vista.Zoom)) vista.Zoom = AltezzaIniziale;
-  return ComponiOperazioni(Archivio(), vista);
+  disegno_.vista.Rapporto = rapporto;
+  disegno_.vista.MettiAltezza();
+  return ComponiOperazioni(Archivio(), disegno_.vista);
+}
+
+void Grafica::MouseMove(const PuntoPiano& daCentro, TastoMouse tasto) {
+  if (mouse_.Muovi(daCentro, tasto)) KR_RidisegnaGrafica();
+}
+
+void Grafica::MouseDown(const PuntoPiano& daCentro, TastoMouse tasto) {
+  switch (tasto) {
+  case TastoMouse::Destro:
+    if (Picture1 != nullptr) Picture1->MostraMenu();
+    break;
+  case TastoMouse::Centrale:
+    mouse_.Afferra(daCentro);
+    break;
+  case TastoMouse::Sinistro:
+    Prova("MouseDown", [&] { Clicca(daCentro); });
+    break;
+  case TastoMouse::Nessuno:
+    break;
+  }
+}
+
+// Without a tool the view stays where it is and is painted again: only the middle button moves it.
+void Grafica::Clicca(const PuntoPiano& daCentro) {
+  const EsitoClic esito = mouse_.Clicca(daCentro, Strumento);
+  if (esito.nuovo) AggiungiPuntoNuovo(*esito.nuovo);
+  KR_RidisegnaGrafica();
+  if (esito.contorno) ScriviContorno(ambiente_, *esito.contorno);
+}
+
+// The tool takes one name: the next point has none until the form gives one.
+void Grafica::AggiungiPuntoNuovo(const PuntoPiano& posto) {
+  PuntoGrafica punto;
+  punto.Nome = std::exchange(NomeNuovoPunto, {});
+  punto.X = posto.est;
+  punto.Y = posto.nord;
+  punto.Testo = TestoNuovo;
+  punto.Font = FontPredefinito;
+  punto.Dimensione = DimensioneNuovo;
+  KR_AggiungiPuntoGraf(std::move(punto));
+}
+
+void Grafica::PuntatoreEntra(std::int16_t host) {
+  ambiente_.sessione.HostGrafica = host;
+  disegno_.gancio.Installa([this](bool avanti) { avanti ? KR_ZoomPiu() : KR_ZoomMeno(); });
+}
+
+void Grafica::PuntatoreEsce(std::int16_t host) {
+  ambiente_.sessione.HostGrafica = host;
+  disegno_.gancio.Togli();
+}
+
+void Grafica::KR_PuntiCoincidenti() {
+  const std::string nomi = mouse_.Coincidenti();
+  if (!nomi.empty()) ambiente_.dialoghi.Messaggio(nomi);
+}
+
+void Grafica::Carica(std::string_view percorso, ListeGrafica liste) {
+  Percorso = percorso;
+  liste_ = std::move(liste);
+  GeneraGrafica();
+}
+
+void Grafica::KR_CaricaEstratto_EMP(std::string_view percorso) {
+  Carica(percorso, RigheEstratto(LeggiTestoDisegno(ambiente_, percorso, "KR_CaricaEstratto_EMP"), Vista()));
+}
+
+void Grafica::KR_CaricaPropostaDaLibretto(std::string_view percorso) {
+  Carica(percorso, RigheSezioni(LeggiTestoDisegno(ambiente_, percorso, "KR_CaricaPropostaDaLibretto")));
+}
+
+void Grafica::KR_CaricaProposta_SUR(std::string_view percorso) {
+  Carica(percorso, RigheSezioni(LeggiTestoDisegno(ambiente_, percorso, "KR_CaricaProposta_SUR")));
+}
+
+void Grafica::KR_Elaborazione_SUR(std::string_view percorso) {
+  Carica(percorso, RigheIntere(LeggiTestoDisegno(ambiente_, percorso, "KR_Elaborazione_SUR")));
+}
+
+void Grafica::EsplodiPDF(std::string_view percorso) {
+  Carica(percorso, RighePdf(LeggiByteDisegno(ambiente_, percorso, "EsplodiPDF")));
+}
+
+void Grafica::KR_LoadFileCSV(std::string_view percorso) {
+  liste_ = RigheCsv(LeggiTestoDisegno(ambiente_, percorso, "KR_LoadFileCSV"));
+  Percorso = percorso;
+  disegno_.archivio.Svuota();
+  DisegnaCsv(liste_.List1, liste_.List3, disegno_.archivio);
+  KR_ZoomTutto();
+}
+
+void Grafica::CaricaDisegno(std::string_view percorso) {
+  const auto e = [&](std::string_view estensione) { return FinisceConSenzaCaso(percorso, estensione); };
+  if (e(".EMP") || e(".AGG") || e(".SMP")) return KR_CaricaEstratto_EMP(percorso);
+  if (e(".CSV")) return KR_LoadFileCSV(percorso);
+  if (e(".PDF")) return EsplodiPDF(percorso);
+  if (!e(".SUR")) return KR_CaricaPropostaDaLibretto(percorso);
+  const TestoCondiviso testo = LeggiTestoDisegno(ambiente_, percorso, "KR_Elaborazione_SUR");
+  Carica(percorso, HaSezioni(*testo) ? RigheSezioni(testo) : RigheIntere(testo));
+}
+
+void Grafica::GeneraGrafica() {
+  KR_Clear();
+  const bool conProposta = disegno_.vista.Check1;
+  const auto& [estratto, proposta] = liste_.List2;
+  std::string& punto = ambiente_.sessione.PuntoErrore;
+  DisegnaRighe(estratto, conProposta, disegno_.archivio, punto);
+  if (conProposta) DisegnaRighe(proposta, false, disegno_.archivio, punto);
+  liste_.LibrettoOriginale = estratto;
+  if (conProposta)
+    for (const auto riga : proposta) liste_.LibrettoOriginale.Aggiungi(riga);
+  KR_ZoomTutto();
+}
+
+std::string Grafica::KR_SalvaDXF() {
+  return ScriviDXF(ambiente_, disegno_);
+}
+
+std::string Grafica::GeneraHTML5_CANVAS() {
+  return ScriviPagina(ambiente_, disegno_);
+}
+
+std::string Grafica::GeneraStampa() {
+  return ScriviOrdiniStampa(ambiente_, disegno_);
+}
+
+std::string Grafica::KR_CopiaInFile() {
+  std::string percorso = ScriviScambio(ambiente_, disegno_);
+  fineProgramma_ = SoloPerScambio(ambiente_);
+  return percorso;
+}
+
+void Grafica::AggiungiPuntoAFile(const PuntoPiano& posto) {
+  AccodaPunto(ambiente_, Percorso, NomeNuovoPunto, posto);
 }
 
 } // namespace lirmeto

@@ -1,33 +1,21 @@
 #pragma once
-// The drawing control as a model: its lists, its view, its loaders, tools and exporters over the shared store. The
+// The drawing control as a model: store, view, loaders, mouse tools and exporters joined to what a form calls. The
 // surface on the screen only paints what it says.
 
 #include <core/ambiente.h>
-#include <core/lista_righe.h>
-#include <grafica/archivio_grafica.h>
-#include <grafica/gancio_grafica.h>
-#include <grafica/indice_punti.h>
+#include <grafica/caricatori.h>
+#include <grafica/disegno_condiviso.h>
 #include <grafica/operazioni.h>
-#include <grafica/scambio.h>
-#include <grafica/vista_grafica.h>
+#include <grafica/strumenti_mouse.h>
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace lirmeto {
-
-// Store, view and hook are one for all instances; the owner of the instances hands them to each.
-struct DisegnoCondiviso {
-  ArchivioGrafica archivio;
-  VistaGrafica vista;
-  GancioGrafica gancio;
-};
 
 // What the drawing asks of the surface that it is shown on. On the command line there is none, and nothing is asked.
 class SuperficieGrafica {
@@ -47,74 +35,38 @@ public:
   virtual void MostraMenu() = 0;
 };
 
-enum class TastoMouse { Nessuno, Sinistro, Centrale, Destro };
-
-// The label beside the point under the mouse, in map coordinates.
-struct EtichettaMouse {
-  std::string testo;
-  double x = 0;
-  double y = 0;
-  bool visibile = false;
-};
-
 class Grafica {
 public:
-  // Reads the user's display flags; the end of the instance keeps them.
-  Grafica(Ambiente& ambiente, DisegnoCondiviso& disegno);
+  Grafica(Ambiente& ambiente, DisegnoCondiviso& disegno) : ambiente_(ambiente), disegno_(disegno), mouse_(disegno) {}
   Grafica(const Grafica&) = delete;
   Grafica& operator=(const Grafica&) = delete;
-  ~Grafica();
 
-  // Rows that the loaders fill.
-  std::array<ListaRighe, 2> List2; // rows of the extract; rows of the updated extract
-  ListaRighe List1;
-  ListaRighe List3;
-  ListaRighe List4;
-  ListaRighe List5;
-  ListaRighe LibrettoOriginale; // the visible list of the rows in use
-  std::string Percorso;         // of the file loaded last
-
-  // The surface it is shown on, if any; it must take itself away before it goes.
-  SuperficieGrafica* Picture1 = nullptr;
-
-  // Mouse tools.
-  std::string Strumento;      // in any case; empty: none
+  // What a form sets.
+  std::string Strumento;      // mouse tool, in any case; empty: none
   std::string NomeNuovoPunto; // of the next point
-  std::string UltimoNome;     // of the point under the mouse
-  double UltimoX = 0;         // its position, metres
-  double UltimoY = 0;         //
-  std::int16_t Passo = 0;     // 1: a first pick is held
-  std::string NomePrimoPunto; // first pick of a contour
-  double PrimoX = 0;          // picks of a middle point
-  double PrimoY = 0;          //
-  double SecondoX = 0;        //
-  double SecondoY = 0;        //
-  double MedioX = 0;          // result of PuntoMedio
-  double MedioY = 0;          //
-  double PanMouseX = 0;       // when a pan began: mouse from the centre of the view,
-  double PanMouseY = 0;       //
-  double PanXc = 0;           // and centre
-  double PanYc = 0;           //
-  EtichettaMouse Label1;      // readout of the point under the mouse
-  bool CursoreSposta = false; // the pointer has the shape of moving in all directions
+  std::string Percorso;       // of the file loaded last
   // A line that the surface lights up over the drawing; it is no part of the store, and no exporter sees it.
   std::optional<LineaGrafica> Evidenza;
+  // The surface it is shown on, if any; it must take itself away before it goes.
+  SuperficieGrafica* Picture1 = nullptr;
 
   [[nodiscard]] const ArchivioGrafica& Archivio() const { return disegno_.archivio; }
   [[nodiscard]] VistaGrafica& Vista() { return disegno_.vista; }
   [[nodiscard]] const VistaGrafica& Vista() const { return disegno_.vista; }
-  [[nodiscard]] GancioGrafica& Gancio() { return disegno_.gancio; }
-
-  // Shows an error box.
-  void MostraErrore(std::string_view testo);
+  [[nodiscard]] const GancioGrafica& Gancio() const { return disegno_.gancio; }
+  // Rows that the last loader filled.
+  [[nodiscard]] const ListeGrafica& Liste() const { return liste_; }
+  // What the mouse stands over, and what it holds.
+  [[nodiscard]] const StrumentiMouse& Mouse() const { return mouse_; }
 
   // Store.
   void KR_Clear();
   void KR_AggiungiPuntoGraf(PuntoGrafica punto) { disegno_.archivio.Aggiungi(std::move(punto)); }
   void KR_AggiungiLineaGraf(const LineaGrafica& linea) { disegno_.archivio.Aggiungi(linea); }
   // A line between the first points so named; nothing when either is missing.
-  void KR_AggiungiLineaGraf2Punti(std::string_view primo, std::string_view secondo, std::int16_t colore,
-                                  std::int16_t spessore, std::int16_t stile);
+  void KR_AggiungiLineaGraf2Punti(std::string_view primo, std::string_view secondo, const PennaGrafica& penna) {
+    disegno_.archivio.AggiungiTra(primo, secondo, penna);
+  }
 
   // View. Each ends with a repaint.
   void KR_ZoomTutto();
@@ -124,7 +76,6 @@ public:
   void KR_ZoomDown();
   void KR_ZoomLeft();
   void KR_ZoomRight();
-  void CentraMouse(float x, float y);
   void KR_RidisegnaGrafica();
   // What a surface of this shape paints; `Rapporto` becomes it. Names are views into the store.
   [[nodiscard]] Operazioni Dipingi(double rapporto);
@@ -135,24 +86,19 @@ public:
   void KR_CopiaImmagineGrafica();
   void KR_Stampa();
 
-  // Events of the mouse; a position is in metres from the centre of the view, north up.
-  void MouseMove(double x, double y, TastoMouse tasto);
-  void MouseDown(double x, double y, TastoMouse tasto);
+  // Events of the mouse; a position is in metres from the centre of the view.
+  void MouseMove(const PuntoPiano& daCentro, TastoMouse tasto);
+  void MouseDown(const PuntoPiano& daCentro, TastoMouse tasto);
   // The pointer comes upon the surface, or goes: the host's number is set, and the wheel zooms in between.
   void PuntatoreEntra(std::int16_t host);
   void PuntatoreEsce(std::int16_t host);
 
-  // Picking.
-  [[nodiscard]] static double DistanzaDuePuntiNuova(double x1, double y1, double x2, double y2);
   // Index of the nearest point, the first of equal ones, in map coordinates. 0 when all are 100,000 metres away or
   // more.
-  [[nodiscard]] std::size_t KR_IlPiuVicinoAlMouse(double x, double y);
-  void PuntoMedio(double x1, double y1, double x2, double y2);
+  [[nodiscard]] std::size_t KR_IlPiuVicinoAlMouse(const PuntoPiano& posto) { return mouse_.PiuVicino(posto); }
   // Tells the names of points less than 0.01 metres apart, pair by pair; nothing when there are none.
   void KR_PuntiCoincidenti();
 
-  // What every loader does first: keeps the path, empties lists and store.
-  void Comincia(std::string_view percorso);
   // Loaders. A file that is not there is error 53, and the drawing that stood before stays.
   void KR_CaricaEstratto_EMP(std::string_view percorso);
   void KR_CaricaPropostaDaLibretto(std::string_view percorso);
@@ -164,45 +110,33 @@ public:
   void CaricaDisegno(std::string_view percorso);
   // The store from the rows of List2, as `Check1` says; then the view fits it.
   void GeneraGrafica();
-  void AggiungiGrafica(std::size_t indice, int modo);
-  // The label of a parcel at the mean of its vertices. A ring none of whose vertices is a point is error 11.
-  void KR_AggiungiNomeParticella(std::string_view riga7, std::int16_t colore);
 
   // Exporters: the file's path. An empty store has no DXF: error 9.
   std::string KR_SalvaDXF();
   std::string GeneraHTML5_CANVAS();
   std::string GeneraStampa();
   std::string KR_CopiaInFile();
-
-  // The exchange file by its records; it is written when it is closed.
-  void ApriCopiaInfile();
-  void SalvaPuntoCopiaInFile(const PuntoGrafica& punto) { copia_.Punto(punto); }
-  void SalvaLineaCopiaInFile(const LineaGrafica& linea) { copia_.Linea(linea); }
-  std::string ChiudiCopiaInFile();
   // Set when the exchange file was all that the program was started for: it ends then.
-  bool FineProgramma = false;
+  [[nodiscard]] bool FineProgramma() const { return fineProgramma_; }
 
   // A row 8 named `NomeNuovoPunto` behind the rows of the file loaded last.
-  void AggiungiPuntoAFile(double x, double y);
+  void AggiungiPuntoAFile(const PuntoPiano& posto);
 
 private:
   void SalvaDXFEApri();
   void StampaConProgramma();
   void Prova(std::string_view punto, const std::function<void()>& comando);
-
-  void Clicca(double x, double y);
-  void PrendiContorno(std::int16_t colore);
-  void PrendiMedio();
-  void AggiungiPuntoNuovo(double x, double y);
-  void ScriviContorno();
-  [[nodiscard]] const PuntoGrafica& PuntoVicino(double x, double y);
-  void AggiornaIndice();
+  void Scala(double fattore);
+  void Sposta(const PuntoPiano& quota);
+  void Clicca(const PuntoPiano& daCentro);
+  void AggiungiPuntoNuovo(const PuntoPiano& posto);
+  void Carica(std::string_view percorso, ListeGrafica liste);
 
   Ambiente& ambiente_;
   DisegnoCondiviso& disegno_;
-  IndicePunti indice_;
-  std::uint64_t generazioneIndice_ = 0;
-  ScrittoreScambio copia_; // exchange file that is open
+  StrumentiMouse mouse_;
+  ListeGrafica liste_;
+  bool fineProgramma_ = false;
 };
 
 } // namespace lirmeto

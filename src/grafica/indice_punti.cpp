@@ -1,6 +1,5 @@
 #include <grafica/indice_punti.h>
 
-#include <core/servizi.h>
 #include <grafica/archivio_grafica.h>
 
 #include <algorithm>
@@ -16,14 +15,13 @@ constexpr std::size_t Pochi = 64;
 
 // The best of the points seen so far.
 struct Migliore {
-  double x;
-  double y;
+  PuntoPiano da;
   double entro; // distance of the best one; at first the limit
   std::size_t indice = 0;
   bool trovato = false;
 
-  void Prova(double px, double py, std::size_t chi) {
-    const double distanza = DistanzaPiana(px, py, x, y);
+  void Prova(const PuntoPiano& dove, std::size_t chi) {
+    const double distanza = DistanzaPiana(dove, da);
     if (distanza > entro || (distanza == entro && (!trovato || chi > indice))) return;
     entro = distanza;
     indice = chi;
@@ -33,12 +31,13 @@ struct Migliore {
 
 } // namespace
 
-void IndicePunti::Svuota() {
-  posti_.clear();
-  ordine_.clear();
-}
-
-void IndicePunti::Segui(std::span<const PuntoGrafica> punti) {
+void IndicePunti::Segui(const ArchivioGrafica& archivio) {
+  if (generazione_ != archivio.Generazione()) {
+    posti_.clear();
+    ordine_.clear();
+    generazione_ = archivio.Generazione();
+  }
+  const auto& punti = archivio.Punti();
   if (punti.size() > ordine_.size() + Pochi + ordine_.size() / 8) Costruisci(punti);
 }
 
@@ -53,8 +52,7 @@ void IndicePunti::Costruisci(std::span<const PuntoGrafica> punti) {
   posti_.clear();
   for (std::uint32_t i = 0; i < ordine_.size(); ++i) {
     const PuntoGrafica& punto = punti[ordine_[i]];
-    if (posti_.empty() || posti_.back().x != punto.X || posti_.back().y != punto.Y)
-      posti_.push_back({punto.X, punto.Y, i, 0});
+    if (posti_.empty() || posti_.back().dove != punto.Posto()) posti_.push_back({punto.Posto(), i, 0});
     ++posti_.back().quanti;
   }
   Dimezza(0, posti_.size(), true);
@@ -65,8 +63,9 @@ void IndicePunti::Dimezza(std::size_t da, std::size_t a, bool perX) {
   const std::size_t mezzo = da + (a - da) / 2;
   const auto inizio = posti_.begin();
   const auto posto = [&](std::size_t i) { return inizio + static_cast<std::ptrdiff_t>(i); };
-  std::nth_element(posto(da), posto(mezzo), posto(a),
-                   [perX](const Posto& p, const Posto& q) { return perX ? p.x < q.x : p.y < q.y; });
+  std::nth_element(posto(da), posto(mezzo), posto(a), [perX](const Posto& p, const Posto& q) {
+    return perX ? p.dove.est < q.dove.est : p.dove.nord < q.dove.nord;
+  });
   Dimezza(da, mezzo, !perX);
   Dimezza(mezzo + 1, a, !perX);
 }
@@ -78,47 +77,44 @@ void IndicePunti::Scendi(std::size_t da, std::size_t a, bool perX, Visita& visit
   const std::size_t mezzo = da + (a - da) / 2;
   const Posto& posto = posti_[mezzo];
   visita(posto);
-  const double scarto = perX ? visita.X() - posto.x : visita.Y() - posto.y;
+  const double scarto = perX ? visita.Da().est - posto.dove.est : visita.Da().nord - posto.dove.nord;
   const bool prima = scarto < 0;
   const auto scendi = [&](bool giu) { giu ? Scendi(da, mezzo, !perX, visita) : Scendi(mezzo + 1, a, !perX, visita); };
   scendi(prima);
   if (std::abs(scarto) <= visita.Entro()) scendi(!prima);
 }
 
-std::size_t IndicePunti::PiuVicino(std::span<const PuntoGrafica> punti, double x, double y, double entro) const {
+std::size_t IndicePunti::PiuVicino(std::span<const PuntoGrafica> punti, const PuntoPiano& posto, double entro) const {
   struct {
     Migliore migliore;
     const std::vector<std::uint32_t>& ordine;
-    [[nodiscard]] double X() const { return migliore.x; }
-    [[nodiscard]] double Y() const { return migliore.y; }
+    [[nodiscard]] const PuntoPiano& Da() const { return migliore.da; }
     [[nodiscard]] double Entro() const { return migliore.entro; }
-    void operator()(const Posto& posto) { migliore.Prova(posto.x, posto.y, ordine[posto.primo]); }
-  } visita{{x, y, entro}, ordine_};
+    void operator()(const Posto& visto) { migliore.Prova(visto.dove, ordine[visto.primo]); }
+  } visita{{posto, entro}, ordine_};
   Scendi(0, posti_.size(), true, visita);
-  for (std::size_t i = ordine_.size(); i < punti.size(); ++i) visita.migliore.Prova(punti[i].X, punti[i].Y, i);
+  for (std::size_t i = ordine_.size(); i < punti.size(); ++i) visita.migliore.Prova(punti[i].Posto(), i);
   return visita.migliore.indice;
 }
 
-std::vector<std::size_t> IndicePunti::Vicini(std::span<const PuntoGrafica> punti, double x, double y,
+std::vector<std::size_t> IndicePunti::Vicini(std::span<const PuntoGrafica> punti, const PuntoPiano& posto,
                                              double entro) const {
   struct {
-    double x;
-    double y;
+    PuntoPiano da;
     double entro;
     const std::vector<std::uint32_t>& ordine;
     std::vector<std::size_t> trovati;
-    [[nodiscard]] double X() const { return x; }
-    [[nodiscard]] double Y() const { return y; }
+    [[nodiscard]] const PuntoPiano& Da() const { return da; }
     [[nodiscard]] double Entro() const { return entro; }
-    void operator()(const Posto& posto) {
-      if (!(DistanzaPiana(posto.x, posto.y, x, y) < entro)) return;
-      const auto primo = ordine.begin() + static_cast<std::ptrdiff_t>(posto.primo);
-      trovati.insert(trovati.end(), primo, primo + static_cast<std::ptrdiff_t>(posto.quanti));
+    void operator()(const Posto& visto) {
+      if (!(DistanzaPiana(visto.dove, da) < entro)) return;
+      const auto primo = ordine.begin() + static_cast<std::ptrdiff_t>(visto.primo);
+      trovati.insert(trovati.end(), primo, primo + static_cast<std::ptrdiff_t>(visto.quanti));
     }
-  } visita{x, y, entro, ordine_, {}};
+  } visita{posto, entro, ordine_, {}};
   Scendi(0, posti_.size(), true, visita);
   for (std::size_t i = ordine_.size(); i < punti.size(); ++i)
-    if (DistanzaPiana(punti[i].X, punti[i].Y, x, y) < entro) visita.trovati.push_back(i);
+    if (DistanzaPiana(punti[i].Posto(), posto) < entro) visita.trovati.push_back(i);
   std::sort(visita.trovati.begin(), visita.trovati.end());
   return std::move(visita.trovati);
 }

@@ -1,5 +1,4 @@
 #include <grafica/esportazioni.h>
-#include <grafica/grafica.h>
 
 #include <base/numeri.h>
 #include <base/testo.h>
@@ -59,13 +58,6 @@ std::string TestoOrdiniStampa(const ArchivioGrafica& archivio, const VistaGrafic
   for (const PuntoGrafica& punto : archivio.Punti()) ordini.Segno(punto);
   for (const PuntoGrafica& punto : archivio.Punti()) ordini.Nome(punto);
   return ordini.Prendi();
-}
-
-std::string Grafica::GeneraStampa() {
-  ambiente_.sessione.PuntoErrore = "GeneraStampa";
-  std::string percorso = ambiente_.sessione.CartellaProgramma + "\\Stampe.TXT";
-  ambiente_.disco.Scrivi(percorso, TestoOrdiniStampa(Archivio(), Vista()));
-  return percorso;
 }
 
 } // namespace lirmeto

@@ -1,5 +1,4 @@
 #include <grafica/esportazioni.h>
-#include <grafica/grafica.h>
 
 #include <base/numeri.h>
 #include <base/testo.h>
@@ -103,14 +102,6 @@ std::string TestoPagina(const ArchivioGrafica& archivio, const VistaGrafica& vis
   for (const PuntoGrafica& punto : archivio.Punti()) ScriviNome(pagina, punto, tela);
   for (const auto riga : Coda) Riga(pagina, riga);
   return pagina;
-}
-
-std::string Grafica::GeneraHTML5_CANVAS() {
-  ambiente_.sessione.PuntoErrore = "GeneraHTML5_CANVAS";
-  std::string percorso = ambiente_.sessione.CartellaProgramma + "\\Stampe.HTML";
-  ambiente_.disco.Scrivi(percorso, TestoPagina(Archivio(), Vista()));
-  ambiente_.processi.ApriDocumento(percorso);
-  return percorso;
 }
 
 } // namespace lirmeto

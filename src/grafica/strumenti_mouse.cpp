@@ -1,10 +1,9 @@
-// The mouse over the drawing: readout, pan, drawing tools, coincident points.
-
-#include <grafica/grafica.h>
+#include <grafica/strumenti_mouse.h>
 
 #include <base/numeri.h>
 #include <base/testo.h>
-#include <core/servizi.h>
+
+#include <utility>
 
 namespace lirmeto {
 
@@ -14,166 +13,98 @@ constexpr double LimiteVicino = 100'000;      // metres: farther points are not 
 constexpr double StessoPosto = 0.01;          // metres: points closer than this stand on each other
 constexpr std::size_t TestoMassimo = 1 << 20; // bytes of names; a box shows a few thousand of them
 
-// A point placed by a tool.
-constexpr std::string_view TestoNuovo = "SF";
-constexpr double DimensioneNuovo = 10;
-
 std::string CoordinataContorno(double valore, std::string_view formato) {
   return Sostituisci(Formatta(valore, formato), ",", ".");
 }
 
 } // namespace
 
-double Grafica::DistanzaDuePuntiNuova(double x1, double y1, double x2, double y2) {
-  return DistanzaPiana(x1, y1, x2, y2);
+std::size_t StrumentiMouse::PiuVicino(const PuntoPiano& posto) {
+  indice_.Segui(disegno_.archivio);
+  return indice_.PiuVicino(disegno_.archivio.Punti(), posto, LimiteVicino);
 }
 
-void Grafica::AggiornaIndice() {
-  if (generazioneIndice_ != Archivio().Generazione()) indice_.Svuota();
-  generazioneIndice_ = Archivio().Generazione();
-  indice_.Segui(Archivio().Punti());
+PuntoPiano StrumentiMouse::NellaMappa(const PuntoPiano& daCentro) const {
+  return {daCentro.est + disegno_.vista.Xc, daCentro.nord + disegno_.vista.Yc};
 }
 
-std::size_t Grafica::KR_IlPiuVicinoAlMouse(double x, double y) {
-  AggiornaIndice();
-  return indice_.PiuVicino(Archivio().Punti(), x, y, LimiteVicino);
-}
-
-const PuntoGrafica& Grafica::PuntoVicino(double x, double y) {
-  static const PuntoGrafica nessuno; // an empty store: the first slot holds zeros
-  const std::size_t indice = KR_IlPiuVicinoAlMouse(x, y);
-  return indice < Archivio().Punti().size() ? Archivio().Punti()[indice] : nessuno;
-}
-
-void Grafica::PuntoMedio(double x1, double y1, double x2, double y2) {
-  MedioX = (x1 + x2) / 2;
-  MedioY = (y1 + y2) / 2;
+// An empty store has a point without a name at the origin.
+PuntoPreso StrumentiMouse::Vicino(const PuntoPiano& posto) {
+  const auto& punti = disegno_.archivio.Punti();
+  if (punti.empty()) return {};
+  const PuntoGrafica& vicino = punti[PiuVicino(posto)];
+  return {vicino.Nome, vicino.Posto()};
 }
 
 // Pairs in the order of their first point, then of the second. A heap of points at one place has more pairs than any
 // box can show: the text ends where nobody reads on.
-void Grafica::KR_PuntiCoincidenti() {
-  AggiornaIndice();
-  const auto& punti = Archivio().Punti();
+std::string StrumentiMouse::Coincidenti() {
+  indice_.Segui(disegno_.archivio);
+  const auto& punti = disegno_.archivio.Punti();
   std::string testo;
   for (std::size_t i = 0; i < punti.size() && testo.size() < TestoMassimo; ++i)
-    for (const std::size_t j : indice_.Vicini(punti, punti[i].X, punti[i].Y, StessoPosto)) {
+    for (const std::size_t j : indice_.Vicini(punti, punti[i].Posto(), StessoPosto)) {
       if (j <= i) continue;
       testo += punti[i].Nome + " " + punti[j].Nome + " ";
       if (testo.size() >= TestoMassimo) break;
     }
-  if (!testo.empty()) ambiente_.dialoghi.Messaggio(testo);
+  return testo;
 }
 
-void Grafica::MouseMove(double x, double y, TastoMouse tasto) {
-  const VistaGrafica& vista = disegno_.vista;
-  const auto& punti = Archivio().Punti();
-  const PuntoGrafica& vicino = PuntoVicino(x + vista.Xc, y + vista.Yc);
-  UltimoX = vicino.X;
-  UltimoY = vicino.Y;
-  UltimoNome = vicino.Nome;
+// Of points that stand on each other all names are read, and the last one is the point under the mouse.
+bool StrumentiMouse::Muovi(const PuntoPiano& daCentro, TastoMouse tasto) {
+  ultimo_ = Vicino(NellaMappa(daCentro));
+  const PuntoPiano posto = ultimo_.posto;
+  const auto& punti = disegno_.archivio.Punti();
   std::string nomi;
-  for (const std::size_t indice : indice_.Vicini(punti, vicino.X, vicino.Y, StessoPosto)) {
+  for (const std::size_t indice : indice_.Vicini(punti, posto, StessoPosto)) {
     nomi += punti[indice].Nome + " ";
-    UltimoX = punti[indice].X;
-    UltimoY = punti[indice].Y;
-    UltimoNome = punti[indice].Nome;
+    ultimo_ = {punti[indice].Nome, punti[indice].Posto()};
   }
-  Label1 = {std::string(Taglia(nomi)), vicino.X, vicino.Y, true};
-  CursoreSposta = tasto == TastoMouse::Centrale;
-  if (!CursoreSposta) return;
-  disegno_.vista.Xc = PanXc - (x - PanMouseX);
-  disegno_.vista.Yc = PanYc - (y - PanMouseY);
-  KR_RidisegnaGrafica();
+  etichetta_ = {std::string(Taglia(nomi)), posto, true};
+  sposta_ = tasto == TastoMouse::Centrale;
+  if (sposta_)
+    disegno_.vista.MettiCentro({presa_.centro.est - (daCentro.est - presa_.mouse.est),
+                                presa_.centro.nord - (daCentro.nord - presa_.mouse.nord)});
+  return sposta_;
 }
 
-void Grafica::MouseDown(double x, double y, TastoMouse tasto) {
-  switch (tasto) {
-  case TastoMouse::Destro:
-    if (Picture1 != nullptr) Picture1->MostraMenu();
-    break;
-  case TastoMouse::Centrale:
-    PanMouseX = x;
-    PanMouseY = y;
-    PanXc = disegno_.vista.Xc;
-    PanYc = disegno_.vista.Yc;
-    break;
-  case TastoMouse::Sinistro:
-    Prova("MouseDown", [&] { Clicca(x, y); });
-    break;
-  case TastoMouse::Nessuno:
-    break;
-  }
+void StrumentiMouse::Afferra(const PuntoPiano& daCentro) {
+  presa_ = {daCentro, disegno_.vista.Centro()};
 }
 
-void Grafica::PuntatoreEntra(std::int16_t host) {
-  ambiente_.sessione.HostGrafica = host;
-  disegno_.gancio.Installa([this](bool avanti) { avanti ? KR_ZoomPiu() : KR_ZoomMeno(); });
-}
-
-void Grafica::PuntatoreEsce(std::int16_t host) {
-  ambiente_.sessione.HostGrafica = host;
-  disegno_.gancio.Togli();
-}
-
-void Grafica::Clicca(double x, double y) {
-  const std::string strumento = Maiuscolo(Strumento);
-  const bool rosso = strumento == "CONTORNOROSSO";
-  const bool medio = strumento == "PUNTOMEDIO" || strumento == "PUNTOBILATERA";
-  if (!rosso && !medio && strumento != "CONTORNONERO" && strumento != "NUOVOPUNTO")
-    return CentraMouse(static_cast<float>(x), static_cast<float>(y));
-  const PuntoGrafica& vicino = PuntoVicino(x + disegno_.vista.Xc, y + disegno_.vista.Yc);
-  UltimoX = vicino.X;
-  UltimoY = vicino.Y;
-  UltimoNome = vicino.Nome;
-  if (medio) return PrendiMedio();
-  if (strumento == "NUOVOPUNTO") return AggiungiPuntoNuovo(UltimoX, UltimoY);
+EsitoClic StrumentiMouse::Clicca(const PuntoPiano& daCentro, std::string_view strumento) {
+  const std::string nome = Maiuscolo(strumento);
+  const bool rosso = nome == "CONTORNOROSSO";
+  const bool nuovo = nome == "NUOVOPUNTO";
+  const bool medio = nome == "PUNTOMEDIO" || nome == "PUNTOBILATERA";
+  if (!rosso && !nuovo && !medio && nome != "CONTORNONERO") return {};
+  ultimo_ = Vicino(NellaMappa(daCentro));
+  if (nuovo) return {ultimo_.posto, {}};
+  if (medio) return {PrendiMedio(), {}};
   PrendiContorno(rosso ? colore::RossoChiaro : colore::Nero);
-}
-
-// The tool takes one name: the next point has none until the form gives one.
-void Grafica::AggiungiPuntoNuovo(double x, double y) {
-  PuntoGrafica punto;
-  punto.Nome = std::exchange(NomeNuovoPunto, {});
-  punto.X = x;
-  punto.Y = y;
-  punto.Testo = TestoNuovo;
-  punto.Font = FontPredefinito;
-  punto.Dimensione = DimensioneNuovo;
-  KR_AggiungiPuntoGraf(std::move(punto));
-  KR_RidisegnaGrafica();
+  return {{}, ultimo_.posto};
 }
 
 // A chain: each pick is joined to the one before and becomes the next one's beginning.
-void Grafica::PrendiContorno(std::int16_t colore) {
-  if (Passo == 1) KR_AggiungiLineaGraf2Punti(NomePrimoPunto, UltimoNome, colore, 1, stile::Continuo);
-  NomePrimoPunto = UltimoNome;
-  Passo = 1;
-  KR_RidisegnaGrafica();
-  ScriviContorno();
+void StrumentiMouse::PrendiContorno(std::int16_t colore) {
+  if (prima_) disegno_.archivio.AggiungiTra(prima_->nome, ultimo_.nome, {.Colore = colore});
+  prima_ = ultimo_;
 }
 
-void Grafica::ScriviContorno() {
-  const std::string file = ambiente_.sessione.CartellaProgramma + "\\TEMP\\CONTORNO.TXT";
-  std::string testo = ambiente_.disco.Esiste(file) ? ambiente_.disco.Leggi(file) : std::string();
-  testo += "al punto  X=" + CoordinataContorno(UltimoX, "###########.000");
-  testo += "  Y=" + CoordinataContorno(UltimoY, "##########.000");
+std::optional<PuntoPiano> StrumentiMouse::PrendiMedio() {
+  const std::optional<PuntoPreso> prima = std::exchange(prima_, prima_ ? std::nullopt : std::optional(ultimo_));
+  if (!prima) return {};
+  return PuntoMedio(prima->posto, ultimo_.posto);
+}
+
+void ScriviContorno(Ambiente& ambiente, const PuntoPiano& vertice) {
+  const std::string file = ambiente.sessione.CartellaProgramma + "\\TEMP\\CONTORNO.TXT";
+  std::string testo = ambiente.disco.Esiste(file) ? ambiente.disco.Leggi(file) : std::string();
+  testo += "al punto  X=" + CoordinataContorno(vertice.est, "###########.000");
+  testo += "  Y=" + CoordinataContorno(vertice.nord, "##########.000");
   testo += "  Z=   0" + std::string(FineRiga);
-  ambiente_.disco.Scrivi(file, testo);
-}
-
-void Grafica::PrendiMedio() {
-  if (Passo == 0) {
-    PrimoX = UltimoX;
-    PrimoY = UltimoY;
-    Passo = 1;
-    return;
-  }
-  SecondoX = UltimoX;
-  SecondoY = UltimoY;
-  PuntoMedio(PrimoX, PrimoY, SecondoX, SecondoY);
-  AggiungiPuntoNuovo(MedioX, MedioY);
-  Passo = 0;
+  ambiente.disco.Scrivi(file, testo);
 }
 
 } // namespace lirmeto

@@ -1,7 +1,12 @@
 #pragma once
 // What is seen of the drawing store.
 
+#include <base/macchina.h>
+#include <base/piano.h>
+
 namespace lirmeto {
+
+class ArchivioGrafica;
 
 // Metres, but for `Rapporto` and the flags.
 struct VistaGrafica {
@@ -20,6 +25,20 @@ struct VistaGrafica {
   bool Check2 = false; // NOMISINO: the names of points are not painted
   bool Check3 = false; // TOPONIMISINO: toponyms are left out of loading, extent and painting
   bool Check4 = false; // PFSINO: fiducial points are left out of loading
+
+  [[nodiscard]] PuntoPiano Centro() const { return {Xc, Yc}; }
+  void MettiCentro(const PuntoPiano& centro);
+  // Fits the view to the store. The extent starts from the first point, whatever its class; an empty store counts as
+  // one point at the origin. Lines take no part.
+  void Inquadra(const ArchivioGrafica& archivio);
+  // Moves the centre by such a share of the height.
+  void Sposta(const PuntoPiano& quota);
+  // A view that has no height gets one.
+  void MettiAltezza();
 };
+
+// The display flags as the user left them, and how he leaves them.
+void LeggiFlag(const Impostazioni& impostazioni, VistaGrafica& vista);
+void TieniFlag(const VistaGrafica& vista, Impostazioni& impostazioni);
 
 } // namespace lirmeto

@@ -99,7 +99,7 @@ TEST_F(Caricatori, ToponimiEFiducialiSiLascianoFuori) {
   const std::string estratto = "0|\n8|1%|0|0|\n8|PF01/1/A|0|0|\n8|2T|0|0|0|VIA|\n \n7|2|1%|1%|NC|\n";
   Carica("A.EMP", estratto);
   EXPECT_EQ(Nomi(), "[1%][PF01/1/A][2T]");
-  EXPECT_EQ(grafica.List2[0].size(), 5U) << "blank rows go";
+  EXPECT_EQ(grafica.Liste().List2[0].size(), 5U) << "blank rows go";
   grafica.Vista().Check3 = true;
   Carica("A.EMP", estratto);
   EXPECT_EQ(Nomi(), "[1%][PF01/1/A]");
@@ -117,12 +117,12 @@ TEST_F(Caricatori, LaPropostaStaSopraLEstratto) {
     grafica.Vista().Check1 = false;
     Carica(nome, std::string(Proposta));
     EXPECT_EQ(Linee(), "1,0>2,0:2/1/1") << nome;
-    EXPECT_EQ(grafica.LibrettoOriginale.size(), 4U) << nome;
+    EXPECT_EQ(grafica.Liste().LibrettoOriginale.size(), 4U) << nome;
     grafica.Vista().Check1 = true;
     grafica.GeneraGrafica();
     EXPECT_EQ(Linee(), "1,0>2,0:9/1/1 1,0>3,0:12/1/0") << "the first point of a name wins";
     EXPECT_EQ(Nomi(), "[1%][2%][1%][3%]");
-    EXPECT_EQ(grafica.LibrettoOriginale.size(), 8U);
+    EXPECT_EQ(grafica.Liste().LibrettoOriginale.size(), 8U);
   }
   Carica("ELAB.SUR", "8|1%|0|1|\n8|2%|0|2|\n7|2|1%|2%|RP|\n");
   EXPECT_EQ(Linee(), "1,0>2,0:9/1/2") << "without sections the file is one";
@@ -136,11 +136,12 @@ TEST_F(Caricatori, LAttoInPdf) {
          "2|RC|<nr>6|ESTRATTO DI MAPPA AGGIORNATO|<nr>8|5|0|5|<nr>[/TAG2000][TAG3000]|X|Y[/TAG][TAG4000]|9|ADA|"
          "<nr>9|9|EVA[/TAG][TAG5000]|Z[/TAG]");
   EXPECT_EQ(Linee(), "1,0>2,0:12/1/0");
-  EXPECT_EQ(Copia(grafica.List1), (std::vector<std::string>{"0|A|", "9|B|"}));
-  EXPECT_EQ(grafica.List2[0].size(), 4U);
-  EXPECT_EQ(Copia(grafica.List2[1]), (std::vector<std::string>{"6|ESTRATTO DI MAPPA AGGIORNATO|", "8|5|0|5|", ""}));
-  EXPECT_EQ(Copia(grafica.List3), (std::vector<std::string>{"X", "Y", "Z"}));
-  EXPECT_EQ(Copia(grafica.List4), (std::vector<std::string>{"ADA|", "EVA"}));
+  EXPECT_EQ(Copia(grafica.Liste().List1), (std::vector<std::string>{"0|A|", "9|B|"}));
+  EXPECT_EQ(grafica.Liste().List2[0].size(), 4U);
+  EXPECT_EQ(Copia(grafica.Liste().List2[1]),
+            (std::vector<std::string>{"6|ESTRATTO DI MAPPA AGGIORNATO|", "8|5|0|5|", ""}));
+  EXPECT_EQ(Copia(grafica.Liste().List3), (std::vector<std::string>{"X", "Y", "Z"}));
+  EXPECT_EQ(Copia(grafica.Liste().List4), (std::vector<std::string>{"ADA|", "EVA"}));
 }
 
 TEST_F(Caricatori, ValoriSeparatiDaVirgole) {
@@ -153,7 +154,8 @@ TEST_F(Caricatori, ValoriSeparatiDaVirgole) {
   EXPECT_EQ(grafica.Archivio().Linee()[0], (LineaGrafica{0, 1, 0, 2, 3, 0, 2, 12, 1}));
   EXPECT_EQ(grafica.Archivio().Linee()[1],
             (LineaGrafica{0, 0, 0, 1e308, -std::numeric_limits<double>::max(), 0, 0, 0, 0}));
-  EXPECT_TRUE(grafica.List2[0].size() == 5 && grafica.List1.size() == 3 && grafica.List3.size() == 2);
+  EXPECT_TRUE(grafica.Liste().List2[0].size() == 5 && grafica.Liste().List1.size() == 3 &&
+              grafica.Liste().List3.size() == 2);
 }
 
 struct CasoGuasto {

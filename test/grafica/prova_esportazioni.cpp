@@ -2,6 +2,7 @@
 
 #include <base/errore.h>
 #include <base/testo.h>
+#include <grafica/esportazioni.h>
 #include <grafica/grafica.h>
 
 #include <gtest/gtest.h>
@@ -107,7 +108,7 @@ TEST_F(Esportazioni, IlFileDiScambio) {
   const std::string attesa = "\"P\",\"1%\",0.5,-20,0.5,\"PUNTI\",-1.5,\"VIA \"\"A\"\", 1\"~"
                              "\"L\",1,2,0,3.5,-4,7,0,3,\"NP\"~\"L\",1,2,0,3.5,-4,7,7,1,\"NC\"~";
   EXPECT_EQ(File(grafica.KR_CopiaInFile()), attesa);
-  EXPECT_FALSE(grafica.FineProgramma);
+  EXPECT_FALSE(grafica.FineProgramma());
   EXPECT_EQ(File(programma + "\\temp\\CopiaInFile.TXT"), attesa);
   banco.disco.Metti(programma + "\\Forvale.exe", "");
   banco.disco.Metti(programma + "\\temp\\IncollaDaFileSiNo.TXT", "");
@@ -115,16 +116,16 @@ TEST_F(Esportazioni, IlFileDiScambio) {
   banco.disco.CreaCartella(banco.sessione.CartellaDocumenti + "\\Forvale\\temp");
   EXPECT_EQ(File(grafica.KR_CopiaInFile()), attesa);
   EXPECT_EQ(File(banco.sessione.CartellaDocumenti + "\\Forvale\\temp\\CopiaInFile.TXT"), attesa);
-  EXPECT_TRUE(grafica.FineProgramma);
+  EXPECT_TRUE(grafica.FineProgramma());
 }
 
 TEST_F(Esportazioni, UnPuntoInCodaAlFile) {
   grafica.Percorso = "C:\\A.EMP";
   grafica.NomeNuovoPunto = "9,1%";
-  grafica.AggiungiPuntoAFile(1.23456, -2);
+  grafica.AggiungiPuntoAFile({1.23456, -2});
   EXPECT_EQ(File("C:\\A.EMP"), "8|9.1%|1.235|-2.000|~");
   banco.disco.Metti("C:\\A.EMP", "0|");
-  grafica.AggiungiPuntoAFile(0, 0.5);
+  grafica.AggiungiPuntoAFile({0, 0.5});
   EXPECT_EQ(File("C:\\A.EMP"), "0|~8|9.1%|0.000|0.500|~") << "a last row without its end stays a row";
 }
 

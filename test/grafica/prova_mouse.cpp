@@ -1,7 +1,6 @@
 #include "con_grafica.h"
 
 #include <base/testo.h>
-#include <core/servizi.h>
 #include <grafica/comandi_grafica.h>
 
 #include <algorithm>
@@ -12,11 +11,11 @@ namespace lirmeto::prova {
 namespace {
 
 // What the index answers is what a walk over all points says.
-std::size_t PiuVicinoCamminando(std::span<const PuntoGrafica> punti, double x, double y) {
+std::size_t PiuVicinoCamminando(std::span<const PuntoGrafica> punti, const PuntoPiano& da) {
   double minima = 100'000;
   std::size_t indice = 0;
   for (std::size_t i = 0; i < punti.size(); ++i)
-    if (const double distanza = DistanzaPiana(punti[i].X, punti[i].Y, x, y); distanza < minima) {
+    if (const double distanza = DistanzaPiana(punti[i].Posto(), da); distanza < minima) {
       minima = distanza;
       indice = i;
     }
@@ -27,8 +26,7 @@ std::string CoincidentiCamminando(std::span<const PuntoGrafica> punti) {
   std::string testo;
   for (std::size_t i = 0; i < punti.size(); ++i)
     for (std::size_t j = i + 1; j < punti.size(); ++j)
-      if (DistanzaPiana(punti[i].X, punti[i].Y, punti[j].X, punti[j].Y) < 0.01)
-        testo += punti[i].Nome + " " + punti[j].Nome + " ";
+      if (DistanzaPiana(punti[i].Posto(), punti[j].Posto()) < 0.01) testo += punti[i].Nome + " " + punti[j].Nome + " ";
   return testo;
 }
 
@@ -51,7 +49,7 @@ TEST_P(Vicinanza, ComeCamminandoAncheMentreCrescono) {
     for (int k = 0; k < 4; ++k) {
       const double x = k % 2 == 0 ? coordinata() : da(caso) * 3;
       const double y = k % 2 == 0 ? coordinata() : da(caso) * 3;
-      ASSERT_EQ(grafica.KR_IlPiuVicinoAlMouse(x, y), PiuVicinoCamminando(disegno.archivio.Punti(), x, y));
+      ASSERT_EQ(grafica.KR_IlPiuVicinoAlMouse({x, y}), PiuVicinoCamminando(disegno.archivio.Punti(), {x, y}));
     }
   }
   grafica.KR_PuntiCoincidenti();
@@ -63,7 +61,9 @@ INSTANTIATE_TEST_SUITE_P(Mappe, Vicinanza,
                                          Sparsi{"sovrapposti", 0.03, 0.004}, Sparsi{"lontani", 90'000, 7000}),
                          [](const auto& caso) { return caso.param.nome; });
 
-using Mouse = ConGrafica;
+struct Mouse : ConGrafica {
+  const StrumentiMouse& mouse = grafica.Mouse();
+};
 
 TEST_F(Mouse, ISovrappostiSiLeggonoTutti) {
   grafica.KR_AggiungiPuntoGraf(Punto("1%", 10, 20));
@@ -72,32 +72,32 @@ TEST_F(Mouse, ISovrappostiSiLeggonoTutti) {
   grafica.KR_AggiungiPuntoGraf(Punto("2%", 10.02, 20));
   grafica.Vista().Xc = 10;
   grafica.Vista().Yc = 20;
-  grafica.MouseMove(0.001, 0, TastoMouse::Nessuno);
-  EXPECT_EQ(grafica.Label1.testo, "1% PF01");
-  EXPECT_TRUE(grafica.Label1.visibile && grafica.Label1.x == 10 && grafica.Label1.y == 20);
-  EXPECT_TRUE(grafica.UltimoNome == "PF01" && grafica.UltimoX == 10.004 && grafica.UltimoY == 20.003);
-  grafica.MouseMove(-200'000, 0, TastoMouse::Nessuno); // all too far: the first one
-  EXPECT_EQ(grafica.Label1.testo, "1% PF01");
+  grafica.MouseMove({0.001, 0}, TastoMouse::Nessuno);
+  EXPECT_EQ(mouse.Etichetta().testo, "1% PF01");
+  EXPECT_TRUE(mouse.Etichetta().visibile && mouse.Etichetta().posto == (PuntoPiano{10, 20}));
+  EXPECT_TRUE(mouse.Ultimo().nome == "PF01" && mouse.Ultimo().posto == (PuntoPiano{10.004, 20.003}));
+  grafica.MouseMove({-200'000, 0}, TastoMouse::Nessuno); // all too far: the first one
+  EXPECT_EQ(mouse.Etichetta().testo, "1% PF01");
   grafica.KR_Clear();
-  grafica.MouseMove(5, 5, TastoMouse::Nessuno);
-  EXPECT_TRUE(grafica.Label1.testo.empty() && grafica.UltimoNome.empty() && grafica.UltimoX == 0);
+  grafica.MouseMove({5, 5}, TastoMouse::Nessuno);
+  EXPECT_TRUE(mouse.Etichetta().testo.empty() && mouse.Ultimo().nome.empty() && mouse.Ultimo().posto.est == 0);
 }
 
 TEST_F(Mouse, IlCentralePortaConSeIlPuntoPreso) {
   grafica.Vista().Xc = 100;
   grafica.Vista().Yc = 200;
-  grafica.MouseDown(7, -3, TastoMouse::Centrale);
+  grafica.MouseDown({7, -3}, TastoMouse::Centrale);
   for (const double x : {12.0, 9.0}) {
-    grafica.MouseMove(x, 4, TastoMouse::Centrale);
-    EXPECT_TRUE(grafica.CursoreSposta);
+    grafica.MouseMove({x, 4}, TastoMouse::Centrale);
+    EXPECT_TRUE(mouse.Sposta());
     EXPECT_EQ(grafica.Vista().Xc + x, 107); // the grabbed place under the mouse
     EXPECT_EQ(grafica.Vista().Yc + 4, 197);
   }
   EXPECT_EQ(superficie.disegni, 2);
-  grafica.MouseMove(0, 0, TastoMouse::Nessuno);
-  EXPECT_FALSE(grafica.CursoreSposta);
+  grafica.MouseMove({0, 0}, TastoMouse::Nessuno);
+  EXPECT_FALSE(mouse.Sposta());
   EXPECT_EQ(grafica.Vista().Xc, 98);
-  grafica.MouseDown(1, 1, TastoMouse::Destro);
+  grafica.MouseDown({1, 1}, TastoMouse::Destro);
   EXPECT_EQ(superficie.menu, 1);
 }
 
@@ -112,7 +112,7 @@ struct Strumenti : ConGrafica {
     for (const char* cartella : {"", "\\TEMP"})
       banco.disco.cartelle.push_back(banco.sessione.CartellaProgramma + cartella);
   }
-  void Clicca(double x, double y) { grafica.MouseDown(x, y, TastoMouse::Sinistro); }
+  void Clicca(double x, double y) { grafica.MouseDown({x, y}, TastoMouse::Sinistro); }
   [[nodiscard]] std::string Contorno() const {
     return banco.disco.Contenuto(banco.sessione.CartellaProgramma + "\\TEMP\\CONTORNO.TXT");
   }
@@ -121,7 +121,7 @@ struct Strumenti : ConGrafica {
 TEST_F(Strumenti, ContornoACatena) {
   grafica.Strumento = "ContornoRosso";
   Clicca(10, 20);
-  EXPECT_TRUE(grafica.Passo == 1 && grafica.NomePrimoPunto == "1%" && disegno.archivio.Linee().empty());
+  EXPECT_TRUE(grafica.Mouse().PrimaPresa()->nome == "1%" && disegno.archivio.Linee().empty());
   Clicca(30, 0);
   grafica.Strumento = "CONTORNONERO";
   Clicca(31, 0); // the kept one again: a line of no length
@@ -155,12 +155,12 @@ TEST_F(Strumenti, PuntoMedioEBilatera) {
     grafica.Strumento = strumento;
     grafica.NomeNuovoPunto = "M*";
     Clicca(10, 20);
-    EXPECT_TRUE(grafica.Passo == 1 && disegno.archivio.Punti().size() == prima);
+    EXPECT_TRUE(grafica.Mouse().PrimaPresa() && disegno.archivio.Punti().size() == prima);
     Clicca(31, 0);
     ASSERT_EQ(disegno.archivio.Punti().size(), prima + 1);
     EXPECT_EQ(disegno.archivio.Punti().back().Nome, "M*");
     EXPECT_TRUE(disegno.archivio.Punti().back().X == 20.25 && disegno.archivio.Punti().back().Y == 9.875);
-    EXPECT_TRUE(grafica.Passo == 0 && grafica.NomeNuovoPunto.empty());
+    EXPECT_TRUE(!grafica.Mouse().PrimaPresa() && grafica.NomeNuovoPunto.empty());
   }
 }
 
@@ -170,22 +170,15 @@ TEST_F(Strumenti, SenzaStrumentoSiRidisegnaSoltanto) {
   EXPECT_TRUE(superficie.disegni == 1 && grafica.Vista().Xc == 0 && disegno.archivio.Punti().size() == 2);
 }
 
-TEST(Gancio, UnoAllaVoltaEGiuAllaFine) {
+TEST(Gancio, UnoAllaVolta) {
   GancioGrafica gancio;
   std::string passi;
   gancio.Installa([&](bool avanti) { passi += avanti ? "+" : "-"; });
   gancio.Installa([&](bool) { passi += "altro"; });
-  for (const std::int32_t passo : {120, -120, 1, 0}) gancio.Messaggio(522, passo * 65536);
-  gancio.Messaggio(522, 20'000); // rounds to no step at all: back
-  EXPECT_EQ(passi, "+-+--");
-  gancio.Messaggio(519, 0);
-  EXPECT_EQ(gancio.Pan(), -1);
-  gancio.Messaggio(512, 0);
-  EXPECT_EQ(gancio.Pan(), 0);
-  gancio.Messaggio(130, 0);
-  EXPECT_FALSE(gancio.Installato());
-  gancio.Messaggio(522, 120 * 65536);
-  EXPECT_EQ(passi.size(), 5U);
+  for (const bool avanti : {true, false}) gancio.Rotella(avanti);
+  gancio.Togli();
+  gancio.Rotella(true);
+  EXPECT_EQ(passi, "+-");
 }
 
 // Which entry asks the surface, writes a file, or speaks.

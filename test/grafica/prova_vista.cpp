@@ -63,7 +63,7 @@ TEST_F(Vista, CoordinateSmisurateNonRompono) {
   grafica.KR_ZoomTutto();
   EXPECT_TRUE(std::isfinite(grafica.Vista().Xc) && std::isfinite(grafica.Vista().Zoom));
   EXPECT_EQ(grafica.Dipingi(1).cerchi.size(), 2U);
-  EXPECT_EQ(grafica.KR_IlPiuVicinoAlMouse(1e308, -1e308), 0U);
+  EXPECT_EQ(grafica.KR_IlPiuVicinoAlMouse({1e308, -1e308}), 0U);
 }
 
 // Which operations come out, in order, for each of the flags: "c" and "t" with their point.
@@ -95,8 +95,8 @@ TEST_F(Vista, LineeESegniDalCentroDellaVista) {
   grafica.KR_AggiungiPuntoGraf(Punto("1%", 10, 20, 9));
   grafica.KR_AggiungiPuntoGraf(Punto("2%", 30, 40));
   grafica.KR_AggiungiPuntoGraf(Punto("1%", 99, 99));
-  grafica.KR_AggiungiLineaGraf2Punti("1%", "2%", 12, 2, 1);
-  grafica.KR_AggiungiLineaGraf2Punti("1%", "manca", 12, 2, 1);
+  grafica.KR_AggiungiLineaGraf2Punti("1%", "2%", {12, 2, 1});
+  grafica.KR_AggiungiLineaGraf2Punti("1%", "manca", {12, 2, 1});
   grafica.KR_ZoomTutto();
   const Operazioni lista = grafica.Dipingi(1.5);
   const VistaGrafica& v = grafica.Vista();
@@ -117,13 +117,12 @@ TEST_F(Vista, AngoliInDecimiInteri) {
 
 TEST(Flag, SiLeggonoAllInizioESiTengonoAllaFine) {
   Banco banco;
-  DisegnoCondiviso disegno;
   banco.impostazioni.valori = {{"CONFIGURA_GRAFICA1/NOMISINO", "1"}, {"CONFIGURA_GRAFICA1/PFSINO", "x"}};
   {
-    Grafica grafica(banco.ambiente, disegno);
+    DisegnoDellUtente disegno(banco.ambiente);
     EXPECT_TRUE(disegno.vista.Check2 && !disegno.vista.Check1 && !disegno.vista.Check3 && !disegno.vista.Check4);
-    grafica.Vista().Check1 = grafica.Vista().Check4 = true;
-    grafica.Vista().Check2 = false;
+    disegno.vista.Check1 = disegno.vista.Check4 = true;
+    disegno.vista.Check2 = false;
   }
   EXPECT_EQ(banco.impostazioni.valori, (std::map<std::string, std::string>{{"CONFIGURA_GRAFICA1/NOMISINO", "0"},
                                                                            {"CONFIGURA_GRAFICA1/PFSINO", "1"},

@@ -165,7 +165,7 @@ void GraficaPannello::CambiaFlag(bool VistaGrafica::*flag, bool valore) {
 }
 
 void GraficaPannello::FiniscePerScambio() {
-  if (grafica_.FineProgramma) emit FineRichiesta();
+  if (grafica_.FineProgramma()) emit FineRichiesta();
 }
 
 void GraficaPannello::SalvaImmagine() {

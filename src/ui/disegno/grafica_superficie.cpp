@@ -163,7 +163,8 @@ void GraficaSuperficie::DipingiPuntoVicino(QPainter& pittore) const {
   constexpr double raggio = 6;
   pittore.setPen(QPen(QColor(0x2F, 0x7F, 0xC1), 1.6));
   pittore.setBrush(Qt::NoBrush);
-  pittore.drawEllipse(Posto(grafica_.Label1.x, grafica_.Label1.y), raggio, raggio);
+  const PuntoPiano& vicino = grafica_.Mouse().Etichetta().posto;
+  pittore.drawEllipse(Posto(vicino.est, vicino.nord), raggio, raggio);
 }
 
 // A bar of a round length, at most a fifth of the width.
@@ -197,21 +198,19 @@ TastoMouse GraficaSuperficie::Tasto(Qt::MouseButtons tasti) const {
 }
 
 void GraficaSuperficie::mouseMoveEvent(QMouseEvent* evento) {
-  grafica_.Gancio().Messaggio(messaggio::Movimento, 0);
   const QPointF metri = Metri(evento->position());
-  grafica_.MouseMove(metri.x(), metri.y(), Tasto(evento->buttons()));
-  setCursor(grafica_.CursoreSposta ? Qt::SizeAllCursor : Qt::CrossCursor);
+  grafica_.MouseMove({metri.x(), metri.y()}, Tasto(evento->buttons()));
+  setCursor(grafica_.Mouse().Sposta() ? Qt::SizeAllCursor : Qt::CrossCursor);
   MostraEtichetta();
   emit Sopra(metri.x() + grafica_.Vista().Xc, metri.y() + grafica_.Vista().Yc);
 }
 
 void GraficaSuperficie::mousePressEvent(QMouseEvent* evento) {
   const QPointF metri = Metri(evento->position());
-  if (evento->button() == Qt::MiddleButton) grafica_.Gancio().Messaggio(messaggio::CentraleGiu, 0);
   const TastoMouse tasto = Tasto(evento->button());
-  grafica_.MouseDown(metri.x(), metri.y(), tasto);
+  grafica_.MouseDown({metri.x(), metri.y()}, tasto);
   if (evento->button() == Qt::LeftButton && tasto == TastoMouse::Centrale)
-    grafica_.MouseDown(metri.x(), metri.y(), TastoMouse::Sinistro);
+    grafica_.MouseDown({metri.x(), metri.y()}, TastoMouse::Sinistro);
 }
 
 void GraficaSuperficie::mouseReleaseEvent(QMouseEvent* evento) {
@@ -222,7 +221,7 @@ void GraficaSuperficie::mouseReleaseEvent(QMouseEvent* evento) {
 void GraficaSuperficie::wheelEvent(QWheelEvent* evento) {
   rotella_ += evento->angleDelta().y();
   for (; std::abs(rotella_) >= Tacca; rotella_ -= rotella_ > 0 ? Tacca : -Tacca)
-    grafica_.Gancio().Messaggio(messaggio::Rotella, (rotella_ > 0 ? Tacca : -Tacca) * 65536);
+    grafica_.Gancio().Rotella(rotella_ > 0);
   MostraEtichetta();
   evento->accept();
 }
@@ -244,8 +243,8 @@ void GraficaSuperficie::leaveEvent(QEvent* evento) {
 
 // The readout stands beside its point and inside the surface; that of a point out of sight is not shown.
 void GraficaSuperficie::MostraEtichetta() {
-  const EtichettaMouse& etichetta = grafica_.Label1;
-  const QPointF posto = Posto(etichetta.x, etichetta.y);
+  const EtichettaMouse& etichetta = grafica_.Mouse().Etichetta();
+  const QPointF posto = Posto(etichetta.posto.est, etichetta.posto.nord);
   const QString testo = PerDisegno(etichetta.testo);
   update();
   label1_->setVisible(etichetta.visibile && !testo.isEmpty() && QRectF(rect()).contains(posto));

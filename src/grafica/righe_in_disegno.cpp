@@ -1,4 +1,4 @@
-#include <grafica/grafica.h>
+#include <grafica/righe_in_disegno.h>
 
 #include <base/errore.h>
 #include <base/numeri.h>
@@ -101,8 +101,8 @@ struct Anello {
 // A ring as it is walked from its last field to its first.
 class Cammino {
 public:
-  Cammino(Grafica& grafica, std::string& punto, std::int16_t spessore, bool sottoProposta)
-      : grafica_(grafica), punto_(punto), spessore_(spessore), sottoProposta_(sottoProposta) {}
+  Cammino(ArchivioGrafica& archivio, std::string& punto, std::int16_t spessore, bool sottoProposta)
+      : archivio_(archivio), punto_(punto), spessore_(spessore), sottoProposta_(sottoProposta) {}
 
   void Campo(std::string_view campo) {
     if (Valore(campo) != 0)
@@ -124,12 +124,12 @@ private:
   // The colour of a stretch lags a vertex behind its style: meant so.
   void Vertice(std::string_view nome) {
     if (sottoProposta_) colore_ = colore::BluChiaro;
-    if (!prima_.empty()) grafica_.KR_AggiungiLineaGraf2Punti(nome, prima_, colore_, spessore_, stile_);
+    if (!prima_.empty()) archivio_.AggiungiTra(nome, prima_, {colore_, spessore_, stile_});
     prima_ = nome;
     colore_ = inAttesa_;
   }
 
-  Grafica& grafica_;
+  ArchivioGrafica& archivio_;
   std::string& punto_; // where an error happened
   std::int16_t spessore_;
   bool sottoProposta_; // the original extract is blue beneath the proposal
@@ -142,8 +142,8 @@ private:
 // Puts the rings of a list into the store, each as soon as it is whole.
 class Anelli {
 public:
-  Anelli(Grafica& grafica, std::string& punto, bool sottoProposta)
-      : grafica_(grafica), punto_(punto), sottoProposta_(sottoProposta) {}
+  Anelli(ArchivioGrafica& archivio, std::string& punto, bool sottoProposta)
+      : archivio_(archivio), punto_(punto), sottoProposta_(sottoProposta) {}
 
   void Riga(std::string_view riga) {
     const auto campi = CampiRiga7(riga);
@@ -165,12 +165,12 @@ private:
   void Disegna() {
     const std::string intero = anello_.campi + anello_.chiusura + "|";
     const auto campi = Dividi(anello_.campi, "|");
-    Cammino cammino(grafica_, punto_, Contiene(intero, "+") ? 2 : 1, sottoProposta_);
+    Cammino cammino(archivio_, punto_, Contiene(intero, "+") ? 2 : 1, sottoProposta_);
     for (auto campo = campi.rbegin(); campo != campi.rend(); ++campo) cammino.Campo(*campo);
-    grafica_.KR_AggiungiNomeParticella(intero, cammino.Colore());
+    DisegnaNomeParticella(intero, cammino.Colore(), archivio_);
   }
 
-  Grafica& grafica_;
+  ArchivioGrafica& archivio_;
   std::string& punto_;
   bool sottoProposta_;
   Anello anello_;
@@ -178,27 +178,25 @@ private:
 
 } // namespace
 
-void Grafica::AggiungiGrafica(std::size_t indice, int modo) {
-  if (indice >= List2.size()) throw Errore(errore::IndiceFuoriIntervallo);
+void DisegnaRighe(const ListaRighe& righe, bool sottoProposta, ArchivioGrafica& archivio, std::string& punto) {
   constexpr std::size_t poche = 2;
-  const ListaRighe& righe = List2[indice];
   if (righe.size() < poche) return;
-  ambiente_.sessione.PuntoErrore = "AggiungiGrafica";
+  punto = "AggiungiGrafica";
   const auto diGenere = [&](double genere) {
     return static_cast<std::size_t>(
         std::count_if(righe.begin(), righe.end(), [&](std::string_view riga) { return GenereRiga(riga) == genere; }));
   };
   // A point for each row 8, a label for each row 7 at most.
-  disegno_.archivio.Riserva(Archivio().Punti().size() + diGenere(8) + diGenere(7), 0);
+  archivio.Riserva(archivio.Punti().size() + diGenere(8) + diGenere(7), 0);
   for (const auto riga : righe)
-    if (GenereRiga(riga) == 8) KR_AggiungiPuntoGraf(PuntoDaRiga8(riga));
-  Anelli anelli(*this, ambiente_.sessione.PuntoErrore, indice == 0 && modo == 1);
+    if (GenereRiga(riga) == 8) archivio.Aggiungi(PuntoDaRiga8(riga));
+  Anelli anelli(archivio, punto, sottoProposta);
   for (const auto riga : righe)
     if (GenereRiga(riga) == 7) anelli.Riga(riga);
   anelli.Fine();
 }
 
-void Grafica::KR_AggiungiNomeParticella(std::string_view riga7, std::int16_t colore) {
+void DisegnaNomeParticella(std::string_view riga7, std::int16_t colore, ArchivioGrafica& archivio) {
   constexpr double dimensione = 12;
   const auto campi = Dividi(riga7, "|");
   if (campi.size() < 2 || Valore(campi[campi.size() - 2]) == 0) return;
@@ -208,8 +206,8 @@ void Grafica::KR_AggiungiNomeParticella(std::string_view riga7, std::int16_t col
   double y = 0;
   int quanti = 0;
   for (std::size_t i = 1; i + 4 <= ultimo; ++i)
-    if (const auto trovato = Archivio().PrimoDiNome(campi[i])) {
-      const PuntoGrafica& punto = Archivio().Punti()[*trovato];
+    if (const auto trovato = archivio.PrimoDiNome(campi[i])) {
+      const PuntoGrafica& punto = archivio.Punti()[*trovato];
       x += punto.X;
       y += punto.Y;
       ++quanti;
@@ -222,7 +220,7 @@ void Grafica::KR_AggiungiNomeParticella(std::string_view riga7, std::int16_t col
   etichetta.Colore = colore;
   etichetta.Font = Macchina;
   etichetta.Dimensione = dimensione;
-  KR_AggiungiPuntoGraf(std::move(etichetta));
+  archivio.Aggiungi(std::move(etichetta));
 }
 
 } // namespace lirmeto

@@ -1,0 +1,24 @@
+#pragma once
+// The drawing as files of the folders of the program, and a point as a row of a file of the user.
+
+#include <core/ambiente.h>
+#include <grafica/disegno_condiviso.h>
+
+#include <string>
+
+namespace lirmeto {
+
+// Each writes the whole file and gives back its path. An empty store has no DXF: error 9.
+std::string ScriviDXF(Ambiente& ambiente, const DisegnoCondiviso& disegno);
+// The page, which the shell then opens.
+std::string ScriviPagina(Ambiente& ambiente, const DisegnoCondiviso& disegno);
+std::string ScriviOrdiniStampa(Ambiente& ambiente, const DisegnoCondiviso& disegno);
+std::string ScriviScambio(Ambiente& ambiente, const DisegnoCondiviso& disegno);
+
+// The exchange file was all that the program was started for.
+[[nodiscard]] bool SoloPerScambio(const Ambiente& ambiente);
+
+// The row "8|name|east|north|" behind the rows of a file, the east first as it is in no other row 8.
+void AccodaPunto(Ambiente& ambiente, const std::string& percorso, const std::string& nome, const PuntoPiano& posto);
+
+} // namespace lirmeto
