@@ -49,8 +49,9 @@ public:
   explicit Squadri(Generazione& g) : g_(g) {}
 
   void Contorno(const ContornoDisegno& contorno) {
-    const RigaDivisa divisa = SplitRiga(contorno.Punti);
-    const std::span nomi(divisa.CampiRiga.data() + 1, static_cast<std::size_t>(divisa.UltimoCampo));
+    const auto elementi = Elementi(contorno.Punti);
+    // An empty name ends the line. Of any length: a line of the drawing is no row yet.
+    const std::span nomi(elementi.begin(), std::find(elementi.begin(), elementi.end(), std::string_view{}));
     if (contorno.Tipo == "LIVELLAZIONE RAGGIANTE") LivellazioneRaggiante(nomi);
     if (contorno.Tipo == "LIVELLAZIONE DAL MEZZO") LivellazioneDalMezzo(nomi);
     if (contorno.Tipo == "SQUADRO") Squadro(nomi, contorno.Commento);

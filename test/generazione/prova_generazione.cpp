@@ -259,6 +259,15 @@ TEST(Contorni, RigheSetteEVertici) {
   EXPECT_EQ(Corpo(d.Genera({"7," + Nomi(12) + ",POLIGONALE,"})), (Righe{"3|12|1|2|3|4|5|6|7|8|9|10|", "3|0|11|12|"}));
 }
 
+// More names than a row can be split into: lines of the drawing have any length.
+TEST(Contorni, LineeDiMilleNomi) {
+  Disegno d;
+  const auto righe = Corpo(d.Genera({"7," + Nomi(1000) + "RC|,CASA,", "7," + Nomi(1000) + ",POLIGONALE,"}));
+  EXPECT_EQ(CheIniziano(righe, "7|").size(), 100U);
+  EXPECT_EQ(CheIniziano(righe, "3|").size(), 100U);
+  EXPECT_EQ(CheIniziano(righe, "7|0|991|992|993|994|995|996|997|998|999|1000|RC|").size(), 1U);
+}
+
 TEST(Coordinate, FiducialiMarcheERigaNove) {
   Disegno d;
   std::string taf(251, ' ');
