@@ -7,6 +7,7 @@
 #include <intestazione/catasto1_form.h>
 #include <pregeo/form_configura_pregeo.h>
 #include <supporto/archivio_possessori.h>
+#include <supporto/assegna_descrizione.h>
 #include <supporto/cod_fis.h>
 #include <supporto/comuni8.h>
 
@@ -47,6 +48,7 @@ constexpr std::array ElencoForme = {
     Forma{forma::Comuni8, &Apri<KR_Comuni8>},
     Forma{forma::ArchivioPossessori, &Apri<ArchivioPossessori>},
     Forma{forma::ImportaFiduciali, &Apri<FormImportaFiduciali>},
+    Forma{forma::AssegnaDescrizione, &Apri<AssegnaDescrizione>},
     Forma{forma::SelezionaMisurate, &Apri<KR_SelezionaMisurate>},
 };
 

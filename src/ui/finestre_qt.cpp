@@ -8,6 +8,7 @@
 #include <ui/libretto/finestra_riordino.h>
 #include <ui/libretto/finestra_scartate.h>
 #include <ui/pregeo/finestra_configura_pregeo.h>
+#include <ui/supporto/finestra_assegna_descrizione.h>
 #include <ui/supporto/finestra_autore.h>
 #include <ui/supporto/finestra_codfis.h>
 #include <ui/supporto/finestra_comuni.h>
@@ -49,6 +50,7 @@ constexpr std::array Mostratori = {
     &MostraSe<KR_Comuni8, FinestraComuni>,
     &MostraSe<ArchivioPossessori, FinestraPossessori>,
     &MostraSe<autore, FinestraAutore>,
+    &MostraSe<AssegnaDescrizione, FinestraAssegnaDescrizione>,
     &MostraSe<FormImportaFiduciali, FinestraImportaFiduciali>,
     &MostraSe<KR_SelezionaMisurate, FinestraSelezionaMisurate>,
 };
