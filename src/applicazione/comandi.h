@@ -20,8 +20,11 @@ enum class Comando {
   KillPregeo,
   Chiudi,
   ModificaDiretta,
-  MostraRiordino, // the dialog
-  RiordinoRighe,  // without the dialog
+  RelazioneTecnica, // the editor at its block
+  Intestazione,     // the header form on the open libretto
+  StampaLibretto,   // the rows as a report
+  MostraRiordino,   // the dialog
+  RiordinoRighe,    // without the dialog
   IncollaDaAppunti,
   MostraDesktop,
   GondellaLibretti,

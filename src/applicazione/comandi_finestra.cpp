@@ -3,6 +3,7 @@
 #include <applicazione/finestra_principale.h>
 
 #include <applicazione/autore.h>
+#include <applicazione/comandi_libretto.h>
 #include <applicazione/comandi_tag.h>
 #include <core/apertura.h>
 #include <core/comandi_righe.h>
@@ -31,9 +32,11 @@ constexpr std::array<std::pair<Comando, Routine>, 6> Selezioni = {{
     {Comando::SelezionaContorni, Seleziona_Contorni},
 }};
 
-constexpr std::array<std::pair<Comando, Routine>, 11> Comandi = {{
+constexpr std::array<std::pair<Comando, Routine>, 13> Comandi = {{
     {Comando::EliminaVrs, EliminaVrs},
     {Comando::AssegnaVrs, AssegnaVrs},
+    {Comando::StampaLibretto, StampaLibretto},
+    {Comando::RelazioneTecnica, ModificaRelazione},
     {Comando::CopiaNegliAppunti, CopiaNegliAppunti},
     {Comando::Righe8DaExcel, ImportaRighe8DaExcel},
     {Comando::Righe8NomeAutoDaExcel, ImportaRighe8NomeAutoDaExcel},

@@ -199,6 +199,8 @@ void KR_LibrettoOriginale::EseguiAltri(Comando comando) {
     break;
   case Comando::ModificaDiretta:
     return ModificaRiga();
+  case Comando::Intestazione:
+    return ApriIntestazione();
   case Comando::MostraRiordino:
     return MostraRiordino();
   case Comando::RiordinoRighe:

@@ -4,11 +4,15 @@
 #include <base/testo.h>
 #include <core/apertura.h>
 #include <core/mostra_errore.h>
+#include <core/riga.h>
 #include <core/salvataggio.h>
 #include <core/servizi.h>
 #include <core/zero_nove.h>
 
+#include <algorithm>
+#include <array>
 #include <utility>
+#include <vector>
 
 namespace lirmeto {
 
@@ -29,11 +33,28 @@ ListaRighe RigheDaTesto(const std::string& testo) {
   return righe;
 }
 
-void MostraEditor(Ambiente& ambiente, KR_EditorGen& editor, int modo) {
+void MostraEditor(Ambiente& ambiente, KR_EditorGen& editor, int modo, void (KR_EditorGen::*aperto)() = nullptr) {
   ambiente.sessione.ModoEditor = modo;
   editor.AlCaricamento();
+  if (aperto != nullptr) (editor.*aperto)();
   ambiente.finestre.MostraModale(editor);
   ambiente.sessione.ModoEditor = 0;
+}
+
+void ModificaLibretto(Ambiente& ambiente, void (KR_EditorGen::*aperto)() = nullptr) {
+  KR_EditorGen editor(ambiente);
+  MostraEditor(ambiente, editor, ModoEditorLibretto, aperto);
+  if (editor.Salvato) CaricaLibrettoInList1(ambiente); // rows 0 and 9 may be missing now
+}
+
+// Where a Relazione belongs in Pregeo's order: behind the last measure or contour that is none of the proposal.
+std::size_t PostoRelazione(const std::vector<std::string_view>& righe) {
+  std::size_t posto = std::min<std::size_t>(righe.size(), 2); // rows 0 and 9 stand first
+  for (std::size_t i = 0; i < righe.size() && righe[i] != RigaProposta; ++i) {
+    const double genere = GenereRiga(righe[i]);
+    if (genere >= 1 && genere <= 7 && genere != 6) posto = i + 1;
+  }
+  return posto;
 }
 
 } // namespace
@@ -53,6 +74,7 @@ void KR_EditorGen::AlCaricamento() {
     else if (stampa_ != nullptr)
       Testo = TestoDaRighe(*stampa_);
   });
+  aperto_ = Testo;
 }
 
 void KR_EditorGen::CaricaLibretto() {
@@ -64,6 +86,25 @@ void KR_EditorGen::CaricaLibretto() {
     if (ambiente_.disco.Esiste(residuo)) ambiente_.disco.Elimina(residuo);
   });
   Testo = sessione.Libretto;
+  aperto_ = Testo;
+  RigaIniziale = static_cast<std::size_t>(std::max(sessione.List1.Indice(), 0L));
+}
+
+void KR_EditorGen::VaiAllaRelazione() {
+  const std::string testo = Testo;
+  auto righe = RigheDi(testo);
+  const auto marca =
+      std::find_if(righe.begin(), righe.end(), [](std::string_view riga) { return Contiene(riga, InizioRelazione); });
+  RigaIniziale = static_cast<std::size_t>(marca - righe.begin()) + 1;
+  if (marca != righe.end()) return;
+  const std::size_t posto = PostoRelazione(righe);
+  const std::string inizio = "6|" + std::string(InizioRelazione) + "|";
+  const std::string fine = "6|" + std::string(lirmeto::FineRelazione) + "|";
+  // A row of no text at all would be given a note when the libretto is saved.
+  const std::array<std::string_view, 3> blocco = {inizio, "6| |", fine};
+  righe.insert(righe.begin() + static_cast<std::ptrdiff_t>(posto), blocco.begin(), blocco.end());
+  Testo = Unisci(righe, FineRiga) + std::string(FineRiga);
+  RigaIniziale = posto + 1;
 }
 
 bool KR_EditorGen::Salva() {
@@ -79,6 +120,7 @@ bool KR_EditorGen::Salva() {
     }
   });
   Salvato = Salvato || riuscito;
+  if (riuscito) aperto_ = Testo;
   return riuscito;
 }
 
@@ -107,7 +149,8 @@ std::string_view KR_EditorGen::Domanda() const {
 }
 
 bool KR_EditorGen::Chiudi() {
-  const Risposta risposta = ambiente_.dialoghi.Chiedi(Domanda(), "Uscita da Editor", Bottoni::SiNoAnnulla);
+  const Risposta risposta =
+      Testo == aperto_ ? Risposta::No : ambiente_.dialoghi.Chiedi(Domanda(), "Uscita da Editor", Bottoni::SiNoAnnulla);
   if (risposta == Risposta::Annulla) return false;
   if (risposta == Risposta::Si && !Salva()) return false; // what could not be written is not thrown away
   ambiente_.sessione.ModoEditor = 0;
@@ -116,9 +159,11 @@ bool KR_EditorGen::Chiudi() {
 }
 
 void subModificaDiretta(Ambiente& ambiente) {
-  KR_EditorGen editor(ambiente);
-  MostraEditor(ambiente, editor, ModoEditorLibretto);
-  if (editor.Salvato) CaricaLibrettoInList1(ambiente); // rows 0 and 9 may be missing now
+  ModificaLibretto(ambiente);
+}
+
+void subModificaRelazione(Ambiente& ambiente) {
+  ModificaLibretto(ambiente, &KR_EditorGen::VaiAllaRelazione);
 }
 
 void subModificaStampa(Ambiente& ambiente, ListaRighe& stampa) {

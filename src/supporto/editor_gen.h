@@ -14,8 +14,9 @@ public:
   // `stampa` is the report of role 382.
   explicit KR_EditorGen(Ambiente& ambiente, ListaRighe* stampa = nullptr) : ambiente_(ambiente), stampa_(stampa) {}
 
-  std::string Titolo; // window caption
-  std::string Testo;  // the box: lines at CR LF
+  std::string Titolo;           // window caption
+  std::string Testo;            // the box: lines at CR LF
+  std::size_t RigaIniziale = 0; // line of the box where the caret starts, from 0
   bool Chiusa = false;
   bool Salvato = false; // the rows were changed
 
@@ -33,7 +34,11 @@ public:
   // error was reported.
   bool Salva();
 
-  // Buttons 0 and 5, and the window's close: asks whether to save. False: the user stays in the editor.
+  // Role 381: the caret starts in the Relazione Tecnica. Where there is none, the box gets its two marks and a row
+  // between them, behind the measures and contours; the libretto has them once they are saved.
+  void VaiAllaRelazione();
+
+  // Buttons 0 and 5, and the window's close: asks whether to save what has changed. False: the user stays in the editor.
   bool Chiudi();
 
 private:
@@ -45,11 +50,14 @@ private:
 
   Ambiente& ambiente_;
   ListaRighe* stampa_;
+  std::string aperto_; // the box as it was opened, or saved last
   int modo_ = ModoEditorLibretto;
 };
 
-// Opens the editor on the whole libretto; the list is filled again when it was saved.
+// Opens the editor on the whole libretto, at the row under the cursor of the list, or at the Relazione Tecnica; the list
+// is filled again when it was saved.
 void subModificaDiretta(Ambiente& ambiente);
+void subModificaRelazione(Ambiente& ambiente);
 
 // Opens it on the lines of a report, or on the memo of the census rows.
 void subModificaStampa(Ambiente& ambiente, ListaRighe& stampa);

@@ -96,11 +96,56 @@ INSTANTIATE_TEST_SUITE_P(Ruoli, RuoliDellEditor,
                                          Ruolo{383, "Edit Modello Censuario", "Salvare il Modello modificato?",
                                                " a\n\nb", " a\r\n\r\nb\r\n"}));
 
+TEST(Editor, SenzaCambiamentiNonChiede) {
+  Banco banco;
+  banco.Apri(Testo({Zero, Nove, "8|1|2|3|"}));
+  banco.sessione.List1.Indice(2);
+  banco.finestre.utente = [](Modello& modello) {
+    auto& editor = dynamic_cast<KR_EditorGen&>(modello);
+    EXPECT_EQ(editor.RigaIniziale, 2U);
+    EXPECT_TRUE(editor.Chiudi());
+  };
+  subModificaDiretta(banco.ambiente);
+  EXPECT_TRUE(banco.dialoghi.detti.empty());
+}
+
+TEST(Editor, LaRelazioneHaIlSuoPosto) {
+  const std::string inizio = "6|***** Relazione  Tecnica *****|";
+  const std::string fine = "6|*****   Fine   Relazione *****|";
+  struct Caso {
+    Righe prima;
+    Righe dopo; // when it is saved as it stands
+    std::size_t riga;
+  };
+  const std::vector<Caso> casi = {
+      {{Zero, Nove, "1|1|X|", "2|2|1|2|X|", "8|1|2|3|X|", "6|ESTRATTO DI MAPPA|", "7|2|1|2|RC|"},
+       {Zero, Nove, "1|1|X|", "2|2|1|2|X|", inizio, "6| |", fine, "8|1|2|3|X|", "6|ESTRATTO DI MAPPA|", "7|2|1|2|RC|"},
+       5},
+      {{Zero, Nove}, {Zero, Nove, inizio, "6| |", fine}, 3},
+      {{Zero, Nove, inizio, "6|TESTO|", fine, "8|1|2|3|X|"}, {Zero, Nove, inizio, "6|TESTO|", fine, "8|1|2|3|X|"}, 3},
+  };
+  for (const auto& caso : casi) {
+    Banco banco;
+    banco.Apri(Testo(caso.prima));
+    banco.finestre.utente = [&](Modello& modello) {
+      auto& editor = dynamic_cast<KR_EditorGen&>(modello);
+      EXPECT_EQ(editor.RigaIniziale, caso.riga);
+      EXPECT_TRUE(editor.Salva());
+    };
+    subModificaRelazione(banco.ambiente);
+    EXPECT_EQ(banco.Righe(), caso.dopo);
+  }
+}
+
 TEST(Editor, CioCheNonSiScriveNonSiPerde) {
   Banco banco;
   banco.disco.rotti["C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO\\TEMP\\51FTP.CEN"] = 75;
   banco.dialoghi.risposte = {Risposta::Si};
-  banco.finestre.utente = [&](Modello& modello) { EXPECT_FALSE(dynamic_cast<KR_EditorGen&>(modello).Chiudi()); };
+  banco.finestre.utente = [&](Modello& modello) {
+    auto& editor = dynamic_cast<KR_EditorGen&>(modello);
+    editor.Testo = "altro";
+    EXPECT_FALSE(editor.Chiudi());
+  };
   subModificaCensuario(banco.ambiente);
   EXPECT_TRUE(banco.dialoghi.UltimoTesto().ends_with("Nella Routine Edit Modello Censuario Buttonplus1_Click"));
 }

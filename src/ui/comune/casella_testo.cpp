@@ -55,7 +55,18 @@ std::string CasellaTesto::Testo() const {
   return TestoDocumento(*document());
 }
 
+void CasellaTesto::VaiAllaRiga(std::size_t riga) {
+  const int blocco = static_cast<int>(std::min(riga, static_cast<std::size_t>(blockCount() - 1)));
+  setTextCursor(QTextCursor(document()->findBlockByNumber(blocco)));
+  centerCursor();
+}
+
 void CasellaTesto::CambiaDimensione(double punti) {
+  if (QTextCursor cursore = textCursor(); cursore.hasSelection()) {
+    QTextCharFormat formato;
+    formato.setFontPointSize(punti);
+    return cursore.mergeCharFormat(formato);
+  }
   QFont carattere = font();
   carattere.setPointSizeF(punti);
   setFont(carattere);

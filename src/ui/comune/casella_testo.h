@@ -18,7 +18,10 @@ public:
   void MettiTesto(std::string_view testo);
   [[nodiscard]] std::string Testo() const;
 
-  // The same font in another size, points.
+  // The caret at the start of a line, from 0, and the line in the middle of the box.
+  void VaiAllaRiga(std::size_t riga);
+
+  // The selected letters in another size, points; without a selection all of them.
   void CambiaDimensione(double punti);
 
   // Changes the selected letters and leaves them selected.

@@ -58,6 +58,7 @@ FinestraEditor::FinestraEditor(KR_EditorGen& modello, QWidget* padre)
     avviso_->show();
   });
   AdattaAlloSchermo(*this, 1000, 700);
+  casella_->VaiAllaRiga(modello_.RigaIniziale);
   MostraPosto();
   casella_->setFocus();
 }
