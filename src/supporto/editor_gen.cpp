@@ -103,7 +103,7 @@ void KR_EditorGen::VaiAllaRelazione() {
   // A row of no text at all would be given a note when the libretto is saved.
   const std::array<std::string_view, 3> blocco = {inizio, "6| |", fine};
   righe.insert(righe.begin() + static_cast<std::ptrdiff_t>(posto), blocco.begin(), blocco.end());
-  Testo = Unisci(righe, FineRiga) + std::string(FineRiga);
+  aperto_ = Testo = Unisci(righe, FineRiga) + std::string(FineRiga);
   RigaIniziale = posto + 1;
 }
 

@@ -55,6 +55,7 @@ TEST(FinestraEditor, AnnullaRestaNellEditor) {
   editor.AlCaricamento();
   ui::FinestraEditor finestra(editor);
   finestra.show();
+  Casella(finestra).insertPlainText(QStringLiteral("x"));
   banco.dialoghi.risposte = {Risposta::Annulla};
   finestra.close();
   EXPECT_TRUE(finestra.isVisible());
