@@ -24,7 +24,8 @@ namespace lirmeto {
 //   the surveyor's file or PREGEO.INI cannot    the report says so, and the rows are written all the same
 //   be written
 //   the list once its rows are changed          goes to Libretto at once: Pregeo's defaults are taken from there
-//   the fiscal code                             is checked without the blanks around it
+//   the fiscal code                             is checked without the blanks around it, and before anything is changed:
+//                                               No leaves rows, surveyor's file, PREGEO.INI and session as they were
 
 namespace {
 
@@ -49,6 +50,10 @@ void FormCatasto1TXT::ConfermaConfigurazione0() {
   sessione.PuntoErrore = "ConfermaConfigurazione0";
   AvvisaProtocollo();
   ControllaData();
+  if (!AccettaCodiceFiscale()) {
+    sessione.EsitoForm = EsitoAnnullato; // closed in any other way from here on, the form is cancelled
+    return;
+  }
   AssicuraZeroNoveInList1(ambiente_);
   sessione.PuntoErrore = "RiordinoMappali";
   std::string& mappali = Text1[casella::Mappali];
@@ -67,7 +72,7 @@ void FormCatasto1TXT::ConfermaConfigurazione0() {
   sessione.EstrattoAssociato = Taglia(EtichettaEstratto);
   sessione.ModoEditor = ModoEditorLibretto;
   AggiornaPregeo();
-  Chiusa = AccettaCodiceFiscale();
+  Chiusa = true;
 }
 
 void FormCatasto1TXT::AvvisaProtocollo() {

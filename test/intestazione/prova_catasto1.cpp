@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <tuple>
 
 namespace lirmeto {
 namespace {
@@ -284,19 +285,30 @@ INSTANTIATE_TEST_SUITE_P(Casi, DataConfermata,
                                          CasoData{"lettere", "1e7.....", false, "Errore nella data", "21112026"}),
                          [](const auto& caso) { return caso.param.nome; });
 
-TEST(Catasto1, SoloIlCodiceFiscaleTieneApertaLaForm) {
-  Sportello sala;
+TEST(Catasto1, CodiceFiscaleRifiutatoNonCambiaNulla) {
+  Sportello sala({Zero, Nove, "8|a|1|2|"});
   sala.Apri();
   sala.form.Cambia(casella::Protocollo, "x");
+  sala.form.Cambia(casella::Cognome, "VERDI");
+  sala.form.Cambia(casella::Commento, "uno");
   sala.form.Cambia(casella::CodiceFiscale, "RSSMRA85T10A562T");
+  const auto stato = [&] {
+    const Sessione& s = sala.sessione;
+    return std::tuple(sala.Righe(), s.Libretto, s.RigaZero + s.RigaCommento, s.Tecnico + s.CodiceFiscale, s.ModoEditor,
+                      sala.disco.file, sala.impostazioni.valori);
+  };
+  const auto prima = stato();
   sala.form.Premi(0);
   ASSERT_EQ(sala.dialoghi.detti.size(), 2U);
   EXPECT_EQ(sala.dialoghi.detti[0].testo, "Protocollo non numerico!");
   EXPECT_EQ(sala.dialoghi.detti[1].testo, "Probabile Codice Fiscale non Corretto!\r\nContinuare?");
+  EXPECT_TRUE(stato() == prima);
   EXPECT_FALSE(sala.form.Chiusa);
+  EXPECT_EQ(sala.sessione.EsitoForm, EsitoAnnullato);
   sala.dialoghi.risposte = {Risposta::Si};
   sala.form.Premi(0);
   EXPECT_TRUE(sala.form.Chiusa);
+  EXPECT_EQ(sala.sessione.EsitoForm, EsitoConfermato);
 }
 
 TEST(Catasto1, UnTecnicoOUnIniCheNonSiScrivonoNonPerdonoLeRighe) {
