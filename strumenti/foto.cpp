@@ -49,6 +49,9 @@ public:
   [[nodiscard]] bool EsisteCartella(std::string_view percorso) const override {
     return disco_.EsisteCartella(percorso);
   }
+  [[nodiscard]] bool StessoPosto(std::string_view percorso, std::string_view altro) const override {
+    return disco_.StessoPosto(percorso, altro);
+  }
   [[nodiscard]] std::string Leggi(std::string_view percorso) const override { return disco_.Leggi(percorso); }
   [[nodiscard]] std::string LeggiInizio(std::string_view percorso, std::size_t byte) const override {
     return disco_.LeggiInizio(percorso, byte);

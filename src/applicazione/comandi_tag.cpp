@@ -1,6 +1,7 @@
 #include <applicazione/comandi_tag.h>
 
 #include <applicazione/forme.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/apertura.h>
 #include <core/mostra_errore.h>
@@ -65,7 +66,7 @@ DopoComando Annuncia(Ambiente& ambiente) {
 // The .TXT beside the drawing; the path of anything else as it is.
 std::string PercorsoLibretto(const std::string& disegno) {
   if (!FinisceConSenzaCaso(disegno, EstensioneDisegno)) return disegno;
-  return disegno.substr(0, disegno.size() - EstensioneDisegno.size()) + ".TXT";
+  return ConEstensione(disegno, ".TXT");
 }
 
 // The libretto that belongs to the drawing, listed.

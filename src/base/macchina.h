@@ -26,6 +26,10 @@ public:
   [[nodiscard]] virtual bool Esiste(std::string_view percorso) const = 0;
   [[nodiscard]] virtual bool EsisteCartella(std::string_view percorso) const = 0;
 
+  // Whether two paths that differ in case alone lead to the same place, or would once something stands there: a host
+  // that tells spellings apart may have two folders of one name.
+  [[nodiscard]] virtual bool StessoPosto(std::string_view percorso, std::string_view altro) const = 0;
+
   // All bytes of a file. Errors: 53 not there, 70 not allowed, 75 not a file or
   // not readable.
   [[nodiscard]] virtual std::string Leggi(std::string_view percorso) const = 0;

@@ -3,6 +3,7 @@
 #include <base/errore.h>
 #include <base/testo.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -82,6 +83,21 @@ private:
   std::size_t fatte_ = 0;
 };
 
+// Whether a number that is none of those a double holds lies below 1: the place of its first digit and its exponent
+// together tell, since either alone may be the large one.
+bool MinoreDiUno(std::string_view numero) {
+  const std::size_t e = std::min(numero.find('e'), numero.size());
+  const std::string_view mantissa = numero.substr(0, e);
+  const auto punto = static_cast<long long>(std::min(mantissa.find('.'), e));
+  const auto prima = static_cast<long long>(mantissa.find_first_of("123456789"));
+  std::string_view potenza = numero.substr(std::min(e + 1, numero.size()));
+  if (potenza.starts_with('+')) potenza.remove_prefix(1);
+  long long esponente = 0;
+  const auto esito = std::from_chars(potenza.data(), potenza.data() + potenza.size(), esponente);
+  if (esito.ec == std::errc::result_out_of_range) return potenza.starts_with('-');
+  return esponente < prima - punto;
+}
+
 // Value of a text that is a number; from_chars takes no plus sign in front of
 // the mantissa.
 double ValoreDiNumero(std::string_view numero) {
@@ -89,12 +105,7 @@ double ValoreDiNumero(std::string_view numero) {
   double valore = 0;
   const auto esito = std::from_chars(numero.data(), numero.data() + numero.size(), valore);
   if (esito.ec == std::errc::result_out_of_range) {
-    // Too small is 0, too large the largest number there is: the exponent tells
-    // which, or else where the digits begin.
-    const std::size_t e = numero.find('e');
-    const bool piccolo =
-        e != std::string_view::npos ? numero[e + 1] == '-' : numero.find_first_of("123456789") > numero.find('.');
-    const double limite = piccolo ? 0.0 : std::numeric_limits<double>::max();
+    const double limite = MinoreDiUno(numero) ? 0.0 : std::numeric_limits<double>::max();
     return numero.front() == '-' ? -limite : limite;
   }
   return valore;

@@ -40,6 +40,7 @@ std::string ComandoGenera(Ambiente& ambiente, const std::vector<std::string>& ar
   for (std::size_t i = 2; i < argomenti.size(); ++i) Imposta(form, argomenti[i]);
   if (!form.GeneraLibrettoMisureAutomatico())
     throw Errore(errore::ArgomentoNonValido, "Nessuna modalit\xE0 di orientamento scelta");
+  RendiScrivibili(ambiente);
   return TestoDaSalvare(std::move(ambiente.sessione.Libretto), ambiente.sessione);
 }
 

@@ -86,6 +86,7 @@ std::string ComandoIntestazione(Ambiente& ambiente, const std::vector<std::strin
 std::string ComandoSalva(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
   ApriEdElenca(ambiente, argomenti[0]);
   AggiornaLibrettoMisure(ambiente);
+  RendiScrivibili(ambiente);
   return TestoDaSalvare(std::move(ambiente.sessione.Libretto), ambiente.sessione);
 }
 
@@ -100,6 +101,7 @@ std::string ComandoRiordina(Ambiente& ambiente, const std::vector<std::string>& 
   }
   CaricaLibrettoInList1(ambiente);
   AggiornaLibrettoMisure(ambiente);
+  RendiScrivibili(ambiente);
   return TestoDaSalvare(std::move(ambiente.sessione.Libretto), ambiente.sessione);
 }
 

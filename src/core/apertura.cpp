@@ -2,6 +2,7 @@
 
 #include <base/avanzamento.h>
 #include <base/numeri.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/lxb.h>
 #include <core/riga.h>
@@ -91,10 +92,9 @@ struct PercorsiApertura {
   std::string lxb;
 };
 
-PercorsiApertura PercorsiDa(const std::string& nome) {
+PercorsiApertura PercorsiDa(const Disco& disco, const std::string& nome) {
   if (!FinisceConSenzaCaso(nome, ".LXB")) return {nome, {}};
-  const std::string alto = Maiuscolo(nome);
-  return {alto.substr(0, alto.size() - 4) + ".DAT", alto};
+  return {PercorsoInCapitali(disco, ConEstensione(nome, ".DAT")), PercorsoInCapitali(disco, nome)};
 }
 
 std::string EtichettaPosizione(const ElencoRighe& elenco) {
@@ -133,7 +133,7 @@ void MettiZeroNove(ListaRighe& righe, const Sessione& sessione) {
 
 void CaricaLibrettoDaFile(Ambiente& ambiente) {
   Sessione& sessione = ambiente.sessione;
-  const PercorsiApertura percorsi = PercorsiDa(sessione.NomeFileLibretto);
+  const PercorsiApertura percorsi = PercorsiDa(ambiente.disco, sessione.NomeFileLibretto);
   const std::string sostitute = percorsi.lxb.empty() ? std::string{} : CaricaFileIntero(ambiente, percorsi.lxb);
   if (ambiente.disco.Esiste(percorsi.libretto))
     MettiInSessione(LeggiFileLibretto(CaricaFileIntero(ambiente, percorsi.libretto)), sessione);

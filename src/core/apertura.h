@@ -56,7 +56,7 @@ void EsplodiPDF(Ambiente& ambiente, std::string_view percorso);
 void ApriLibretto(Ambiente& ambiente, std::string_view percorso);
 
 // The .EMP of Pregeo's extract folder whose first row has the identifier in
-// field 2; empty when there is none.
+// field 2; empty when there is none. An empty identifier is nobody's.
 [[nodiscard]] std::string CercaEstratto(Ambiente& ambiente, std::string_view identificativo);
 
 // Fills the row list from Libretto and puts rows 0 and 9 where they belong;

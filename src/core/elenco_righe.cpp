@@ -45,7 +45,8 @@ void ElencoRighe::Cambia(std::size_t indice, std::string_view riga) {
 void ElencoRighe::Togli(std::size_t indice) {
   righe_.Togli(indice);
   selezionate_.erase(selezionate_.begin() + static_cast<std::ptrdiff_t>(indice));
-  indice_ = std::min(indice_, static_cast<long>(righe_.size()) - 1);
+  if (indice_ > static_cast<long>(indice)) --indice_;
+  Indice(indice_);
   ++versione_;
 }
 
@@ -97,7 +98,8 @@ std::size_t ElencoRighe::TogliSe(std::size_t primo, const std::function<bool(std
   }
   viste.resize(nuovo);
   selezionate_.resize(nuovo);
-  indice_ = std::min(indice_, static_cast<long>(nuovo) - 1);
+  Indice(indice_ - (std::lower_bound(tolte.begin(), tolte.end(), static_cast<std::size_t>(std::max(indice_, 0L))) -
+                    tolte.begin()));
   ++versione_;
   ++versioneSelezione_;
   return tolte.size();

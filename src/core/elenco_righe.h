@@ -44,7 +44,8 @@ public:
   // first of a run stays.
   std::size_t TogliRipetute();
 
-  // Index of the row under the cursor, -1 for none.
+  // Index of the row under the cursor, -1 for none. It stays with its row when rows before it come or go; when its own
+  // row goes, the next one has it.
   [[nodiscard]] long Indice() const { return indice_; }
   void Indice(long indice);
 

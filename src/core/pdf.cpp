@@ -2,6 +2,7 @@
 
 #include <base/errore.h>
 #include <base/numeri.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/riga.h>
 #include <core/servizi.h>
@@ -95,6 +96,7 @@ ContenutoPdf LeggiSezioniPdf(std::string_view byte) {
 }
 
 std::string CercaEstratto(Ambiente& ambiente, std::string_view identificativo) {
+  if (identificativo.empty()) return {}; // any first row without field 2 would have it
   const std::string cartella = ambiente.sessione.RadicePregeo + "\\pregeo\\estratti\\";
   for (const auto& nome : ambiente.disco.Elenca(cartella, ".EMP")) {
     const std::string riga = PrimaRiga(ambiente.disco, cartella + nome);
@@ -113,8 +115,7 @@ void EsplodiPDF(Ambiente& ambiente, std::string_view percorso) {
   if (daCercare && estratto.empty())
     ambiente.dialoghi.Messaggio("Estratto Associato non trovato nella cartella Estratti di Pregeo.");
   Sessione& sessione = ambiente.sessione;
-  const std::string alto = Maiuscolo(percorso);
-  sessione.NomeFileLibretto = alto.substr(0, alto.size() - 4) + ".TXT";
+  sessione.NomeFileLibretto = PercorsoInCapitali(ambiente.disco, ConEstensione(percorso, ".TXT"));
   sessione.Libretto = ComponiLibretto(pdf);
   sessione.Ditta = pdf.ditta;
   sessione.EstrattoAssociato = estratto;

@@ -4,6 +4,8 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 
+#include <algorithm>
+
 namespace lirmeto {
 
 namespace {
@@ -81,6 +83,14 @@ std::vector<std::string_view> RigheDi(std::string_view libretto) {
   auto righe = Dividi(libretto, FineRiga);
   if (!righe.empty() && righe.back().empty()) righe.pop_back();
   return righe;
+}
+
+std::string InUnCampo(std::string_view testo) {
+  std::string campo(testo);
+  std::replace_if(
+      campo.begin(), campo.end(),
+      [](char lettera) { return lettera == '|' || static_cast<unsigned char>(lettera) < ' '; }, ' ');
+  return campo;
 }
 
 std::string TogliMarcatoriNota(std::string_view nota) {

@@ -53,6 +53,9 @@ struct RigaDivisa {
 // field between its bars, no mark and no heading.
 [[nodiscard]] bool PuoEssereCommento(std::string_view riga);
 
+// The text as one field of a row: what would end the field or the row (bars, control characters) becomes a blank.
+[[nodiscard]] std::string InUnCampo(std::string_view testo);
+
 // A note without "<PD>", "<PV>", "<P!>", "<00>", "<EL>", "<8P>", "<8=>",
 // "<8Q>", trimmed.
 [[nodiscard]] std::string TogliMarcatoriNota(std::string_view nota);

@@ -7,6 +7,7 @@
 #include <core/servizi.h>
 
 #include <utility>
+#include <vector>
 
 namespace lirmeto {
 
@@ -47,6 +48,12 @@ std::string DimezzaFineRiga(std::string testo) {
   return testo;
 }
 
+std::string DittaInCampi(std::string_view ditta) {
+  std::vector<std::string> campi;
+  for (const auto linea : Dividi(ditta, FineRiga)) campi.push_back(InUnCampo(linea));
+  return Unisci({campi.begin(), campi.end()}, FineRiga);
+}
+
 std::string PercorsoUltimo(const Sessione& sessione) {
   return sessione.CartellaProgramma + "\\temp\\" + std::string(NomeDaPercorso(sessione.NomeFileLibretto)) + ".ultimo";
 }
@@ -63,6 +70,7 @@ bool TieniUltimo(Ambiente& ambiente) {
 // The whole save. `tenuto` tells, also when an error ends it, whether a copy of
 // the old content was made.
 void ScriviLibretto(Ambiente& ambiente, bool& tenuto) {
+  RendiScrivibili(ambiente);
   const std::string testo = TestoDaSalvare(ambiente.sessione);
   tenuto = TieniUltimo(ambiente);
   ambiente.disco.Scrivi(ambiente.sessione.NomeFileLibretto, testo);
@@ -85,6 +93,21 @@ void AggiornaLibrettoMisure(Ambiente& ambiente) {
   sessione.Libretto.reserve(lunghezza + SpazioPerRigheDiServizio);
   for (const auto riga : elenco.Righe())
     if (!Taglia(riga).empty()) AggiungiRigaLibretto(sessione, riga);
+}
+
+void RendiScrivibili(Ambiente& ambiente) {
+  Sessione& sessione = ambiente.sessione;
+  bool cambiato = false;
+  const auto prendi = [&](std::string& valore, std::string scrivibile) {
+    cambiato = cambiato || valore != scrivibile;
+    valore = std::move(scrivibile);
+  };
+  for (std::string* valore : {&sessione.EstrattoAssociato, &sessione.CodiceFiscale, &sessione.NumeroIscrizione})
+    prendi(*valore, InUnCampo(*valore));
+  prendi(sessione.Ditta, DittaInCampi(sessione.Ditta));
+  if (cambiato)
+    ambiente.dialoghi.Messaggio("Le righe di servizio del libretto non tengono barre: sono diventate spazi.",
+                                "Salva Libretto");
 }
 
 std::string TestoDaSalvare(const Sessione& sessione) {

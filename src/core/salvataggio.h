@@ -13,6 +13,11 @@ namespace lirmeto {
 // text.
 void AggiornaLibrettoMisure(Ambiente& ambiente);
 
+// Owners, extract, fiscal code and registration as the tag rows can hold them: a
+// bar or a control character would cut them at the next opening; it becomes a
+// blank in the session too, and that is told.
+void RendiScrivibili(Ambiente& ambiente);
+
 // The bytes of the libretto's file: Libretto, the tag rows, the owners.
 [[nodiscard]] std::string TestoDaSalvare(const Sessione& sessione);
 // The same from a Libretto that is handed over, so that a large one is not copied.

@@ -145,7 +145,7 @@ std::string ComponenteFile(std::string_view nome) {
 
 std::string PercorsoInCapitali(const Disco& disco, std::string_view percorso) {
   std::string alto = Maiuscolo(percorso);
-  return !disco.Esiste(alto) && disco.Esiste(percorso) ? std::string(percorso) : alto;
+  return disco.StessoPosto(alto, percorso) ? alto : std::string(percorso);
 }
 
 std::string_view NomeDaPercorso(std::string_view percorso) {

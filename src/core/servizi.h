@@ -56,8 +56,7 @@ bool ApriForm(Ambiente& ambiente, std::string_view nome);
 // holds "\", "/" or ":" or is "..".
 [[nodiscard]] std::string ComponenteFile(std::string_view nome);
 
-// A path in capitals, as what comes from a command line is taken; as it was given where the capitals lead to nothing: a
-// host that tells spellings apart may have two folders of one name.
+// A path in capitals, as what comes from a command line is taken; as it was given where the capitals lead elsewhere.
 [[nodiscard]] std::string PercorsoInCapitali(const Disco& disco, std::string_view percorso);
 
 // Last component of a path.

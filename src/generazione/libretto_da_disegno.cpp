@@ -4,6 +4,7 @@
 #include <generazione/stazioni.h>
 
 #include <base/numeri.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/apertura.h>
 #include <core/mostra_errore.h>
@@ -238,8 +239,8 @@ void LibrettoDaDisegno::ButtonPlus1_0() {
   Sessione& sessione = ambiente_.sessione;
   const bool riuscito = Intrappola(ambiente_, [&] {
     if (!GeneraLibrettoMisureAutomatico()) return;
-    const std::string alto = Maiuscolo(sessione.NomeFileLibretto);
-    if (Contiene(alto, Estensione)) sessione.NomeFileLibretto = Sostituisci(alto, Estensione, ".TXT");
+    std::string& nome = sessione.NomeFileLibretto;
+    if (FinisceConSenzaCaso(nome, Estensione)) nome = PercorsoInCapitali(ambiente_.disco, ConEstensione(nome, ".TXT"));
     FineProgramma = true;
   });
   if (!riuscito || !FineProgramma) return;

@@ -66,14 +66,6 @@ std::string ValorePredefinito(std::size_t indice, const Sessione& sessione, cons
   return std::string(Predefiniti.at(indice));
 }
 
-std::string InUnCampo(std::string_view testo) {
-  std::string campo(testo);
-  std::replace_if(
-      campo.begin(), campo.end(),
-      [](char lettera) { return lettera == '|' || static_cast<unsigned char>(lettera) < ' '; }, ' ');
-  return campo;
-}
-
 std::string DataAOttoCifre(std::string_view data) {
   constexpr std::size_t breve = 6;
   constexpr int soglia = 88;

@@ -44,9 +44,6 @@ inline constexpr std::size_t Nome = 19;
 // What an empty box gets; empty where it may stay empty.
 [[nodiscard]] std::string ValorePredefinito(std::size_t indice, const Sessione& sessione, const Data& oggi);
 
-// The text as one field of a row: what would end the field or the row becomes a blank.
-[[nodiscard]] std::string InUnCampo(std::string_view testo);
-
 // A date of six digits with its century, "20" where the value of the last two is below 88 and "19" otherwise; any other
 // text as it is. The rows themselves are read with another threshold, 80: both are meant so.
 [[nodiscard]] std::string DataAOttoCifre(std::string_view data);

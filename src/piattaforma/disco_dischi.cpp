@@ -138,6 +138,17 @@ bool DiscoDischi::EsisteCartella(std::string_view percorso) const {
   }
 }
 
+bool DiscoDischi::StessoPosto(std::string_view percorso, std::string_view altro) const {
+  try {
+    const fs::path primo = PercorsoOspite(percorso);
+    const fs::path secondo = PercorsoOspite(altro);
+    if (primo == secondo) return true;
+    return primo.parent_path() == secondo.parent_path() && !EsisteVoce(primo) && !EsisteVoce(secondo);
+  } catch (const Errore&) {
+    return false;
+  }
+}
+
 std::string DiscoDischi::Leggi(std::string_view percorso) const {
   return LeggiFileOspite(PercorsoOspite(percorso));
 }

@@ -1,5 +1,6 @@
 #include <pregeo/copia_estratto.h>
 
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/servizi.h>
 #include <supporto/zip.h>
@@ -29,10 +30,6 @@ constexpr std::string_view Zip = ".ZIP";
 constexpr std::array<std::string_view, 4> Estensioni = {Emp, Png, ".DXF", Zip};
 constexpr std::string_view TitoloCopia = "Copia Estratto in Pregeo";
 
-std::string_view SenzaEstensione(std::string_view percorso) {
-  return percorso.substr(0, percorso.size() - Emp.size());
-}
-
 // The extract's name, without extension.
 std::string NomeEstratto(std::string_view percorso) {
   return Maiuscolo(NomeDaPercorso(SenzaEstensione(percorso)));
@@ -44,7 +41,7 @@ std::string InEstratti(const Sessione& sessione, std::string_view nome) {
 }
 
 void CopiaConGemello(Ambiente& ambiente, const std::string& percorso, std::string_view estensioneGemello) {
-  const std::string gemello = std::string(SenzaEstensione(percorso)) + std::string(estensioneGemello);
+  const std::string gemello = ConEstensione(percorso, estensioneGemello);
   const bool conGemello = ambiente.disco.Esiste(gemello);
   ambiente.disco.Copia(percorso, InEstratti(ambiente.sessione, NomeDaPercorso(percorso)));
   if (conGemello) ambiente.disco.Copia(gemello, InEstratti(ambiente.sessione, NomeDaPercorso(gemello)));

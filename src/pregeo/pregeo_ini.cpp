@@ -117,9 +117,9 @@ void AggiornaConfigurazionePregeo(Ambiente& ambiente) {
   CaricaProvinceComuni(ambiente);
   DecoZeroNove(ambiente);
   if (sessione.Nome.empty()) {
-    const std::string tecnico = sessione.Tecnico + " ";
-    sessione.Cognome = Parte(tecnico, ' ', 0);
-    sessione.Nome = Parte(tecnico, ' ', 1);
+    // One word of surname; all that follows is the name.
+    sessione.Cognome = Parte(sessione.Tecnico, ' ', 0);
+    sessione.Nome = Taglia(std::string_view(sessione.Tecnico).substr(sessione.Cognome.size()));
   }
   for (const Comune& comune : sessione.Comuni) // the last row of the code stands
     if (comune.codice == sessione.CodiceComune) sessione.SiglaProvincia = comune.provincia;

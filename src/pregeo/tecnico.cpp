@@ -5,17 +5,37 @@
 #include <core/servizi.h>
 #include <pregeo/pregeo_ini.h>
 
+#include <algorithm>
 #include <initializer_list>
+#include <iterator>
 
 namespace lirmeto {
 
 namespace {
 
+// What a value cannot hold, since the file is one comma list without any escape: it becomes a blank.
+bool Separa(char lettera) {
+  return lettera == ',' || lettera == '"' || lettera == '\r' || lettera == '\n';
+}
+
 // One line of values in double quotes at commas.
 std::string Linea(std::initializer_list<std::string_view> valori) {
   std::string linea;
-  for (const auto valore : valori) linea += (linea.empty() ? "\"" : ",\"") + std::string(valore) + "\"";
+  for (const auto valore : valori) {
+    linea += linea.empty() ? "\"" : ",\"";
+    std::replace_copy_if(valore.begin(), valore.end(), std::back_inserter(linea), Separa, ' ');
+    linea += '"';
+  }
   return linea + std::string(FineRiga);
+}
+
+bool PerdeSegni(const Sessione& sessione) {
+  const auto valori = {
+      &sessione.Tecnico,          &sessione.Qualifica,     &sessione.Provincia, &sessione.Strumentazione,
+      &sessione.NumeroIscrizione, &sessione.CodiceFiscale, &sessione.Cognome,   &sessione.Nome,
+      &sessione.Recapito};
+  return std::any_of(valori.begin(), valori.end(),
+                     [](const std::string* valore) { return std::any_of(valore->begin(), valore->end(), Separa); });
 }
 
 // The two precisions are constants here, not those of row 9.
@@ -40,6 +60,9 @@ void SalvaTecnico(Ambiente& ambiente) {
       Taglia(std::string(Taglia(Maiuscolo(sessione.Cognome))) + " " + std::string(Taglia(Maiuscolo(sessione.Nome))));
   ambiente.disco.Scrivi(sessione.CartellaProgramma + "\\tecnici\\" + ComponenteFile(sessione.Tecnico + ".PFS"),
                         TestoPfs(sessione));
+  if (PerdeSegni(sessione))
+    ambiente.dialoghi.Messaggio("Il file del tecnico non tiene virgole e virgolette: sono diventate spazi.",
+                                "Salva Tecnico");
   ambiente.impostazioni.Scrivi("RELAZIONE_TECNICA", "INCLUDIDATITECNICO", TestoIntero(sessione.IncludiDatiTecnico));
   SalvaPregeoIni(ambiente);
 }

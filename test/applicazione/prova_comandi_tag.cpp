@@ -108,8 +108,8 @@ TEST(ComandoTag, IlProgrammaCheMancaSiDicePerNome) {
 
 // A host with two folders that differ in case alone.
 struct DiscoDiDue : prova::DiscoInMemoria {
-  [[nodiscard]] bool Esiste(std::string_view percorso) const override {
-    return percorso.starts_with("Z:\\docs\\") && DiscoInMemoria::Esiste(percorso);
+  [[nodiscard]] bool StessoPosto(std::string_view percorso, std::string_view altro) const override {
+    return percorso == altro;
   }
 };
 
@@ -123,6 +123,15 @@ TEST(ComandoTag, DoveLeMaiuscoleNonPortanoValeIlPercorsoDato) {
   EXPECT_EQ(ComandoTag1(due), Resta);
   EXPECT_EQ(banco.sessione.Libretto, Atto);
   EXPECT_EQ(banco.sessione.NomeFileLibretto, "Z:\\docs\\a.dat");
+  disco.Metti("Z:\\docs\\p.pdf", "[TAG2000]|8|1|2|3|[/TAG]");
+  disco.Metti("Z:\\docs\\s.lxb", "8|1|2|3|\r\n");
+  disco.Metti("Z:\\docs\\s.DAT", Atto);
+  for (const auto& [dato, aperto] :
+       {std::pair("Z:\\docs\\p.pdf", "Z:\\docs\\p.TXT"), std::pair("Z:\\docs\\s.lxb", "Z:\\docs\\s.DAT")}) {
+    banco.sessione.ComandoTag = dato;
+    EXPECT_EQ(ComandoTag1(due), Resta);
+    EXPECT_EQ(banco.sessione.NomeFileLibretto, aperto);
+  }
   disco.cartelle = banco.disco.cartelle;
   disco.Metti("Z:\\docs\\e.emp", "x");
   banco.sessione.ComandoTag = "Z:\\docs\\e.emp";
@@ -143,15 +152,15 @@ class Disegno : public testing::TestWithParam<CasoDisegno> {};
 TEST_P(Disegno, PrimaLIntestazionePoiIlDisegno) {
   Banco banco;
   banco.finestre.disponibili = {"FormCatasto1TXT", "LibrettoDaDisegno"};
-  banco.disco.Metti("C:\\D.LXC", "P,1,10,20,3\r\n8|1|1|1|\r\n8|2|1|1|\r\n");
-  if (GetParam().conTxt) banco.disco.Metti("C:\\D.TXT", Atto + "1|1|1.5|N|\r\n");
+  banco.disco.Metti("C:\\R.LXC\\D.LXC", "P,1,10,20,3\r\n8|1|1|1|\r\n8|2|1|1|\r\n");
+  if (GetParam().conTxt) banco.disco.Metti("C:\\R.LXC\\D.TXT", Atto + "1|1|1.5|N|\r\n");
   banco.sessione.EsitoForm = GetParam().esito;
-  banco.sessione.ComandoTag = "c:\\d.lxc|libretto_da_disegno";
+  banco.sessione.ComandoTag = "c:\\r.lxc\\d.lxc|libretto_da_disegno";
   EXPECT_EQ(ComandoTag1(banco.ambiente), GetParam().dopo);
   EXPECT_EQ(banco.finestre.aperte.size(), GetParam().esito < 0 ? 1U : 2U);
   EXPECT_EQ(banco.finestre.aperte[0], "FormCatasto1TXT");
   EXPECT_EQ(banco.Righe().size(), GetParam().righe) << "rows of a drawing are none of a libretto";
-  EXPECT_EQ(banco.sessione.NomeFileLibretto, GetParam().esito < 0 ? "C:\\D.LXC" : "C:\\D.TXT");
+  EXPECT_EQ(banco.sessione.NomeFileLibretto, GetParam().esito < 0 ? "C:\\R.LXC\\D.LXC" : "C:\\R.LXC\\D.TXT");
   EXPECT_EQ(banco.sessione.PuntoErrore, "Decozero_130");
 }
 
@@ -188,19 +197,20 @@ TEST_P(DalDisegno, FinisceSoloSeIlLibrettoCE) {
     if (dynamic_cast<FormCatasto1TXT*>(&modello) != nullptr) banco.sessione.EsitoForm = EsitoConfermato;
     auto* form = dynamic_cast<LibrettoDaDisegno*>(&modello);
     if (form == nullptr || !caso.preme) return;
-    if (!caso.siScrive) banco.disco.rotti["C:\\D.TXT"] = errore::AutorizzazioneNegata;
+    if (!caso.siScrive) banco.disco.rotti["C:\\R.LXC\\D.TXT"] = errore::AutorizzazioneNegata;
     form->ButtonPlus1_0();
     EXPECT_EQ(form->Chiusa, caso.siScrive);
   };
-  banco.disco.Metti("C:\\D.LXC", disegno);
-  banco.sessione.ComandoTag = "c:\\d.lxc|LIBRETTO_DA_DISEGNO|";
+  banco.disco.cartelle.emplace_back("C:\\R.LXC"); // the folder keeps its name
+  banco.disco.Metti("C:\\R.LXC\\D.LXC", disegno);
+  banco.sessione.ComandoTag = "c:\\r.lxc\\d.lxc|LIBRETTO_DA_DISEGNO|";
   EXPECT_EQ(ComandoTag1(ambiente), caso.dopo);
-  EXPECT_EQ(banco.sessione.NomeFileLibretto, "C:\\D.TXT");
-  EXPECT_EQ(banco.disco.Contenuto("C:\\D.LXC"), disegno);
+  EXPECT_EQ(banco.sessione.NomeFileLibretto, "C:\\R.LXC\\D.TXT");
+  EXPECT_EQ(banco.disco.Contenuto("C:\\R.LXC\\D.LXC"), disegno);
   EXPECT_EQ(Contiene(banco.sessione.Libretto, "\r\n2|101|"), caso.preme);
   EXPECT_EQ(banco.impostazioni.valori["LIBRETTO_AUTOMATICO/MANTIENI_GPS"], "1");
   banco.disco.rotti.clear();
-  EXPECT_EQ(banco.disco.Esiste("C:\\D.TXT"), caso.preme && caso.siScrive);
+  EXPECT_EQ(banco.disco.Esiste("C:\\R.LXC\\D.TXT"), caso.preme && caso.siScrive);
 }
 
 INSTANTIATE_TEST_SUITE_P(Casi, DalDisegno,

@@ -329,6 +329,7 @@ TEST(Annulla, LIntestazioneConfermata) {
     form.Cambia(1, "99");
     form.ConfermaConfigurazione0();
   };
+  sala.dialoghi.risposte = {Risposta::Si}; // a fiscal code that is none
   KR_LibrettoOriginale finestra(vero);
   finestra.Avvia("C:\\ACT.DAT");
   const auto prima = sala.Foto();

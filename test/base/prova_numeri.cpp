@@ -41,6 +41,9 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Valore, MaiInfinito) {
   EXPECT_EQ(Valore("1E999"), std::numeric_limits<double>::max());
   EXPECT_EQ(Valore("-1E999"), -std::numeric_limits<double>::max());
+  EXPECT_EQ(Valore("0." + std::string(400, '0') + "1E5"), 0);
+  EXPECT_EQ(Valore(std::string(400, '9') + "E-5"), std::numeric_limits<double>::max());
+  EXPECT_EQ(Valore("1E-99999999999999999999"), 0);
   EXPECT_EQ(Valore("0." + std::string(500, '0') + "1"), 0);
   EXPECT_EQ(Valore(std::string(500, '9')), std::numeric_limits<double>::max());
 }

@@ -205,6 +205,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoEstratto{"[TAG3000]|0|x|id|[/TAG]", "\r\n0|x|ID|\n", "", true}, // stops the search
                     CasoEstratto{"[TAG3000]|0|x|id|[/TAG]", "senza barre\n", "B.EMP", false},
                     CasoEstratto{"[TAG3000]|0|x|Autoallestito|[/TAG]", "0|x|AUTOALLESTITO|\n", "", false},
+                    CasoEstratto{"[TAG3000]|0|x[/TAG]", "0|x\n", "", true}, // no identifier is no extract's
                     CasoEstratto{"[TAG3000]|0|x|ALTRO|[/TAG]", "0|x|Y|\n", "", true}));
 
 } // namespace

@@ -65,6 +65,20 @@ TEST(Salva, ScriveLeRigheDiServizioInFondo) {
   EXPECT_EQ(TestoDaSalvare(banco.sessione), Testo({Zero, Nove, "8|1|2|3|", "6|<EST>X.EMP|", "6|<COD>|", "6|<ISC>12|"}));
 }
 
+TEST(Salva, CioCheLeRigheDiServizioNonTengonoDiventaSpazioESiDice) {
+  Banco banco;
+  banco.Apri(Testo({Zero, Nove}));
+  banco.sessione.Ditta = "ROSSI|MARIO\nVIA PO\r\nBIANCHI";
+  banco.sessione.NumeroIscrizione = "1|2";
+  SalvaLibrettoMisure(banco.ambiente);
+  SalvaLibrettoMisure(banco.ambiente);
+  EXPECT_EQ(banco.dialoghi.detti.size(), 1U) << "told once";
+  banco.Apri(banco.disco.Contenuto("C:\\LIBRETTO.DAT"));
+  EXPECT_EQ(banco.sessione.Ditta, "ROSSI MARIO VIA PO\r\nBIANCHI\r\n");
+  EXPECT_EQ(banco.sessione.NumeroIscrizione, "1 2");
+  EXPECT_EQ(banco.Righe().size(), 2U);
+}
+
 TEST(Salva, DuePassateSulleFineRiga) {
   Banco banco;
   banco.sessione.Libretto = "a\r\n\r\n\r\n\r\n\r\nb"; // five become three, then two

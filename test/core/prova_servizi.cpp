@@ -1,6 +1,7 @@
 #include "sostituti/banco.h"
 
 #include <base/errore.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/elenco_righe.h>
 #include <core/mostra_errore.h>
@@ -73,7 +74,23 @@ TEST(Servizi, NomiDaiDatiNonEsconoDallaCartella) {
   for (const char* nome : {"..", "a/b", "a\\b", "C:x"}) EXPECT_THROW((void)ComponenteFile(nome), Errore) << nome;
   EXPECT_EQ(NomeDaPercorso("C:\\a\\b.dat"), "b.dat");
   EXPECT_EQ(NomeDaPercorso("b.dat"), "b.dat");
+  EXPECT_EQ(ConEstensione("C:\\A.LXC\\R.1.LXC", ".TXT") + ConEstensione("C:\\A.LXC\\R", ".TXT"),
+            "C:\\A.LXC\\R.1.TXTC:\\A.LXC\\R.TXT");
   EXPECT_DOUBLE_EQ(DistanzaPiana(1, 1, 4, 5), 5);
+}
+
+TEST(ElencoRighe, IlCursoreRestaSullaSuaRiga) {
+  const struct {
+    long prima;
+    long dopo;
+  } casi[] = {{-1, -1}, {0, 0}, {3, 1}, {4, 2}, {5, 2}, {6, 3}, {7, 3}}; // the row itself gone: the one that follows
+  for (const auto& [prima, dopo] : casi) {
+    ElencoRighe elenco;
+    elenco.Riempi({"a", "A", "a", "b", "B", "c", "d", "d"});
+    elenco.Indice(prima);
+    EXPECT_EQ(elenco.TogliRipetute(), 4U);
+    EXPECT_EQ(elenco.Indice(), dopo) << prima;
+  }
 }
 
 TEST(ElencoRighe, SelezioneEIndiceSeguonoLeRighe) {
@@ -92,6 +109,7 @@ TEST(ElencoRighe, SelezioneEIndiceSeguonoLeRighe) {
   EXPECT_EQ(elenco.Indice(), 3);
   EXPECT_TRUE(elenco.Selezionata(2));
   elenco.Togli(0);
+  EXPECT_EQ(elenco.Indice(), 2);
   EXPECT_THROW(elenco.Togli(3), Errore);
   EXPECT_THROW((void)elenco.Riga(3), Errore);
   EXPECT_THROW(elenco.SelezionaIntervallo(0, 3, true), Errore);

@@ -244,7 +244,7 @@ TEST(Catasto1, ConfermaScriveTecnicoIniESessione) {
   EXPECT_EQ(s.ModoEditor, 381);
   EXPECT_EQ(sala.disco.Contenuto(Programma + "\\tecnici\\VERDI NOME.PFS"),
             Testo({"\"VERDI NOME\",\"GEOMETRA\",\"PADOVA\"", "\"10\",\"20\",\"GEODIMETRO INTEGRATO\"",
-                   "\"77=8\",\"" + CodiceGiusto + "\"", "\"VERDI\"", "\"NOME\"", "\"via \"Po\", 1\""}));
+                   "\"77=8\",\"" + CodiceGiusto + "\"", "\"VERDI\"", "\"NOME\"", "\"via  Po   1\""}));
   const std::string ini = sala.disco.Contenuto("C:\\WINDOWS\\PREGEO.INI");
   EXPECT_TRUE(Contiene(ini, "\r\nnumero=77=8\r\ncodc=" + CodiceGiusto + "\r\n[PROV_DI_COMP]\r\nprovincia=VE\r\n"));
   EXPECT_TRUE(Contiene(ini, "[DATI TECNICO]\r\nnome=VERDI NOME\r\ncognome=VERDI\r\nnome=NOME\r\n"));

@@ -83,6 +83,19 @@ TEST_F(ProvaDisco, PreferisceLaGrafiaEsattaPoiLaPrima) {
   EXPECT_EQ(disco.Leggi("C:\\aBC.DAT"), "c/Abc.dat") << "nothing is remembered between two calls";
 }
 
+TEST_F(ProvaDisco, DiceSeLeMaiuscolePortanoNelloStessoPosto) {
+  cartella.Metti("c/docs/a.dat", "a");
+  cartella.Metti("c/due/a.dat", "a");
+  cartella.Metti("c/DUE/a.dat", "a");
+  const struct {
+    std::string percorso;
+    bool stesso;
+  } casi[] = {{"C:\\docs\\a.dat", true},     {"C:\\docs\\nuovo.txt", true}, {"C:\\due\\a.dat", false},
+              {"C:\\due\\nuovo.txt", false}, {"C:\\DUE\\a.dat", true},      {"C:\\a:b", false}};
+  for (const auto& [percorso, stesso] : casi)
+    EXPECT_EQ(disco.StessoPosto(percorso, Maiuscolo(percorso)), stesso) << percorso;
+}
+
 TEST_F(ProvaDisco, RifiutaIPercorsiImpossibili) {
   cartella.Metti("c/x.dat", "x");
   for (const std::string& percorso :

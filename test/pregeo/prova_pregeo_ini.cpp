@@ -134,8 +134,9 @@ TEST(PregeoIni, AggiornaPrendeIDatiDelLibretto) {
   s.Nome.clear();
   s.Comuni.push_back({"E098", "", "VE", "GORIZIA BIS"}); // the last row of a code stands
   AggiornaConfigurazionePregeo(banco.ambiente);
-  EXPECT_EQ(banco.disco.Contenuto(Percorso), "[DATI TECNICO]\nnome=VERDI ANNA\nqualifica=ARCHITETTO\nSIGLA PROV.=VE\n"
-                                             "[PROV_DI_COMP]\nprovincia=VE");
+  EXPECT_EQ(banco.disco.Contenuto(Percorso),
+            "[DATI TECNICO]\nnome=VERDI ANNA MARIA\nqualifica=ARCHITETTO\nSIGLA PROV.=VE\n"
+            "[PROV_DI_COMP]\nprovincia=VE");
 }
 
 TEST(Tecnico, ScrittoERiletto) {
@@ -160,6 +161,23 @@ TEST(Tecnico, ScrittoERiletto) {
   CaricaTecnico(banco.ambiente, "rossi mario.pfs");
   EXPECT_EQ(s.Cognome + s.Nome + s.Recapito + s.CodiceFiscale + s.Provincia,
             scritta.Cognome + scritta.Nome + scritta.Recapito + scritta.CodiceFiscale + scritta.Provincia);
+}
+
+TEST(Tecnico, CioCheIlFileNonTieneDiventaSpazioESiDice) {
+  Banco banco;
+  Sessione& s = banco.sessione;
+  s.Cognome = "ROSSI";
+  s.Nome = "MARIO";
+  s.Strumentazione = "GPS, \"TOTALE\"";
+  s.NumeroIscrizione = "12";
+  s.Recapito = "VIA ROMA, 1";
+  SalvaTecnico(banco.ambiente);
+  ASSERT_EQ(banco.dialoghi.detti.size(), 1U);
+  EXPECT_EQ(banco.dialoghi.detti[0].titolo, "Salva Tecnico");
+  EXPECT_EQ(s.Recapito, "VIA ROMA, 1"); // row 9 and PREGEO.INI hold it
+  s.Nome = s.NumeroIscrizione = s.Recapito = "?";
+  CaricaTecnico(banco.ambiente, "rossi mario.pfs");
+  EXPECT_EQ(s.Nome + "/" + s.NumeroIscrizione + "/" + s.Recapito, "MARIO/12/VIA ROMA  1");
 }
 
 TEST(Tecnico, CortoMancanteEConVirgola) {

@@ -41,6 +41,10 @@ bool DiscoInMemoria::EsisteCartella(std::string_view percorso) const {
   return chiave.size() == 2 || std::find(cartelle.begin(), cartelle.end(), chiave) != cartelle.end();
 }
 
+bool DiscoInMemoria::StessoPosto(std::string_view percorso, std::string_view altro) const {
+  return Chiave(percorso) == Chiave(altro);
+}
+
 void DiscoInMemoria::ControllaRotto(std::string_view percorso) const {
   if (const auto rotto = rotti.find(Chiave(percorso)); rotto != rotti.end()) throw Errore(rotto->second);
 }

@@ -29,6 +29,7 @@ public:
 
   [[nodiscard]] bool Esiste(std::string_view percorso) const override;
   [[nodiscard]] bool EsisteCartella(std::string_view percorso) const override;
+  [[nodiscard]] bool StessoPosto(std::string_view percorso, std::string_view altro) const override;
   [[nodiscard]] std::string Leggi(std::string_view percorso) const override;
   [[nodiscard]] std::string LeggiInizio(std::string_view percorso, std::size_t byte) const override;
   void Scrivi(std::string_view percorso, std::string_view contenuto) override;

@@ -5,6 +5,7 @@
 #include <ui/disegno/grafica_superficie.h>
 #include <ui/disegno/grafica_uscite.h>
 
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/mostra_errore.h>
 #include <core/servizi.h>
@@ -54,7 +55,7 @@ void MostraDidascalia(QToolBar& barra, QAction* voce) {
 // Folder and bare name of the picture proposed: those of the drawing.
 RichiestaFile RichiestaImmagine(const std::string& disegno) {
   const std::string_view nome = NomeDaPercorso(disegno);
-  const std::string_view radice = nome.substr(0, nome.rfind('.'));
+  const std::string_view radice = SenzaEstensione(nome);
   return {"Salva immagine", disegno.substr(0, disegno.size() - nome.size()),
           std::string(radice.empty() ? "Disegno" : radice) + ".PNG",
           "Immagine PNG (*.png *.PNG);;Disegno SVG (*.svg *.SVG);;Documento PDF (*.pdf *.PDF)"};
