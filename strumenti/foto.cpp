@@ -61,7 +61,6 @@ public:
   }
   void Scrivi(std::string_view /*percorso*/, std::string_view /*contenuto*/) override {}
   [[nodiscard]] Istante Modificato(std::string_view percorso) const override { return disco_.Modificato(percorso); }
-  void Rimpiazza(std::string_view /*percorso*/, std::string_view /*contenuto*/) override {}
   void CreaCartella(std::string_view /*percorso*/) override {}
   void Copia(std::string_view /*da*/, std::string_view /*a*/) override {}
   void Elimina(std::string_view /*percorso*/) override {}

@@ -37,16 +37,14 @@ public:
   // At most the first `byte` bytes of a file. Errors as Leggi.
   [[nodiscard]] virtual std::string LeggiInizio(std::string_view percorso, std::size_t byte) const = 0;
 
-  // Replaces or creates a file, in place. Errors: 61 disk full (told before the
-  // old content is touched where the machine can tell), 70, 75 read-only or a
-  // folder, 76 its folder is not there.
+  // Replaces or creates a file, whole: whatever happens while writing, the old content or the new one is there. Links
+  // are followed and rights kept. Where a new file cannot be put in the old one's place it is written in place, and a
+  // copy of the old content is kept until the write is known good. Errors: 61 disk full, 70, 75 read-only or a folder,
+  // 76 its folder is not there.
   virtual void Scrivi(std::string_view percorso, std::string_view contenuto) = 0;
 
   // When a file was last written, local time. Error 53 not there.
   [[nodiscard]] virtual Istante Modificato(std::string_view percorso) const = 0;
-
-  // As Scrivi, but a file that exists is replaced whole or stays as it was, whatever happens while writing.
-  virtual void Rimpiazza(std::string_view percorso, std::string_view contenuto) = 0;
 
   // Creates one folder in a folder that exists. Errors: 75 already there, 76
   // its parent is not there.

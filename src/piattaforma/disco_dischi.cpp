@@ -170,14 +170,6 @@ Istante DiscoDischi::Modificato(std::string_view percorso) const {
   return IstanteLocale(stato.st_mtime);
 }
 
-void DiscoDischi::Rimpiazza(std::string_view percorso, std::string_view contenuto) {
-  fs::path ospite = PercorsoOspite(percorso);
-  std::error_code guasto;
-  if (fs::is_symlink(ospite, guasto) && fs::exists(ospite, guasto)) ospite = fs::canonical(ospite, guasto);
-  if (fs::exists(ospite, guasto) && !fs::is_regular_file(ospite, guasto)) throw Errore(errore::AccessoAlFile);
-  RimpiazzaFileOspite(ospite, contenuto);
-}
-
 void DiscoDischi::CreaCartella(std::string_view percorso) {
   const fs::path ospite = PercorsoOspite(percorso);
   if (EsisteVoce(ospite)) throw Errore(errore::AccessoAlFile);

@@ -26,7 +26,6 @@ public:
   [[nodiscard]] std::string LeggiInizio(std::string_view percorso, std::size_t byte) const override;
   void Scrivi(std::string_view percorso, std::string_view contenuto) override;
   [[nodiscard]] Istante Modificato(std::string_view percorso) const override;
-  void Rimpiazza(std::string_view percorso, std::string_view contenuto) override;
   void CreaCartella(std::string_view percorso) override;
   void Copia(std::string_view da, std::string_view a) override;
   void Elimina(std::string_view percorso) override;

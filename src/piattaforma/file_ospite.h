@@ -15,12 +15,10 @@ inline constexpr std::size_t FileIntero = std::numeric_limits<std::size_t>::max(
 // device or a fault while reading.
 [[nodiscard]] std::string LeggiFileOspite(const std::filesystem::path& file, std::size_t massimo = FileIntero);
 
-// Replaces or creates a file, in place. Errors: 61 no room, told before the old content is touched unless the room goes
-// while writing; 70 not allowed; 75 a folder, or no write permission for anybody; 76 its folder is not there.
+// Replaces or creates a file, whole: killed at any moment it leaves the old content or the new one. Links are followed;
+// owner, rights and further names stay. Where no new file can take the old one's place it is written in place, with a
+// copy of the old content kept until the new one is known good. Errors: 61 no room; 70 not allowed; 75 a folder, or no
+// write permission for anybody; 76 its folder is not there.
 void ScriviFileOspite(const std::filesystem::path& file, std::string_view contenuto);
-
-// The same, but through a new file beside it that takes its place when it is whole: a file that exists is replaced,
-// with its permissions, or stays as it was.
-void RimpiazzaFileOspite(const std::filesystem::path& file, std::string_view contenuto);
 
 } // namespace lirmeto

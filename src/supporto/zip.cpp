@@ -27,7 +27,7 @@ bool ZipClass::WriteZip(std::string_view percorso, bool sovrascrivi) {
   const std::size_t inizioElenco = archivio.size();
   for (const ZipFile& file : file_) ScriviCentrale(file, archivio);
   ScriviFine(file_.size(), inizioElenco, commento_, archivio);
-  disco_.Rimpiazza(percorso, archivio);
+  disco_.Scrivi(percorso, archivio);
   return true;
 }
 

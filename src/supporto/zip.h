@@ -29,7 +29,7 @@ public:
 
   // Writes the archive. One that exists is replaced whole; it stays as it was when `sovrascrivi` is false, with the
   // answer false, and when an error ends the writing. Errors: 6 for more entries, bytes or letters than the format can
-  // tell; those of Disco::Rimpiazza.
+  // tell; those of Disco::Scrivi.
   [[nodiscard]] bool WriteZip(std::string_view percorso, bool sovrascrivi);
 
 private:

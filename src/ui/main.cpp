@@ -20,6 +20,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
 
+#include <csignal>
+
 namespace {
 
 using namespace lirmeto;
@@ -94,6 +96,7 @@ int Lavora(const Opzioni& opzioni) {
 } // namespace
 
 int main(int argc, char** argv) {
+  std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an error to tell and not a death
   QApplication applicazione(argc, argv);
   QApplication::setApplicationName(QStringLiteral("lirmeto"));
   QApplication::setApplicationVersion(QString::fromUtf8(NumeroMaggiore) + u'.' + QString::fromUtf8(NumeroRevisione));

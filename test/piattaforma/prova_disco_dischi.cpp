@@ -13,6 +13,7 @@
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <tuple>
 #include <unistd.h>
 #include <vector>
 
@@ -141,10 +142,6 @@ TEST_F(ProvaDisco, DiceIlNumeroGiusto) {
       {"write pipe", 75, [&] { disco.Scrivi("C:\\tubo", "x"); }},
       {"write read-only", 75, [&] { disco.Scrivi("C:\\PROTETTO.DAT", "x"); }},
       {"write long name", 52, [&] { disco.Scrivi(lungo, "x"); }},
-      {"replace missing folder", 76, [&] { disco.Rimpiazza("C:\\manca\\x.dat", "x"); }},
-      {"replace folder", 75, [&] { disco.Rimpiazza("C:\\SUB", "x"); }},
-      {"replace pipe", 75, [&] { disco.Rimpiazza("C:\\tubo", "x"); }},
-      {"replace read-only", 75, [&] { disco.Rimpiazza("C:\\PROTETTO.DAT", "x"); }},
       {"time of missing", 53, [&] { (void)disco.Modificato("C:\\manca.dat"); }},
       {"make existing", 75, [&] { disco.CreaCartella("C:\\SUB"); }},
       {"make over a file", 75, [&] { disco.CreaCartella("C:\\X.dat"); }},
@@ -164,39 +161,76 @@ TEST_F(ProvaDisco, ChiNonPuoLeggereOScrivereHa70) {
   if (::geteuid() == 0) GTEST_SKIP() << "nothing is forbidden to root";
   ::chmod(cartella.Metti("c/chiuso.dat", "x").c_str(), 0200);
   EXPECT_EQ(NumeroDi([&] { (void)disco.Leggi("C:\\chiuso.dat"); }), 70);
+  ::chmod(cartella.Metti("c/mio.dat", "vecchio").c_str(), 0644);
   ::chmod((cartella.Radice() / "c").c_str(), 0555);
   EXPECT_EQ(NumeroDi([&] { disco.Scrivi("C:\\nuovo.dat", "x"); }), 70);
   EXPECT_EQ(NumeroDi([&] { disco.CreaCartella("C:\\nuova"); }), 70);
   EXPECT_EQ(NumeroDi([&] { disco.Elimina("C:\\chiuso.dat"); }), 70);
+  ::setenv("XDG_DATA_HOME", cartella.Radice().c_str(), 1);
+  disco.Scrivi("C:\\mio.dat", "nuovo"); // in place: nothing can be made beside it
+  ::unsetenv("XDG_DATA_HOME");
+  EXPECT_EQ(disco.Leggi("C:\\mio.dat"), "nuovo");
+  EXPECT_TRUE(fs::is_empty(cartella.Radice() / "lirmeto/copie"));
   ::chmod((cartella.Radice() / "c").c_str(), 0755);
 }
 
-TEST_F(ProvaDisco, DiscoPienoNonToccaIlVecchioFile) {
-  cartella.Metti("c/x.dat", "il vecchio contenuto");
-  struct rlimit prima {};
-  ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &prima), 0);
-  const auto segnale = std::signal(SIGXFSZ, SIG_IGN);
-  const struct rlimit poco { 1000, prima.rlim_max };
-  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &poco), 0);
-  EXPECT_EQ(NumeroDi([&] { disco.Scrivi("C:\\x.dat", std::string(1001, 'x')); }), 61);
-  EXPECT_EQ(NumeroDi([&] { disco.Scrivi("C:\\y.dat", std::string(1000, 'x')); }), 0);
-  ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &prima), 0);
-  std::signal(SIGXFSZ, segnale);
-  EXPECT_EQ(disco.Leggi("C:\\x.dat"), "il vecchio contenuto");
-  EXPECT_EQ(disco.Leggi("C:\\y.dat").size(), 1000U);
+// A disk that takes so many bytes of a file and no more.
+class DiscoCorto {
+public:
+  explicit DiscoCorto(rlim_t byte) : segnale_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &prima_);
+    const struct rlimit poco { byte, prima_.rlim_max };
+    ::setrlimit(RLIMIT_FSIZE, &poco);
+  }
+  DiscoCorto(const DiscoCorto&) = delete;
+  DiscoCorto& operator=(const DiscoCorto&) = delete;
+  ~DiscoCorto() {
+    ::setrlimit(RLIMIT_FSIZE, &prima_);
+    std::signal(SIGXFSZ, segnale_);
+  }
+
+private:
+  struct rlimit prima_ {};
+  void (*segnale_)(int);
+};
+
+TEST_F(ProvaDisco, UnGuastoAMetaLasciaIlVecchio) {
+  const std::string vecchio(900, 'v');
+  cartella.Metti("c/x.dat", vecchio);
+  fs::create_hard_link(cartella.Metti("c/due.dat", vecchio), cartella.Radice() / "c/nomi.dat"); // written in place
+  {
+    const DiscoCorto corto(1000);
+    for (const char* file : {"C:\\x.dat", "C:\\due.dat", "C:\\nuovo.dat"})
+      EXPECT_EQ(NumeroDi([&] { disco.Scrivi(file, std::string(1001, 'n')); }), 61) << file;
+    EXPECT_EQ(NumeroDi([&] { disco.Scrivi("C:\\y.dat", std::string(1000, 'n')); }), 0);
+  }
+  for (const char* file : {"C:\\x.dat", "C:\\due.dat", "C:\\nomi.dat"}) EXPECT_EQ(disco.Leggi(file), vecchio) << file;
+  EXPECT_EQ(disco.Elenca("C:\\", ""), (std::vector<std::string>{"due.dat", "nomi.dat", "x.dat", "y.dat"}));
 }
 
-TEST_F(ProvaDisco, RimpiazzaTuttoONiente) {
+TEST_F(ProvaDisco, UnNuovoFilePrendeIlPostoColSuoNomeEISuoiDiritti) {
   const auto file = cartella.Metti("c/vero.dat", "il vecchio contenuto");
   ::chmod(file.c_str(), 0640);
-  fs::create_hard_link(file, cartella.Radice() / "c/altro.dat");
-  fs::create_symlink("vero.dat", cartella.Radice() / "c/x.dat");
-  disco.Rimpiazza("C:\\X.dat", "nuovo");
-  EXPECT_EQ(disco.Leggi("C:\\vero.dat"), "nuovo") << "what the link leads to, not the link";
-  EXPECT_TRUE(fs::is_symlink(cartella.Radice() / "c/x.dat"));
-  EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
-  EXPECT_EQ(disco.Leggi("C:\\altro.dat"), "il vecchio contenuto") << "one in its place, not the same file";
-  EXPECT_EQ(disco.Elenca("C:\\", "").size(), 3U) << "nothing is left beside it";
+  struct stat prima {};
+  ASSERT_EQ(::stat(file.c_str(), &prima), 0);
+  fs::create_symlink("vero.dat", cartella.Radice() / "c/mezzo.dat");
+  fs::create_symlink("mezzo.dat", cartella.Radice() / "c/x.dat");
+  fs::create_symlink("manca.dat", cartella.Radice() / "c/vuoto.dat");
+  disco.Scrivi("C:\\X.dat", "nuovo");
+  disco.Scrivi("C:\\vuoto.dat", "nato");
+  EXPECT_EQ(disco.Leggi("C:\\vero.dat"), "nuovo") << "what the links lead to, not the links";
+  EXPECT_EQ(disco.Leggi("C:\\manca.dat"), "nato");
+  for (const char* collegamento : {"c/x.dat", "c/mezzo.dat", "c/vuoto.dat"})
+    EXPECT_TRUE(fs::is_symlink(cartella.Radice() / collegamento));
+  struct stat dopo {};
+  ASSERT_EQ(::stat(file.c_str(), &dopo), 0);
+  EXPECT_NE(dopo.st_ino, prima.st_ino) << "one in its place, not the same file";
+  EXPECT_EQ(std::tie(dopo.st_mode, dopo.st_uid, dopo.st_gid), std::tie(prima.st_mode, prima.st_uid, prima.st_gid));
+  EXPECT_EQ(disco.Elenca("C:\\", "").size(), 5U) << "nothing is left beside it";
+}
+
+TEST_F(ProvaDisco, IlTempoEQuelloDellUltimaScrittura) {
+  const auto file = cartella.Metti("c/x.dat", "x");
   const struct timespec allora[2] = {{1709247599, 0}, {1709247599, 0}}; // 29-2-2024, 22:59:59 UTC
   ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), allora, 0), 0);
   const Istante modificato = disco.Modificato("C:\\x.dat");
