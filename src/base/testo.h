@@ -54,6 +54,17 @@ inline constexpr std::string_view FineRiga = "\r\n";
 
 [[nodiscard]] std::string Unisci(const std::vector<std::string_view>& parti, std::string_view separatore);
 
+// Rows as one text, each followed by CR LF.
+template <typename Righe>
+[[nodiscard]] std::string RigheUnite(const Righe& righe) {
+  std::size_t lungo = 0;
+  for (const auto& riga : righe) lungo += riga.size() + FineRiga.size();
+  std::string testo;
+  testo.reserve(lungo);
+  for (const auto& riga : righe) testo.append(riga).append(FineRiga);
+  return testo;
+}
+
 // Plain replacement in one pass from left to right: what a replacement brings in is not looked at again.
 [[nodiscard]] std::string Sostituisci(std::string_view testo, std::string_view da, std::string_view a);
 

@@ -85,18 +85,15 @@ std::size_t ElencoRighe::TogliSe(std::size_t primo, const std::function<bool(std
   for (std::size_t i = primo; i < righe_.size(); ++i)
     if (via(i)) tolte.push_back(i);
   if (tolte.empty()) return 0;
-  auto& viste = righe_.Viste();
+  righe_.TogliPosti(tolte);
   std::size_t nuovo = tolte.front();
   auto prossima = tolte.begin();
-  for (std::size_t i = tolte.front(); i < viste.size(); ++i) {
-    if (prossima != tolte.end() && *prossima == i) {
+  for (std::size_t i = tolte.front(); i < selezionate_.size(); ++i) {
+    if (prossima != tolte.end() && *prossima == i)
       ++prossima;
-      continue;
-    }
-    viste[nuovo] = viste[i];
-    selezionate_[nuovo++] = selezionate_[i];
+    else
+      selezionate_[nuovo++] = selezionate_[i];
   }
-  viste.resize(nuovo);
   selezionate_.resize(nuovo);
   Indice(indice_ - (std::lower_bound(tolte.begin(), tolte.end(), static_cast<std::size_t>(std::max(indice_, 0L))) -
                     tolte.begin()));

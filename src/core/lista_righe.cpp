@@ -30,6 +30,10 @@ void ListaRighe::clear() {
   copie_.reset();
 }
 
+void ListaRighe::AggiungiViste(std::span<const std::string_view> righe) {
+  righe_.insert(righe_.end(), righe.begin(), righe.end());
+}
+
 void ListaRighe::Inserisci(std::size_t indice, std::string_view riga) {
   if (indice > righe_.size()) throw Errore(errore::IndiceFuoriIntervallo);
   righe_.insert(righe_.begin() + static_cast<std::ptrdiff_t>(indice), Copiata(riga));
@@ -37,6 +41,23 @@ void ListaRighe::Inserisci(std::size_t indice, std::string_view riga) {
 
 void ListaRighe::Togli(std::size_t indice) {
   righe_.erase(righe_.begin() + static_cast<std::ptrdiff_t>(Controlla(indice)));
+}
+
+void ListaRighe::TogliPosti(std::span<const std::size_t> posti) {
+  auto prossimo = posti.begin();
+  std::size_t posto = 0;
+  TogliSe([&](std::string_view /*riga*/) {
+    const bool via = prossimo != posti.end() && *prossimo == posto++;
+    if (via) ++prossimo;
+    return via;
+  });
+}
+
+void ListaRighe::CambiaTratto(std::size_t inizio, std::size_t quante, std::span<const std::string_view> righe) {
+  if (inizio > righe_.size() || quante > righe_.size() - inizio) throw Errore(errore::IndiceFuoriIntervallo);
+  const auto da = righe_.begin() + static_cast<std::ptrdiff_t>(inizio);
+  const auto posto = righe_.erase(da, da + static_cast<std::ptrdiff_t>(quante));
+  righe_.insert(posto, righe.begin(), righe.end());
 }
 
 } // namespace lirmeto

@@ -6,6 +6,7 @@
 #include <deque>
 #include <initializer_list>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,15 +42,27 @@ public:
   void Riserva(std::size_t righe) { righe_.reserve(righe); }
   // A row of a text that the list keeps.
   void AggiungiVista(std::string_view riga) { righe_.push_back(riga); }
+  void AggiungiViste(std::span<const std::string_view> righe);
   // A row of any other text, which is copied.
   void Aggiungi(std::string_view riga) { righe_.push_back(Copiata(riga)); }
 
   void Inserisci(std::size_t indice, std::string_view riga);
   void Cambia(std::size_t indice, std::string_view riga) { righe_[Controlla(indice)] = Copiata(riga); }
+  // A row of a text that the list keeps in place of another.
+  void CambiaVista(std::size_t indice, std::string_view riga) { righe_[Controlla(indice)] = riga; }
   void Togli(std::size_t indice);
-
-  // The rows themselves, for reordering or thinning them out in place.
-  [[nodiscard]] std::vector<std::string_view>& Viste() { return righe_; }
+  // The rows at these places go, which stand in order.
+  void TogliPosti(std::span<const std::size_t> posti);
+  // The rows go that the predicate is true for. It sees each once, in order.
+  template <typename Predicato>
+  void TogliSe(Predicato via) {
+    std::size_t restano = 0;
+    for (const auto riga : righe_)
+      if (!via(riga)) righe_[restano++] = riga;
+    righe_.resize(restano);
+  }
+  // Rows of texts that the list keeps in place of so many others.
+  void CambiaTratto(std::size_t inizio, std::size_t quante, std::span<const std::string_view> righe);
 
   // The same rows in the same order, whatever texts they lie in.
   [[nodiscard]] bool operator==(const ListaRighe& altra) const { return righe_ == altra.righe_; }

@@ -92,7 +92,7 @@ private:
   void Metti(std::size_t posto, const RigaTagliata& riga, std::string_view nome) {
     const std::string_view pulito = Taglia(nome);
     if (riga.testa.size() + pulito.size() + riga.coda.size() == riga.intera.size())
-      righe_.Viste()[posto] = riga.intera;
+      righe_.CambiaVista(posto, riga.intera);
     else
       righe_.Cambia(posto, std::string(riga.testa) + std::string(pulito) + std::string(riga.coda));
   }

@@ -153,10 +153,7 @@ void Storia::Scambia(Passo& passo, Sessione& sessione) {
   TestoCondiviso libretto = LibrettoDiverso(sessione);
   ListaRighe righe = sessione.List1.Righe();
   Tratto tolte = Copia(righe, passo.inizio, passo.quante);
-  auto& viste = righe.Viste();
-  const auto da = viste.begin() + static_cast<std::ptrdiff_t>(passo.inizio);
-  const auto posto = viste.erase(da, da + static_cast<std::ptrdiff_t>(passo.quante));
-  viste.insert(posto, passo.altre.righe.begin(), passo.altre.righe.end());
+  righe.CambiaTratto(passo.inizio, passo.quante, passo.altre.righe);
   righe.Tieni(passo.altre.testo);
   sessione.Libretto = passo.libretto ? *passo.libretto : Unite(righe);
   sessione.List1.Riempi(std::move(righe));

@@ -80,7 +80,7 @@ void CaricaEstrattoSuKRCalcolo(Ambiente& ambiente, KR_Calcolo& calcolo, std::str
        {&calcolo.Tutto, &calcolo.Riga8, &calcolo.Riga7, &calcolo.PF, &calcolo.Misurate, &calcolo.Particelle})
     griglia->Tieni(file);
   for (ListaRighe* lista : {&calcolo.TuttoList, &calcolo.List1, &calcolo.List2}) lista->Tieni(file);
-  calcolo.TuttoList.Viste() = RigheDi(*file);
+  calcolo.TuttoList.AggiungiViste(RigheDi(*file));
   NomeParticella particella;
   for (const auto riga : calcolo.TuttoList) AggiungiRiga(calcolo, riga, particella);
 }

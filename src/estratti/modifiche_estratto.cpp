@@ -9,13 +9,12 @@ namespace lirmeto {
 
 void EliminaParticellaEstratto(KR_Estratto& estratto, std::string_view nome) {
   constexpr std::size_t primoNome = 3; // places before the last
-  std::erase_if(estratto.SETTE.Viste(),
-                [nome](std::string_view riga) { return CampoDaUltimo(riga, primoNome) == nome; });
+  estratto.SETTE.TogliSe([nome](std::string_view riga) { return CampoDaUltimo(riga, primoNome) == nome; });
   EliminaPuntiIsolati(estratto);
 }
 
 void EliminaPuntiIsolati(KR_Estratto& estratto) {
-  auto& punti = estratto.Punti.Viste();
+  ListaRighe& punti = estratto.Punti;
   IndiceIdentificativi indice(punti.size(), '%');
   for (std::size_t i = 0; i < punti.size(); ++i)
     indice.Aggiungi(SpezzaPunto(punti[i]).identificativo, static_cast<std::uint32_t>(i));
@@ -27,7 +26,7 @@ void EliminaPuntiIsolati(KR_Estratto& estratto) {
     for (std::size_t i = 1; i + 1 < campi.Quanti(); ++i)
       if (const auto posto = indice.Cerca(campi[i]); posto != IndiceIdentificativi::Nessuno) usato[posto] = true;
   }
-  std::erase_if(punti, [&](std::string_view riga) { return !usato[indice.Cerca(SpezzaPunto(riga).identificativo)]; });
+  punti.TogliSe([&](std::string_view riga) { return !usato[indice.Cerca(SpezzaPunto(riga).identificativo)]; });
 }
 
 bool PulisciEstratto(Ambiente& ambiente, std::string_view nome) {

@@ -8,6 +8,7 @@
 #include <fiduciali/taf.h>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace lirmeto {
@@ -45,13 +46,13 @@ std::string RigaQuota(const RecordTaf& taf) {
 
 // The rows of the list, with these in place of all rows 8 behind the first row.
 ListaRighe ConRighe8(ListaRighe righe, const std::vector<std::string>& nuove) {
-  auto& viste = righe.Viste();
-  const auto inizio = viste.begin() + (viste.empty() ? 0 : 1);
-  const auto posto = std::find_if(inizio, viste.end(), Riga8) - viste.begin();
-  viste.erase(std::remove_if(inizio, viste.end(), Riga8), viste.end());
-  const auto rimaste = static_cast<std::ptrdiff_t>(viste.size());
-  for (const std::string& riga : nuove) righe.Aggiungi(riga);
-  std::rotate(viste.begin() + posto, viste.begin() + rimaste, viste.end());
+  const auto inizio = righe.begin() + (righe.empty() ? 0 : 1);
+  const auto posto = static_cast<std::size_t>(std::find_if(inizio, righe.end(), Riga8) - righe.begin());
+  bool prima = true; // the first row stays, whatever it is
+  righe.TogliSe([&](std::string_view riga) { return !std::exchange(prima, false) && Riga8(riga); });
+  const auto testo = std::make_shared<const std::string>(RigheUnite(nuove));
+  righe.CambiaTratto(posto, 0, RigheDi(*testo));
+  righe.Tieni(testo);
   return righe;
 }
 

@@ -110,7 +110,7 @@ bool HaSezioni(std::string_view testo) {
 
 ListeGrafica RigheIntere(const TestoCondiviso& testo) {
   ListeGrafica liste;
-  liste.List2[0].Viste() = RigheDi(*testo);
+  liste.List2[0].AggiungiViste(RigheDi(*testo));
   liste.List2[0].Tieni(testo);
   return liste;
 }

@@ -135,8 +135,8 @@ void KR_StampaGenerale::CambiaCarattere() {
 }
 
 void KR_StampaGenerale::TogliPrimoCarattere() {
-  for (std::string_view& riga : List1.Viste())
-    if (!riga.empty()) riga.remove_prefix(1);
+  for (std::size_t i = 0; i < List1.size(); ++i)
+    if (!List1[i].empty()) List1.CambiaVista(i, List1[i].substr(1));
 }
 
 void KR_StampaGenerale::MettiBiancoDavanti() {
