@@ -5,14 +5,17 @@
 
 namespace lirmeto {
 
-void AvviaGondella(Ambiente& ambiente, std::string_view programma) {
-  const std::string percorso = ambiente.sessione.CartellaProgrammi + "\\Gondella\\" + std::string(programma);
+void AttendiInstallato(Ambiente& ambiente, const std::string& programma, const std::vector<std::string>& argomenti) {
   try {
-    AttendiProgramma(ambiente, percorso, {});
+    AttendiProgramma(ambiente, programma, argomenti);
   } catch (const Errore& guasto) {
     if (guasto.Numero() != errore::FileNonTrovato) throw;
-    throw Errore(errore::FileNonTrovato, "Programma non installato: " + percorso);
+    throw Errore(errore::FileNonTrovato, "Programma non installato: " + programma);
   }
+}
+
+void AvviaGondella(Ambiente& ambiente, std::string_view programma) {
+  AttendiInstallato(ambiente, ambiente.sessione.CartellaProgrammi + "\\Gondella\\" + std::string(programma), {});
 }
 
 } // namespace lirmeto

@@ -95,13 +95,16 @@ public:
   std::set<PostoCollegamento> negati; // places that take no shortcut
   int esitoTermina = 0;
   std::function<std::unique_ptr<ArchivioAperto>(std::string)> apriArchivio; // none: no archive can be read
+  // What a program does that is started and waited for.
+  std::function<void(const std::string& programma, const std::vector<std::string>& argomenti)> quandoAvvia;
 
   [[nodiscard]] CartelleDiSistema Cartelle() override {
     return {"C:\\users\\prova\\Documents", "C:\\WINDOWS", "C:\\users\\prova\\Temp", "C:\\Program Files (x86)"};
   }
-  void AvviaEAttendi(const std::string& programma, const std::vector<std::string>&) override {
+  void AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti) override {
     Guastati(programma);
     avviati.push_back(programma);
+    if (quandoAvvia) quandoAvvia(programma, argomenti);
   }
   void ApriDocumento(const std::string& percorso) override {
     Guastati(percorso);
