@@ -9,6 +9,7 @@ std::span<const FamigliaCli> FamiglieCli() {
       ComandiLibretto(),    //
       ComandiGenerazione(), //
       ComandiEstratto(),    //
+      ComandiFoglio(),      //
       ComandiDisegno(),     //
       ComandiModello(),     //
       ComandiZip(),         //

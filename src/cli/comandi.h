@@ -51,6 +51,8 @@ struct FamigliaCli {
 [[nodiscard]] FamigliaCli ComandiLibretto();
 // Map extracts.
 [[nodiscard]] FamigliaCli ComandiEstratto();
+// Whole cadastral sheets.
+[[nodiscard]] FamigliaCli ComandiFoglio();
 
 // The check of a fiscal code; archives.
 [[nodiscard]] FamigliaCli ComandiSupporto();

@@ -5,9 +5,12 @@
 #include <base/errore.h>
 #include <base/testo.h>
 #include <core/servizi.h>
+#include <estratti/autoallestito.h>
+#include <estratti/da_cxf.h>
 #include <estratti/dati_estratto.h>
 #include <estratti/kr_estratto.h>
 #include <estratti/modifiche_estratto.h>
+#include <estratti/unione_estratti.h>
 
 #include <array>
 
@@ -72,6 +75,25 @@ std::string ComandoRinomina(Ambiente& ambiente, const std::vector<std::string>& 
   return RinominaParticella(CaricaFileIntero(ambiente, argomenti[0]), argomenti[1], argomenti[2]);
 }
 
+std::string ComandoAutoallestito(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
+  return TrasformaInAutoallestito(CaricaFileBinario(ambiente, argomenti[0]));
+}
+
+// In the order given, each joined to what those before it made.
+std::string ComandoSomma(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
+  std::string somma = CaricaFileBinario(ambiente, argomenti[0]);
+  for (std::size_t i = 1; i < argomenti.size(); ++i)
+    somma = UnisciEstratti(somma, CaricaFileBinario(ambiente, argomenti[i]));
+  return somma;
+}
+
+std::string ComandoCxf(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
+  return EmpDaCxf(ambiente, argomenti[0]);
+}
+
+constexpr ArgomentoCli FileEAltri[] = {{"FILE", GenereArgomento::File, "primo estratto"},
+                                       {"ALTRI", GenereArgomento::AltriFile, "estratti da aggiungere"}};
+
 constexpr ArgomentoCli FileEParticella[] = {
     {"FILE", GenereArgomento::File, "file da aprire"},
     {"PARTICELLA", GenereArgomento::Testo, "nome della particella, col suo segno"}};
@@ -80,18 +102,28 @@ constexpr ArgomentoCli FileEDueNomi[] = {{"FILE", GenereArgomento::File, "file d
                                          {"ATTUALE", GenereArgomento::Testo, "nome attuale della particella"},
                                          {"NUOVO", GenereArgomento::Testo, "nome nuovo"}};
 
-constexpr std::array<ComandoCli, 5> Comandi = {{
+constexpr std::array<ComandoCli, 7> Comandi = {{
     {"mostra", "i valori dell'estratto e la sua scadenza", UnFile, ComandoMostra},
     {"salva", "l'estratto come si salva", UnFile, ComandoSalva},
     {"pulisci", "l'estratto senza i punti isolati", UnFile, ComandoPulisci},
     {"elimina", "l'estratto senza una particella", FileEParticella, ComandoElimina},
     {"rinomina", "l'estratto con una particella rinominata", FileEDueNomi, ComandoRinomina},
+    {"autoallestito", "l'estratto come autoallestito", UnFile, ComandoAutoallestito},
+    {"somma", "la somma di due o più estratti", FileEAltri, ComandoSomma},
+}};
+
+constexpr std::array<ComandoCli, 1> ComandiDelFoglio = {{
+    {"cxf", "da un foglio CXF, col suo SUP, a un estratto", UnFile, ComandoCxf},
 }};
 
 } // namespace
 
 FamigliaCli ComandiEstratto() {
   return {"estratto", "estratti di mappa", Comandi};
+}
+
+FamigliaCli ComandiFoglio() {
+  return {"", "", ComandiDelFoglio};
 }
 
 } // namespace lirmeto

@@ -1,5 +1,6 @@
 #include <estratti/modifiche_estratto.h>
 
+#include <base/errore.h>
 #include <base/testo.h>
 #include <core/mostra_errore.h>
 #include <estratti/campi.h>
@@ -36,6 +37,8 @@ bool PulisciEstratto(Ambiente& ambiente, std::string_view nome) {
 }
 
 std::string RinominaParticella(std::string_view testo, std::string_view vecchio, std::string_view nuovo) {
+  if (Contiene(nuovo, "|"))
+    throw Errore(errore::ArgomentoNonValido, "Il nome di una particella non ha barre: \"" + std::string(nuovo) + "\"");
   const auto chiusura = [](std::string_view nome) {
     return "|NC|" + std::string(nome) + "|" + std::string(nome) + "|";
   };

@@ -20,6 +20,7 @@ void EliminaPuntiIsolati(KR_Estratto& estratto);
 bool PulisciEstratto(Ambiente& ambiente, std::string_view nome);
 
 // An extract's text with a parcel's new name in the closing fields of its rings; whatever else bears the name keeps it.
+// Throws Errore 5 for a new name that holds a bar.
 [[nodiscard]] std::string RinominaParticella(std::string_view testo, std::string_view vecchio, std::string_view nuovo);
 
 } // namespace lirmeto

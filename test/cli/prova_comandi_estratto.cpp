@@ -62,6 +62,37 @@ TEST_F(ProvaCli, EstrattoDaIByteDelSalvataggioENonCambiaIlFile) {
   EXPECT_EQ(CartellaProvvisoria::Prendi(file), File);
 }
 
+TEST_F(ProvaCli, AutoallestitoSommaECxfNonScrivonoAccanto) {
+  const std::string autoallestito = "0|AUTOALLESTITO|0|0|0|0|0|0|0|0|\r\n";
+  const std::string uno =
+      Metti("uno.emp", Zero + "8|1%|0|0|\n8|2T|0|0|0|VIA|\n7|2|1%|1%|NC|35|35|1|\n6|INQUADRAMENTO|1|");
+  const std::string due = Metti("due.emp", Zero + "8|1%|0|0.0001|\n8|2%|5|5|\n7|2|1%|2%|NC|36|36|1|\n");
+  const std::string anello = "7|2|1%|1%|NC|35|35|1|\r\n";
+  const auto trasformato = Lancia({"estratto", "autoallestito", uno});
+  EXPECT_EQ(trasformato.uscita, autoallestito + "8|1%|0|0|\r\n" + anello + "6|INQUADRAMENTO|1|\r\n");
+  const auto somma = Lancia({"estratto", "somma", uno, due, uno, due});
+  EXPECT_EQ(somma.uscita, autoallestito + "8|1%|0|0|\r\n8|2%|5|5|\r\n" + anello + "7|2|1%|2%|NC|36|36|1|\r\n");
+  EXPECT_EQ(trasformato.errori + somma.errori, "");
+  EXPECT_EQ(Lancia({"estratto", "somma", uno}).codice, 2);
+  EXPECT_EQ(CartellaProvvisoria::Prendi(due).size(), Zero.size() + 47);
+}
+
+TEST_F(ProvaCli, CxfDaLEstrattoESenzaSupLoDice) {
+  const std::string foglio =
+      Metti("g.cxf", "MAPPA\nG\n2000\nBORDO\n35\n10\n0\n1\n1\n1\n1\n   0\n   2\n 1.5\n 2\n3\n4\nEOF\n");
+  const auto senza = Lancia({"cxf", foglio});
+  EXPECT_EQ(senza.codice, 0);
+  EXPECT_NE(senza.errori.find("NON TROVATO!"), std::string::npos);
+  (void)Metti("g.sup", "G 20180312\n35            120\n");
+  const auto con = Lancia({"cxf", foglio});
+  EXPECT_EQ(con.errori, "");
+  EXPECT_EQ(con.uscita, "0|12032018|PD0012345/2018|G224|00042|101,102,103|PD|PUB|ROSMRA|10000000000017|\r\n"
+                        "8|1%| 2| 1.5|\r\n8|2%|4|3|\r\n7|2|1%|2%|NC|35|35|120|\r\n6|DISTORSIONE|1.5|\r\n"
+                        "6|SCALAORIGINARIA|2000|\r\n6|INQUADRAMENTO|3|4|0.1693333333|0|0|0|\r\n");
+  EXPECT_NE(senza.uscita.find("|NC|35|35|20|"), std::string::npos);
+  EXPECT_EQ(Lancia({"cxf", Metti("rotto.cxf", "MAPPA\n")}).codice, 1);
+}
+
 TEST_F(ProvaCli, EstrattoGuastoNienteRisultato) {
   const std::string corto = Metti("corto.emp", "0|1|2|\r\n");
   for (const char* comando : {"mostra", "salva", "pulisci"}) {
@@ -73,6 +104,7 @@ TEST_F(ProvaCli, EstrattoGuastoNienteRisultato) {
   EXPECT_EQ(Lancia({"estratto", "salva", corto + "x"}).codice, 3);
   EXPECT_EQ(Lancia({"estratto", "elimina", corto}).codice, 2);
   EXPECT_EQ(Lancia({"estratto", "rinomina", corto, "", "B"}).codice, 1);
+  EXPECT_EQ(Lancia({"estratto", "rinomina", corto, "A", "B|C"}).codice, 1);
 }
 
 } // namespace lirmeto::prova
