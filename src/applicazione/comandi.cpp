@@ -88,7 +88,7 @@ constexpr std::array ElencoVoci = {
     VoceMenu{Utilita, {}, "Ricarica da Storico", Comando::NessunaAzione},
     VoceMenu{Utilita, {}, "PF-VE", Comando::NessunaAzione},
     VoceMenu{Utilita, {}, "Crea Collegamenti Pregeo", Comando::CreaCollegamenti},
-    VoceMenu{Utilita, {}, "Info Misurate PF", Comando::NonDisponibile},
+    VoceMenu{Utilita, {}, "Info Misurate PF", Comando::InfoMisuratePF},
     VoceMenu{Utilita, {}, Separatore, Comando::NessunaAzione},
     VoceMenu{Utilita, {}, "Guarda un Disegno", Comando::Disegno},
     VoceMenu{Utilita, {}, "Cerca Comune", Comando::CodiceFiscale},

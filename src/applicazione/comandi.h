@@ -61,6 +61,7 @@ enum class Comando {
   Comuni,
   ArchivioPossessori,
   Autore,
+  InfoMisuratePF, // the fiducial points of the libretto against the archives
   Configurazione, // as a report
   PaginaWeb,
 };

@@ -11,6 +11,7 @@
 #include <core/salvataggio.h>
 #include <core/servizi.h>
 #include <core/zero_nove.h>
+#include <fiduciali/misurate_pf.h>
 #include <pregeo/collegamenti.h>
 
 #include <algorithm>
@@ -23,16 +24,21 @@ namespace {
 
 using Routine = void (*)(Ambiente&);
 
-constexpr std::array<std::pair<Comando, Routine>, 6> Selezioni = {{
+constexpr auto Selezioni = std::to_array<std::pair<Comando, Routine>>({
     {Comando::SelezionaRighe1, SelezionaRighe1},
     {Comando::SelezionaPuntiFiduciali, SelezionaPuntiFiduciali},
     {Comando::InvertiSelezione, InvertiSelezione},
     {Comando::SelezionaStazioni, Seleziona_Stazioni},
     {Comando::SelezionaSquadri, Seleziona_Squadri},
     {Comando::SelezionaContorni, Seleziona_Contorni},
-}};
+});
 
-constexpr std::array<std::pair<Comando, Routine>, 13> Comandi = {{
+void InfoMisuratePF(Ambiente& ambiente) {
+  AggiornaLibrettoMisure(ambiente);
+  CalcolaMisuratePF_DaLibretto(ambiente);
+}
+
+constexpr auto Comandi = std::to_array<std::pair<Comando, Routine>>({
     {Comando::EliminaVrs, EliminaVrs},
     {Comando::AssegnaVrs, AssegnaVrs},
     {Comando::StampaLibretto, StampaLibretto},
@@ -46,7 +52,8 @@ constexpr std::array<std::pair<Comando, Routine>, 13> Comandi = {{
     {Comando::KillPregeo, TerminaPregeo},
     {Comando::CreaCollegamenti, CreaCollegamentiPregeo},
     {Comando::Autore, MostraAutore},
-}};
+    {Comando::InfoMisuratePF, InfoMisuratePF},
+});
 
 template <std::size_t N>
 bool EseguiDa(const std::array<std::pair<Comando, Routine>, N>& tabella, Comando comando, Ambiente& ambiente) {

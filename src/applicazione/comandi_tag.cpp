@@ -7,6 +7,8 @@
 #include <core/mostra_errore.h>
 #include <core/servizi.h>
 #include <fiduciali/misurate.h>
+#include <generazione/misurate_disegno.h>
+#include <generazione/tabelle_disegno.h>
 #include <pregeo/copia_estratto.h>
 
 #include <algorithm>
@@ -23,8 +25,6 @@ namespace lirmeto {
 //   a command whose window is to come        says so before it asks the user for anything
 
 namespace {
-
-constexpr std::string_view EstensioneDisegno = ".LXC";
 
 void ApriFile(Ambiente& ambiente, const std::string& percorso) {
   if (!EstensioneEstratto(percorso)) {
@@ -109,7 +109,11 @@ constexpr std::array Conosciuti = {
                         InfoMisurate(ambiente, ambiente.sessione.ParametroTag);
                         return DopoComando::Finisce;
                       }},
-    ComandoConosciuto{"INFO_MISURATE", &Annuncia},
+    ComandoConosciuto{"INFO_MISURATE",
+                      [](Ambiente& ambiente) {
+                        CalcolaMisuratePF(ambiente);
+                        return DopoComando::Finisce;
+                      }},
     ComandoConosciuto{"DA_PREGEO", [](Ambiente& ambiente) { return ApriDaPregeo(ambiente, 0); }},
     ComandoConosciuto{"DA_PREGEO_DXF", [](Ambiente& ambiente) { return ApriDaPregeo(ambiente, 1); }},
     ComandoConosciuto{"IMPORT-INST_TAF-MISURATE",

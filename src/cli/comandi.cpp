@@ -8,6 +8,8 @@ std::span<const FamigliaCli> FamiglieCli() {
   static const std::array famiglie = {
       ComandiLibretto(),    //
       ComandiGenerazione(), //
+      ComandiMisurate(),    //
+      ComandiPf(),          //
       ComandiEstratto(),    //
       ComandiFoglio(),      //
       ComandiDisegno(),     //

@@ -18,6 +18,7 @@ enum class GenereArgomento {
   Testo,            // Windows-1252
   TestoFacoltativo, // empty when it is not given; as the last argument
   AltriTesti,       // an option that may be given more than once or not at all, as the last argument
+  Bandiera,         // an option without a value, "--disegno"; empty when it is not given
   Percorso,         // of the host, whatever stands there; given as a path with a drive
 };
 
@@ -42,6 +43,7 @@ struct FamigliaCli {
   std::string_view nome; // empty: its commands stand by themselves
   std::string_view descrizione;
   std::span<const ComandoCli> comandi;
+  const ComandoCli* daSola = nullptr; // what the name does by itself; it takes one argument: "pf NOME"
 };
 
 // All families, in the order of the help.
@@ -57,8 +59,11 @@ struct FamigliaCli {
 // The check of a fiscal code; archives.
 [[nodiscard]] FamigliaCli ComandiSupporto();
 [[nodiscard]] FamigliaCli ComandiZip();
-// A libretto from a drawing, a fiducial point.
+// A libretto from a drawing.
 [[nodiscard]] FamigliaCli ComandiGenerazione();
+// Fiducial points: the report of distances, and one point or all of a comune.
+[[nodiscard]] FamigliaCli ComandiMisurate();
+[[nodiscard]] FamigliaCli ComandiPf();
 // A drawing as the texts of other programs.
 [[nodiscard]] FamigliaCli ComandiDisegno();
 // Print models.

@@ -5,7 +5,6 @@
 #include <core/apertura.h>
 #include <core/salvataggio.h>
 #include <core/servizi.h>
-#include <fiduciali/taf.h>
 #include <generazione/libretto_da_disegno.h>
 
 #include <array>
@@ -44,21 +43,13 @@ std::string ComandoGenera(Ambiente& ambiente, const std::vector<std::string>& ar
   return TestoDaSalvare(std::move(ambiente.sessione.Libretto), ambiente.sessione);
 }
 
-std::string ComandoPf(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
-  const auto trovato = CercaPFinTAF(ambiente, argomenti[0]);
-  if (!trovato) throw Errore(errore::ArgomentoNonValido, "Punto fiduciale non trovato: \"" + argomenti[0] + "\"");
-  return AUtf8("north=" + trovato->nord + "\neast=" + trovato->est + "\n");
-}
-
 constexpr ArgomentoCli ArgomentiGenera[] = {
     {"DISEGNO", GenereArgomento::File, "disegno .LXC"},
     {"--libretto", GenereArgomento::FileFacoltativo, "libretto di partenza; senza: le righe 0 e 9 predefinite"},
     {"--opzione", GenereArgomento::AltriTesti, "CHIAVE=VALORE; ripetibile"}};
-constexpr ArgomentoCli ArgomentiPf[] = {{"NOME", GenereArgomento::Testo, "come PF01/0010/G224"}};
 
-constexpr std::array<ComandoCli, 2> Comandi = {{
+constexpr std::array<ComandoCli, 1> Comandi = {{
     {"genera", "il libretto da un disegno", ArgomentiGenera, ComandoGenera},
-    {"pf", "le coordinate di un punto fiduciale", ArgomentiPf, ComandoPf},
 }};
 
 } // namespace

@@ -100,13 +100,17 @@ bool Ripetuto(GenereArgomento genere) {
 
 bool Facoltativo(GenereArgomento genere) {
   return genere == GenereArgomento::TestoFacoltativo || genere == GenereArgomento::FileFacoltativo ||
-         genere == GenereArgomento::AltriTesti;
+         genere == GenereArgomento::AltriTesti || genere == GenereArgomento::Bandiera;
 }
 
 void AggiungiArgomento(CLI::App& voce, const ArgomentoCli& argomento, std::string& posto,
                        std::vector<std::string>& altri) {
   const std::string nome(argomento.nome);
   const std::string spiegazione(argomento.spiegazione);
+  if (argomento.genere == GenereArgomento::Bandiera) {
+    voce.add_flag(nome, posto, spiegazione);
+    return;
+  }
   CLI::Option* opzione = Ripetuto(argomento.genere) ? voce.add_option(nome, altri, spiegazione)
                                                     : voce.add_option(nome, posto, spiegazione);
   opzione->option_text(argomento.genere == GenereArgomento::AltriFile ? "..." : " ")
@@ -127,13 +131,21 @@ void AggiungiComando(CLI::App& app, const ComandoCli& comando, Scritte& scritte)
     AggiungiArgomento(*voce, comando.argomenti[i], scritte.argomenti.at(i), scritte.altri);
 }
 
+// The family's name alone, or one of its commands. Which of the two it is turns out when the line is read: until then
+// the argument of the former may be missing.
+void AggiungiFamiglia(CLI::App& padre, const FamigliaCli& famiglia, Scritte& scritte) {
+  if (famiglia.daSola == nullptr) return static_cast<void>(padre.require_subcommand(1));
+  AggiungiArgomento(padre, famiglia.daSola->argomenti[0], scritte.argomenti[0], scritte.altri);
+  padre.get_option(std::string(famiglia.daSola->argomenti[0].nome))->required(false);
+}
+
 void AggiungiComandi(CLI::App& app, Scritte& scritte) {
   app.require_subcommand(1);
   for (const FamigliaCli& famiglia : FamiglieCli()) {
     CLI::App* padre = &app;
     if (!famiglia.nome.empty()) {
       padre = AggiungiVoce(app, famiglia.nome, famiglia.descrizione);
-      padre->require_subcommand(1);
+      AggiungiFamiglia(*padre, famiglia, scritte);
     }
     for (const ComandoCli& comando : famiglia.comandi) AggiungiComando(*padre, comando, scritte);
   }
@@ -149,9 +161,11 @@ std::vector<std::string> Scelti(const CLI::App& app) {
 
 const ComandoCli* ComandoScelto(const CLI::App& app) {
   const auto nomi = Scelti(app);
-  for (const FamigliaCli& famiglia : FamiglieCli())
+  for (const FamigliaCli& famiglia : FamiglieCli()) {
+    if (nomi.size() == 1 && nomi.front() == famiglia.nome) return famiglia.daSola;
     for (const ComandoCli& comando : famiglia.comandi)
       if (nomi.back() == comando.nome && (nomi.size() == 1 ? "" : nomi.front()) == famiglia.nome) return &comando;
+  }
   return nullptr;
 }
 
@@ -226,6 +240,7 @@ std::variant<Opzioni, NienteDaFare> LeggiOpzioni(const std::vector<std::string>&
   AggiungiComandi(app, scritte);
   try {
     app.parse(std::vector<std::string>(parole.rbegin(), parole.rend())); // the parser takes from the back
+    if (ComandoScelto(app)->nome.empty() && scritte.argomenti[0].empty()) throw CLI::RequiredError("");
     return DaScritte(app, scritte);
   } catch (const CLI::CallForHelp&) {
     return NienteDaFare{0, app.help(), ""};

@@ -81,6 +81,11 @@ std::string TrovaArchivioMisurate(Ambiente& ambiente, std::string_view comune) {
   return trovato == archivi.rend() ? provincia : *trovato;
 }
 
+bool ArchivioInstallato(const Ambiente& ambiente, const std::string& nome) {
+  const std::string percorso = CartellaArchivi(ambiente.sessione) + nome;
+  return !nome.empty() && ambiente.disco.Esiste(percorso) && !ambiente.disco.EsisteCartella(percorso);
+}
+
 void ApriListaMisurate(Ambiente& ambiente, std::string_view testo) {
   const std::string percorso = ambiente.sessione.CartellaProgrammi + "\\Gondella\\temp\\Misurate.TXT";
   CreaCartelleDi(ambiente, percorso);
@@ -93,9 +98,8 @@ void InfoMisurate(Ambiente& ambiente, std::string_view nome) {
   ambiente.sessione.PuntoErrore = "InfoMisurate";
   const std::string punto = Maiuscolo(Taglia(nome));
   const std::string archivio = TrovaArchivioMisurate(ambiente, Parte(punto, '/', CampoComune));
+  if (!ArchivioInstallato(ambiente, archivio)) return ProponiArchivio(ambiente, archivio);
   const std::string percorso = CartellaArchivi(ambiente.sessione) + archivio;
-  if (archivio.empty() || !ambiente.disco.Esiste(percorso) || ambiente.disco.EsisteCartella(percorso))
-    return ProponiArchivio(ambiente, archivio);
   const std::string fine(FineRiga);
   std::string trovate = RelazioniDelPunto(ambiente, percorso, punto);
   if (trovate.empty()) trovate = "Nessuna relazione con altri PF trovata!" + fine;

@@ -29,6 +29,9 @@ void ImportaTafMisurate(Ambiente& ambiente);
 // code of the province alone when none is installed; empty when nobody knows the comune.
 [[nodiscard]] std::string TrovaArchivioMisurate(Ambiente& ambiente, std::string_view comune);
 
+// Whether an archive of this name, a file of the folder of archives, is there.
+[[nodiscard]] bool ArchivioInstallato(const Ambiente& ambiente, const std::string& nome);
+
 // Writes a report, lines with their ends, to \Gondella\temp\Misurate.TXT in the folder of the installed programs and
 // opens it as the user's desktop does.
 void ApriListaMisurate(Ambiente& ambiente, std::string_view testo);

@@ -6,6 +6,7 @@
 #include <core/servizi.h>
 
 #include <algorithm>
+#include <map>
 
 namespace lirmeto {
 
@@ -42,6 +43,21 @@ std::string NomeStretto(std::string_view riga) {
   nome += Colonne(riga, 1, 5);
   std::replace(nome.begin(), nome.end(), ' ', '0');
   return nome;
+}
+
+// Names that are looked for, and their places in the answer.
+using Cercati = std::unordered_map<std::string_view, std::vector<std::size_t>>;
+
+// The first line of each name answers for it.
+void CercaNelComune(std::string_view testo, Cercati cercati, std::vector<std::optional<CoordinatePF>>& trovati) {
+  for (const auto riga : RigheDi(testo)) {
+    if (cercati.empty()) return;
+    const auto cercato = cercati.find(NomeStretto(riga));
+    if (cercato == cercati.end()) continue;
+    for (const std::size_t indice : cercato->second)
+      trovati[indice] = {std::string(Colonne(riga, 116, 126)), std::string(Colonne(riga, 103, 113))};
+    cercati.erase(cercato);
+  }
 }
 
 } // namespace
@@ -105,14 +121,23 @@ std::string_view ArchivioTaf::Riga(std::string_view nome) {
 }
 
 std::optional<CoordinatePF> CercaPFinTAF(Ambiente& ambiente, std::string_view nome) {
-  const std::string_view cercato = Taglia(nome);
-  const std::string percorso = PercorsoTaf(ambiente.sessione, ComuneDelPunto(cercato));
-  if (percorso.empty() || !ambiente.disco.Esiste(percorso)) return std::nullopt;
-  const std::string testo = CaricaFileIntero(ambiente, percorso);
-  for (const auto riga : RigheDi(testo))
-    if (NomeStretto(riga) == cercato)
-      return CoordinatePF{std::string(Colonne(riga, 116, 126)), std::string(Colonne(riga, 103, 113))};
-  return std::nullopt;
+  const std::string uno(nome);
+  return CercaPFinTAF(ambiente, std::span(&uno, 1)).front();
+}
+
+std::vector<std::optional<CoordinatePF>> CercaPFinTAF(Ambiente& ambiente, std::span<const std::string> nomi) {
+  std::vector<std::optional<CoordinatePF>> trovati(nomi.size());
+  std::map<std::string_view, Cercati> comuni;
+  for (std::size_t i = 0; i < nomi.size(); ++i) {
+    const std::string_view nome = Taglia(nomi[i]);
+    comuni[ComuneDelPunto(nome)][nome].push_back(i);
+  }
+  for (auto& [comune, cercati] : comuni) {
+    const std::string percorso = PercorsoTaf(ambiente.sessione, comune);
+    if (!percorso.empty() && ambiente.disco.Esiste(percorso))
+      CercaNelComune(CaricaFileIntero(ambiente, percorso), std::move(cercati), trovati);
+  }
+  return trovati;
 }
 
 } // namespace lirmeto

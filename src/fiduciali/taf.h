@@ -4,6 +4,7 @@
 #include <core/ambiente.h>
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -77,5 +78,9 @@ struct CoordinatePF {
 // The quick look-up. It reads narrower columns than the record, and that is meant so: sheet 8-10, annex 11-13 ("0" when
 // blank), number 16-17, north 103-113, east 116-126. A name whose number is not filled with zeros is not found.
 [[nodiscard]] std::optional<CoordinatePF> CercaPFinTAF(Ambiente& ambiente, std::string_view nome);
+
+// The same for several names, in their order; the TAF of a comune is read once for all its points.
+[[nodiscard]] std::vector<std::optional<CoordinatePF>> CercaPFinTAF(Ambiente& ambiente,
+                                                                    std::span<const std::string> nomi);
 
 } // namespace lirmeto

@@ -30,7 +30,6 @@ namespace lirmeto {
 
 namespace {
 
-constexpr std::string_view Estensione = ".LXC";
 constexpr std::size_t RigheMinimePerOrientare = 4;
 constexpr std::size_t LineeMinimePerTogliere = 3;
 constexpr std::string_view FontNomi = "Courier New";
@@ -106,29 +105,14 @@ double DistanzaDaTratto(const LineaGrafica& tratto, double x, double y) {
 
 } // namespace
 
-std::string LibrettoDaDisegno::PercorsoDisegno() const {
-  const std::string& nome = ambiente_.sessione.NomeFileLibretto;
-  return FinisceConSenzaCaso(nome, Estensione) ? nome : nome + std::string(Estensione);
-}
-
-void LibrettoDaDisegno::CaricaGrafica() {
-  const std::string percorso = PercorsoDisegno();
-  tabelle_ = {};
-  if (!ambiente_.disco.Esiste(percorso)) {
-    ambiente_.dialoghi.Messaggio(percorso + std::string(FineRiga) + "Non Trovato!");
-    return;
-  }
-  tabelle_ = LeggiDisegno(CaricaFileBinario(ambiente_, percorso));
-}
-
 void LibrettoDaDisegno::Form_Load() {
   const Sessione& sessione = ambiente_.sessione;
   ambiente_.sessione.EsitoForm = EsitoAnnullato;
   Titolo = "Libretto Fittizio : " + sessione.NomeFileLibretto;
   Opzioni = LeggiOpzioni(ambiente_.impostazioni);
   List0 = sessione.List1.Righe();
-  CaricaGrafica();
-  Grafica1.Percorso = PercorsoDisegno();
+  tabelle_ = CaricaGrafica(ambiente_);
+  Grafica1.Percorso = PercorsoDisegno(sessione);
   List1 = ElencoLinee(tabelle_);
   if (List1.empty()) {
     std::string testo;
@@ -240,7 +224,8 @@ void LibrettoDaDisegno::ButtonPlus1_0() {
   const bool riuscito = Intrappola(ambiente_, [&] {
     if (!GeneraLibrettoMisureAutomatico()) return;
     std::string& nome = sessione.NomeFileLibretto;
-    if (FinisceConSenzaCaso(nome, Estensione)) nome = PercorsoInCapitali(ambiente_.disco, ConEstensione(nome, ".TXT"));
+    if (FinisceConSenzaCaso(nome, EstensioneDisegno))
+      nome = PercorsoInCapitali(ambiente_.disco, ConEstensione(nome, ".TXT"));
     FineProgramma = true;
   });
   if (!riuscito || !FineProgramma) return;

@@ -62,11 +62,7 @@ public:
   // has changed.
   bool GeneraLibrettoMisureAutomatico();
 
-  // The path of the drawing, with its extension.
-  [[nodiscard]] std::string PercorsoDisegno() const;
-
 private:
-  void CaricaGrafica();
   void Disegna();
   void DisegnaLinee();
   void DisegnaContorni();

@@ -88,6 +88,18 @@ TabelleDisegno LeggiDisegno(std::string_view testo) {
   return tabelle;
 }
 
+std::string PercorsoDisegno(const Sessione& sessione) {
+  const std::string& nome = sessione.NomeFileLibretto;
+  return FinisceConSenzaCaso(nome, EstensioneDisegno) ? nome : nome + std::string(EstensioneDisegno);
+}
+
+TabelleDisegno CaricaGrafica(Ambiente& ambiente) {
+  const std::string percorso = PercorsoDisegno(ambiente.sessione);
+  if (ambiente.disco.Esiste(percorso)) return LeggiDisegno(CaricaFileBinario(ambiente, percorso));
+  ambiente.dialoghi.Messaggio(percorso + std::string(FineRiga) + "Non Trovato!");
+  return {};
+}
+
 PuntiPerPosto::PuntiPerPosto(const TabelleDisegno& tabelle)
     : punti_(tabelle.Punti()), seguenti_(punti_.size(), punti_.size()) {
   celle_.reserve(punti_.size());

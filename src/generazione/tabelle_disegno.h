@@ -1,6 +1,8 @@
 #pragma once
 // A survey that exists only as a drawing: its points, lines and contours, as a .LXC file holds them.
 
+#include <core/ambiente.h>
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -63,6 +65,14 @@ private:
 // another kind are passed over.
 //   P,name,X,Y,Z,note,h       L,x1,y1,z1,x2,y2,z2       7,|a|b|RC|,type,comment
 [[nodiscard]] TabelleDisegno LeggiDisegno(std::string_view testo);
+
+inline constexpr std::string_view EstensioneDisegno = ".LXC";
+
+// Path of the session's drawing: that of its libretto's file, with the extension behind it where it lacks it.
+[[nodiscard]] std::string PercorsoDisegno(const Sessione& sessione);
+
+// The tables of the session's drawing; a file that is not there is told and has none.
+[[nodiscard]] TabelleDisegno CaricaGrafica(Ambiente& ambiente);
 
 // Where the points lie: the first point in table order nearer than five millimetres in plan.
 class PuntiPerPosto {

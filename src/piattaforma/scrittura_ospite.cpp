@@ -5,6 +5,7 @@
 #include <piattaforma/file_ospite.h>
 #include <piattaforma/posix_ospite.h>
 
+#include <base/numeri.h>
 #include <base/testo.h>
 
 #include <array>
@@ -90,7 +91,7 @@ mode_t PermessiNuovi() {
 class FileProvvisorio {
 public:
   explicit FileProvvisorio(const fs::path& cartella)
-      : percorso_((cartella / (".lirmeto." + std::to_string(::getpid()))).string()),
+      : percorso_((cartella / (".lirmeto." + TestoIntero(::getpid()))).string()),
         aperto_(::open(cartella.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0600)) {
     if (aperto_.Numero() >= 0) return;
     percorso_ += ".XXXXXX";
@@ -122,7 +123,7 @@ public:
 private:
   bool Nomina() {
     ::unlink(percorso_.c_str()); // left by a program of this number that was killed at the wrong moment
-    const std::string voce = "/proc/self/fd/" + std::to_string(Numero());
+    const std::string voce = "/proc/self/fd/" + TestoIntero(Numero());
     nominato_ = ::linkat(AT_FDCWD, voce.c_str(), AT_FDCWD, percorso_.c_str(), AT_SYMLINK_FOLLOW) == 0;
     return nominato_;
   }
