@@ -3,7 +3,9 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
+#include <core/riga_censuaria.h>
 
+#include <array>
 #include <span>
 
 namespace lirmeto {
@@ -109,9 +111,42 @@ std::string_view NomeRiga6(std::string_view riga) {
   if (Contiene(riga, InizioRelazione) || Contiene(riga, FineRelazione)) return "Riga 6 - Relazione Tecnica";
   if (Riga6Gps(riga)) return "Riga 6 - GPS";
   if (Contiene(riga, "6|DettaglioTipoAgg=")) return "Riga 6 - Dettaglio tipo di aggiornamento";
-  if (riga.size() == 70) return "Riga 6 - Modello Censuario";
   if (riga.starts_with("6| -")) return "Riga 6 - Appunto";
   return "Riga 6 - Commento o dati";
+}
+
+std::string_view SignificatoOperazione(std::string_view operazione) {
+  constexpr std::array<std::pair<std::string_view, std::string_view>, 4> significati = {{
+      {"O", "O originale"},
+      {"S", "S soppressa"},
+      {"C", "C costituita"},
+      {"V", "V variata"},
+  }};
+  for (const auto& [lettera, significato] : significati)
+    if (lettera == operazione) return significato;
+  return operazione;
+}
+
+// A row of fixed columns: heading, count of a section, or the fields that are not blank.
+RigaDescritta Censuaria(std::string_view riga) {
+  using namespace censuario;
+  RigaDescritta descritta{"Riga 6 - Modello Censuario", {}};
+  const auto aggiungi = [&](const CampoCensuario& campo, std::string_view unita, std::string_view valore) {
+    if (!Taglia(valore).empty())
+      descritta.campi.push_back({std::string(campo.nome), std::string(unita), std::string(Taglia(valore))});
+  };
+  if (riga == censuario::Intestazione) return {"Riga 6 - Modello Censuario, intestazione", {}};
+  if (ApreSezione(riga)) {
+    for (const CampoCensuario& campo : {Sezione, Conteggio}) aggiungi(campo, {}, LeggiCampo(riga, campo));
+    return descritta;
+  }
+  aggiungi(Operazione, {}, SignificatoOperazione(LeggiCampo(riga, Operazione)));
+  for (const CampoCensuario& campo : {Particella, Subalterno, Lettera, Temporaneo})
+    aggiungi(campo, {}, LeggiCampo(riga, campo));
+  aggiungi(Area, "mq", LeggiCampo(riga, Area));
+  for (const CampoCensuario& campo : {SrSn, LetteraDestinazione, TemporaneoDestinazione, Qualita, Classe, Coda})
+    aggiungi(campo, {}, LeggiCampo(riga, campo));
+  return descritta;
 }
 
 RigaDescritta Contorno(const Campi& campi) {
@@ -157,6 +192,7 @@ RigaDescritta DescriviRiga(std::string_view riga) {
   if (genere == 3) return Poligonale(campi);
   if (genere == 4) return Allineamento(campi);
   if (genere == 5) return Squadro(campi);
+  if (RigaCensuaria(riga)) return Censuaria(riga);
   if (genere == 6)
     return {std::string(NomeRiga6(riga)), {{"Testo", {}, std::string(inizio.substr(inizio.find('|') + 1))}}};
   if (genere == 7) return Contorno(campi);

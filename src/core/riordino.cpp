@@ -6,6 +6,7 @@
 #include <core/apertura.h>
 #include <core/ordine_stazioni.h>
 #include <core/riga.h>
+#include <core/riga_censuaria.h>
 #include <core/salvataggio.h>
 #include <core/servizi.h>
 
@@ -23,8 +24,6 @@ namespace lirmeto {
 //   the proposal                                   its rows go to List14 even where they are a Relazione block too
 
 namespace {
-
-constexpr std::size_t LunghezzaCensuario = 70;
 
 using Righe = std::vector<std::string_view>;
 
@@ -53,7 +52,7 @@ using Lista = ListaRighe FormRiordinoRighe::*;
 Lista ClasseRiga6(std::string_view riga, double prima) {
   if (Riga6Gps(riga)) return &FormRiordinoRighe::List13;
   if (Contiene(riga, "6|DettaglioTipoAgg=")) return &FormRiordinoRighe::List12;
-  if (riga.size() == LunghezzaCensuario) return &FormRiordinoRighe::List6;
+  if (riga.size() == LunghezzaCensuaria) return &FormRiordinoRighe::List6;
   if (riga.starts_with("6| -")) return &FormRiordinoRighe::List15;
   if (!PuoEssereCommento(riga)) return nullptr;
   return prima == 9 || prima == 0 ? &FormRiordinoRighe::List12 : &FormRiordinoRighe::List7;
@@ -69,33 +68,6 @@ Lista ClasseRiga(std::string_view riga, double genere, double prima) {
   if (genere == 7) return &FormRiordinoRighe::List7;
   if (genere == 4 || genere == 5) return &FormRiordinoRighe::List4;
   return &FormRiordinoRighe::List1;
-}
-
-// The number of rows that the count rows of the Modello Censuario tell, its
-// first row counted.
-double RigheIndicate(const ListaRighe& censuario) {
-  constexpr std::size_t colonnaConteggio = 8; // from 0
-  double indicate = 1;
-  for (const auto riga : censuario)
-    if (riga.starts_with("6|3SPC |") || riga.starts_with("6|51FTP|"))
-      indicate += Valore(riga.substr(colonnaConteggio)) + 1;
-  return indicate;
-}
-
-// The census form of the province of Gorizia and nothing generic: fields 2, 5
-// and 9 in ten columns, field 12 two blanks.
-std::string RigaCensuarioGo(std::string_view riga) {
-  constexpr std::size_t ultimoCampo = 12;
-  constexpr std::size_t colonne = 10;
-  Righe campi = Dividi(riga, "|");
-  if (campi.size() <= ultimoCampo) return std::string(riga);
-  std::array<std::string, 3> larghi = {RiempiECorta(campi[2], colonne), RiempiECorta(campi[5], colonne),
-                                       RiempiECorta(campi[9], colonne)};
-  campi[2] = larghi[0];
-  campi[5] = larghi[1];
-  campi[9] = larghi[2];
-  campi[ultimoCampo] = "  ";
-  return Unisci(campi, "|");
 }
 
 // The rows without the whole text they were found in.
@@ -183,7 +155,7 @@ void FormRiordinoRighe::ControllaCensuario() {
 
 void FormRiordinoRighe::RicomponiLibretto() {
   if (ambiente_.sessione.SiglaProvincia == "GO")
-    for (std::size_t i = 0; i < List6.size(); ++i) List6.Cambia(i, RigaCensuarioGo(List6[i]));
+    for (std::size_t i = 0; i < List6.size(); ++i) List6.Cambia(i, RigaCensuariaGo(List6[i]));
   std::string& libretto = ambiente_.sessione.Libretto;
   libretto.clear();
   std::string_view prima;

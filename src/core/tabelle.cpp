@@ -10,6 +10,8 @@ namespace lirmeto {
 
 namespace {
 
+constexpr std::size_t ColonneCodiceQualita = 3;
+
 // Columns `da` to `a` of a record, counted from 1; what lies beyond its end is
 // not there.
 std::string_view Colonne(std::string_view record, std::size_t da, std::size_t a) {
@@ -39,7 +41,14 @@ std::string VoceQualita(std::string_view linea) {
   const std::string nome = RiempiECorta(linea, 12);
   const std::string intera =
       nome + "   " + std::string(Taglia(linea.size() > 13 ? linea.substr(13) : std::string_view{}));
-  return intera.substr(intera.size() - 3) + "   " + nome;
+  return intera.substr(intera.size() - ColonneCodiceQualita) + "   " + nome;
+}
+
+// The first entry that holds the name; null when there is none.
+const std::string* VoceDiQualita(const std::vector<std::string>& tabella, std::string_view nome) {
+  const auto trovata =
+      std::find_if(tabella.begin(), tabella.end(), [nome](const std::string& voce) { return Contiene(voce, nome); });
+  return trovata == tabella.end() ? nullptr : &*trovata;
 }
 
 } // namespace
@@ -69,9 +78,14 @@ std::vector<std::string> LeggiQualita(std::string_view testo) {
 }
 
 std::string QualitaDaNome(const std::vector<std::string>& tabella, std::string_view nome) {
-  const auto trovata =
-      std::find_if(tabella.begin(), tabella.end(), [nome](const std::string& voce) { return Contiene(voce, nome); });
-  return trovata == tabella.end() ? std::string{} : std::string(Taglia(std::string_view(*trovata).substr(0, 5)));
+  constexpr std::size_t colonne = 5;
+  const std::string* voce = VoceDiQualita(tabella, nome);
+  return std::string(voce == nullptr ? nome : Taglia(std::string_view(*voce).substr(0, colonne)));
+}
+
+std::string CodiceQualita(const std::vector<std::string>& tabella, std::string_view nome) {
+  const std::string* voce = VoceDiQualita(tabella, nome);
+  return voce == nullptr ? std::string(nome) : voce->substr(0, ColonneCodiceQualita);
 }
 
 const Comune* TrovaComune(const std::vector<Comune>& tabella, std::string_view codice) {

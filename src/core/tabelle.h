@@ -47,9 +47,11 @@ inline constexpr std::size_t MassimoQualita = 501;
 // Errore 9 above 501 entries.
 [[nodiscard]] std::vector<std::string> LeggiQualita(std::string_view testo);
 
-// First entry that holds the name: its first five characters, trimmed; empty
-// when there is none.
+// The code of a quality: the first entry that holds the name gives its first five characters, trimmed, or its first
+// three. The name is searched as it stands, blanks and all: "PRATO       " is not in "PRATO IRRIG". A name that no entry
+// holds stays as it was.
 [[nodiscard]] std::string QualitaDaNome(const std::vector<std::string>& tabella, std::string_view nome);
+[[nodiscard]] std::string CodiceQualita(const std::vector<std::string>& tabella, std::string_view nome);
 
 [[nodiscard]] const Comune* TrovaComune(const std::vector<Comune>& tabella, std::string_view codice);
 [[nodiscard]] const CodiceENome* TrovaPerCodice(const std::vector<CodiceENome>& tabella, std::string_view codice);

@@ -59,10 +59,6 @@ std::size_t PostoRelazione(const std::vector<std::string_view>& righe) {
 
 } // namespace
 
-std::string KR_EditorGen::FileCensuario() const {
-  return ambiente_.sessione.CartellaProgramma + "\\temp\\51FTP.CEN";
-}
-
 void KR_EditorGen::AlCaricamento() {
   const int chiesto = ambiente_.sessione.ModoEditor;
   modo_ = chiesto == ModoEditorStampa || chiesto == ModoEditorCensuario ? chiesto : ModoEditorLibretto;
@@ -70,7 +66,7 @@ void KR_EditorGen::AlCaricamento() {
   Titolo = modo_ == ModoEditorStampa ? "Edit Stampe" : "Edit Modello Censuario";
   (void)Intrappola(ambiente_, [&] {
     if (modo_ == ModoEditorCensuario)
-      Testo = CaricaFileIntero(ambiente_, FileCensuario());
+      Testo = CaricaFileIntero(ambiente_, memo_);
     else if (stampa_ != nullptr)
       Testo = TestoDaRighe(*stampa_);
   });
@@ -114,7 +110,7 @@ bool KR_EditorGen::Salva() {
     case ModoEditorStampa:
       return SalvaStampa();
     case ModoEditorCensuario:
-      return ambiente_.disco.Scrivi(FileCensuario(), ConFineRiga(Testo));
+      return ambiente_.disco.Scrivi(memo_, ConFineRiga(Testo));
     default:
       return SalvaLibretto();
     }
@@ -171,8 +167,8 @@ void subModificaStampa(Ambiente& ambiente, ListaRighe& stampa) {
   MostraEditor(ambiente, editor, ModoEditorStampa);
 }
 
-void subModificaCensuario(Ambiente& ambiente) {
-  KR_EditorGen editor(ambiente);
+void subModificaCensuario(Ambiente& ambiente, const std::string& memo) {
+  KR_EditorGen editor(ambiente, memo);
   MostraEditor(ambiente, editor, ModoEditorCensuario);
 }
 

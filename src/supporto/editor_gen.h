@@ -13,6 +13,8 @@ class KR_EditorGen : public Modello {
 public:
   // `stampa` is the report of role 382.
   explicit KR_EditorGen(Ambiente& ambiente, ListaRighe* stampa = nullptr) : ambiente_(ambiente), stampa_(stampa) {}
+  // `memo` is the path of the file of role 383.
+  KR_EditorGen(Ambiente& ambiente, std::string memo) : ambiente_(ambiente), memo_(std::move(memo)) {}
 
   std::string Titolo;           // window caption
   std::string Testo;            // the box: lines at CR LF
@@ -45,11 +47,11 @@ private:
   void CaricaLibretto();
   void SalvaLibretto();
   void SalvaStampa();
-  [[nodiscard]] std::string FileCensuario() const;
   [[nodiscard]] std::string_view Domanda() const;
 
   Ambiente& ambiente_;
-  ListaRighe* stampa_;
+  ListaRighe* stampa_ = nullptr;
+  std::string memo_;
   std::string aperto_; // the box as it was opened, or saved last
   int modo_ = ModoEditorLibretto;
 };
@@ -59,8 +61,8 @@ private:
 void subModificaDiretta(Ambiente& ambiente);
 void subModificaRelazione(Ambiente& ambiente);
 
-// Opens it on the lines of a report, or on the memo of the census rows.
+// Opens it on the lines of a report, or on a memo of census rows, by the path of its file.
 void subModificaStampa(Ambiente& ambiente, ListaRighe& stampa);
-void subModificaCensuario(Ambiente& ambiente);
+void subModificaCensuario(Ambiente& ambiente, const std::string& memo);
 
 } // namespace lirmeto

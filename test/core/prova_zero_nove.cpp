@@ -146,7 +146,11 @@ TEST(Tabelle, Qualita) {
   const auto tabella = LeggiQualita("testata\r\nENTE URBANO  282\r\nBOSCO CEDUO   10\r\nVIGNETO\r\n");
   EXPECT_EQ(tabella, (std::vector<std::string>{"282   ENTE URBANO ", " 10   BOSCO CEDUO ", "      VIGNETO     "}));
   EXPECT_EQ(QualitaDaNome(tabella, "BOSCO"), "10");
-  EXPECT_EQ(QualitaDaNome(tabella, "PRATO"), "");
+  EXPECT_EQ(QualitaDaNome(tabella, "PRATO "), "PRATO "); // found nowhere: as it was
+  EXPECT_EQ(CodiceQualita(tabella, "BOSCO"), " 10");
+  EXPECT_EQ(CodiceQualita(tabella, "PRATO "), "PRATO ");
+  EXPECT_EQ(CodiceQualita(tabella, "URBANO        "), "URBANO        "); // blanks are searched too
+  EXPECT_EQ(CodiceQualita(tabella, ""), "282");
 }
 
 } // namespace

@@ -81,7 +81,7 @@ TEST_P(RuoliDellEditor, CaricaESalvaIlSuo) {
     EXPECT_EQ(banco.sessione.ModoEditor, GetParam().modo);
     EXPECT_TRUE(editor.Chiudi());
   };
-  GetParam().modo == 382 ? subModificaStampa(banco.ambiente, stampa) : subModificaCensuario(banco.ambiente);
+  GetParam().modo == 382 ? subModificaStampa(banco.ambiente, stampa) : subModificaCensuario(banco.ambiente, memo);
   EXPECT_EQ(banco.dialoghi.UltimoTesto(), GetParam().domanda);
   EXPECT_EQ(banco.sessione.ModoEditor, 0);
   std::string righe;
@@ -139,14 +139,15 @@ TEST(Editor, LaRelazioneHaIlSuoPosto) {
 
 TEST(Editor, CioCheNonSiScriveNonSiPerde) {
   Banco banco;
-  banco.disco.rotti["C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO\\TEMP\\51FTP.CEN"] = 75;
+  const std::string memo = "C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO\\TEMP\\51FTP.CEN";
+  banco.disco.rotti[memo] = 75;
   banco.dialoghi.risposte = {Risposta::Si};
   banco.finestre.utente = [&](Modello& modello) {
     auto& editor = dynamic_cast<KR_EditorGen&>(modello);
     editor.Testo = "altro";
     EXPECT_FALSE(editor.Chiudi());
   };
-  subModificaCensuario(banco.ambiente);
+  subModificaCensuario(banco.ambiente, memo);
   EXPECT_TRUE(banco.dialoghi.UltimoTesto().ends_with("Nella Routine Edit Modello Censuario Buttonplus1_Click"));
 }
 
