@@ -1,0 +1,35 @@
+#include <proposte/form_censuario.h>
+
+#include <base/testo.h>
+#include <core/mostra_errore.h>
+#include <supporto/stampa_generale.h>
+
+namespace lirmeto {
+
+void FormCensuario::Premi(int indice) {
+  ambiente_.sessione.PuntoErrore = NomeForm();
+  (void)Intrappola(ambiente_, [&] { Esegui(indice); });
+}
+
+std::vector<RilievoCensuario> FormCensuario::RilieviList1() const {
+  return ControllaCensuario(List1, ambiente_.sessione.TabellaQualita);
+}
+
+// Heading and count alone are no memo yet.
+std::vector<RilievoCensuario> FormCensuario::RilieviMemo() {
+  return ControllaCensuario(Memo().Righe(), ambiente_.sessione.TabellaQualita);
+}
+
+void FormCensuario::CopiaMemo() {
+  std::string testo;
+  for (const auto riga : Memo().Righe()) testo.append(riga).append(FineRiga);
+  ambiente_.appunti.MettiTesto(testo);
+}
+
+void FormCensuario::Esegui(int indice) {
+  if (indice == pulsante::Chiudi) Chiusa = true;
+  if (indice == pulsante::Copia) CopiaMemo();
+  if (indice == pulsante::Stampa) MostraStampaGenerale(ambiente_, Memo().Righe());
+}
+
+} // namespace lirmeto
