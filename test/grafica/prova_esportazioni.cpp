@@ -4,6 +4,7 @@
 #include <base/testo.h>
 #include <grafica/esportazioni.h>
 #include <grafica/grafica.h>
+#include <grafica/svg.h>
 
 #include <gtest/gtest.h>
 
@@ -117,6 +118,25 @@ TEST_F(Esportazioni, IlFileDiScambio) {
   EXPECT_EQ(File(grafica.KR_CopiaInFile()), attesa);
   EXPECT_EQ(File(banco.sessione.CartellaDocumenti + "\\Forvale\\temp\\CopiaInFile.TXT"), attesa);
   EXPECT_TRUE(grafica.FineProgramma());
+}
+
+TEST(Svg, CioCheSiVedeInPixel) {
+  Operazioni lista;
+  lista.scala = {-20, 10, 20, -10};
+  lista.linee = {{-10, 5, 10, 5, 2, 4, 0}, {-1000, 0, 0, 0, 1, 0, stile::Tratteggiato}, {50, 50, 60, 60, 1, 0, 0}};
+  lista.cerchi = {{0, 0, 1, 12}, {500, 0, 1, 12}};
+  lista.testi = {{-5, 0, "A<\"&\x01\xE0", "", 12, 450, 0}};
+  const std::string svg = DisegnoSvg(lista, 400, 200);
+  EXPECT_TRUE(svg.starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg "));
+  EXPECT_EQ(
+      svg.substr(svg.find("<path")),
+      "<path d=\"M100.0 50.0L300.0 50.0\" stroke=\"rgb(128,0,0)\" stroke-width=\"2.0\" stroke-linecap=\"square\"/>\n"
+      "<path d=\"M-64.0 100.0L200.0 100.0\" stroke=\"rgb(0,0,0)\" stroke-width=\"1.0\" stroke-dasharray=\"6.0 4.0\" "
+      "stroke-dashoffset=\"9736.0\"/>\n"
+      "<circle cx=\"200.0\" cy=\"100.0\" r=\"10.0\" stroke=\"rgb(255,0,0)\"/>\n"
+      "<text xml:space=\"preserve\" transform=\"translate(150.0,100.0) rotate(-45.0)\" y=\"13.28\" "
+      "font-family=\"Courier New, monospace\" font-size=\"16.0\" fill=\"rgb(0,0,0)\">A&lt;&quot;&amp; \xC3\xA0</text>\n"
+      "</g>\n</svg>\n");
 }
 
 TEST_F(Esportazioni, UnPuntoInCodaAlFile) {

@@ -5,6 +5,7 @@
 
 #include <base/errore.h>
 #include <base/testo.h>
+#include <grafica/svg.h>
 
 #include <QBuffer>
 #include <QPageLayout>
@@ -13,7 +14,6 @@
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QSvgGenerator>
 
 namespace lirmeto::ui {
 
@@ -42,18 +42,6 @@ void Png(QIODevice& uscita, const Operazioni& lista, QSize misura, double scala)
   immagine.save(&uscita, "PNG");
 }
 
-void Svg(QIODevice& uscita, const Operazioni& lista, QSize misura) {
-  QSvgGenerator generatore;
-  generatore.setOutputDevice(&uscita);
-  generatore.setResolution(static_cast<int>(pittura::PixelPerPollice));
-  generatore.setSize(misura);
-  generatore.setViewBox(QRect(QPoint(), misura));
-  generatore.setTitle(AQString(TitoloProgramma));
-  QPainter pittore(&generatore);
-  pittore.fillRect(QRect(QPoint(), misura), ColoreFondo());
-  DipingiPagina(pittore, lista, QRectF(QPointF(), QSizeF(misura)), 1);
-}
-
 void Pdf(QIODevice& uscita, const Operazioni& lista, QSize misura) {
   constexpr int risoluzione = 1200;
   const double unita = risoluzione / pittura::PixelPerPollice;
@@ -71,11 +59,10 @@ void Pdf(QIODevice& uscita, const Operazioni& lista, QSize misura) {
 
 std::string ImmagineVista(Grafica& grafica, QSize misura, double scala, std::string_view estensione) {
   const ConRapporto vista(grafica, misura);
+  if (UgualiSenzaCaso(estensione, ".SVG")) return DisegnoSvg(vista.Lista(), misura.width(), misura.height());
   QBuffer uscita;
   uscita.open(QIODevice::WriteOnly);
-  if (UgualiSenzaCaso(estensione, ".SVG"))
-    Svg(uscita, vista.Lista(), misura);
-  else if (UgualiSenzaCaso(estensione, ".PDF"))
+  if (UgualiSenzaCaso(estensione, ".PDF"))
     Pdf(uscita, vista.Lista(), misura);
   else
     Png(uscita, vista.Lista(), misura, scala);
