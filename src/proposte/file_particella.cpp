@@ -87,8 +87,8 @@ std::string LeggiFileParticella(const Ambiente& ambiente, std::string_view nome)
 }
 
 void ScriviFileParticella(Ambiente& ambiente, std::string_view nome, std::string_view riga) {
-  ambiente.disco.Rimpiazza(PercorsoParticella(ambiente.sessione, ComponenteFile(nome)),
-                           std::string(riga) + std::string(FineRiga));
+  ambiente.disco.Scrivi(PercorsoParticella(ambiente.sessione, ComponenteFile(nome)),
+                        std::string(riga) + std::string(FineRiga));
 }
 
 ParticellaScelta ScegliParticella(const Sessione& sessione, std::string_view riga, std::string_view modello) {

@@ -287,7 +287,7 @@ void KR_EDM::SalvaNellEstratto(const std::string& riga) {
   if (!ambiente_.disco.Esiste(percorso)) throw Errore(errore::FileNonTrovato, "Estratto non trovato: " + percorso);
   const std::string testo = CaricaFileIntero(ambiente_, percorso);
   ambiente_.sessione.PuntoErrore = "KR_EDM";
-  ambiente_.disco.Rimpiazza(percorso, EstrattoConParticella(testo, riga));
+  ambiente_.disco.Scrivi(percorso, EstrattoConParticella(testo, riga));
 }
 
 // --- archive

@@ -43,7 +43,7 @@ void ScriviCen(Ambiente& ambiente, std::string_view nome, const ElencoRighe& mem
   if (nome.empty()) return;
   std::string testo;
   for (const auto riga : memo.Righe()) testo.append(riga).append(FineRiga);
-  ambiente.disco.Rimpiazza(PercorsoCen(ambiente.sessione, nome), testo);
+  ambiente.disco.Scrivi(PercorsoCen(ambiente.sessione, nome), testo);
 }
 
 void TogliCensuarie(Sessione& sessione) {
