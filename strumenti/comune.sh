@@ -4,7 +4,7 @@
 RADICE=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 export DEBIAN_FRONTEND=noninteractive
 
-PACCHETTI_PROGRAMMA=(g++ cmake ninja-build ccache libcli11-dev qt6-base-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins
+PACCHETTI_PROGRAMMA=(g++ cmake ninja-build ccache lld libcli11-dev qt6-base-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins
   fonts-liberation fonts-dejavu-core qt6-translations-l10n zlib1g-dev libarchive-dev
   libcairo2-dev pkg-config)
 PACCHETTI_PROVE=(libgtest-dev clang clang-format clang-tidy libclang-rt-14-dev python3 python3-ezdxf git zip unzip

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <new>
 
-#if defined(__linux__) && !defined(__SANITIZE_ADDRESS__)
+#if defined(__linux__)
 
 #include <sys/mman.h>
 
