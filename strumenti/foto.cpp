@@ -101,6 +101,10 @@ public:
   [[nodiscard]] Risposta Chiedi(std::string_view /*testo*/, std::string_view /*titolo*/, Bottoni /*bottoni*/) override {
     return Risposta::No;
   }
+  [[nodiscard]] std::optional<std::size_t> Scegli(std::string_view /*testo*/, std::string_view /*titolo*/,
+                                                  const std::vector<std::string>& /*risposte*/) override {
+    return std::nullopt;
+  }
   [[nodiscard]] std::string ScegliFileDaAprire(const RichiestaFile& /*richiesta*/) override {
     throw Errore(errore::DialogoAnnullato);
   }

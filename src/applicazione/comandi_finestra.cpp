@@ -169,15 +169,6 @@ void KR_LibrettoOriginale::MostraScartate() {
   });
 }
 
-// The marker is set where there is one: the button's and the menu's command differ in that.
-void KR_LibrettoOriginale::NuovoLibretto(std::string_view marcatore) {
-  ambiente_.sessione.Libretto.clear();
-  ambiente_.sessione.Ditta.clear();
-  CaricaLibrettoInList1(ambiente_);
-  if (!marcatore.empty()) ambiente_.sessione.PuntoErrore = marcatore;
-  ApriIntestazione();
-}
-
 // The state is stored when all are set, and only then.
 void KR_LibrettoOriginale::SpuntaOpzioni(bool si) {
   for (Opzione& opzione : Opzioni) opzione.spuntata = si;

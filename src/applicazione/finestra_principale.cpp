@@ -26,6 +26,7 @@ namespace lirmeto {
 namespace {
 
 constexpr std::string_view FormIntestazione = "FormCatasto1TXT";
+constexpr std::string_view Lxb = ".LXB";
 
 constexpr std::array<std::string_view, 9> TestiOpzioni = {
     "Avvisa Protocollo NON Numerico",
@@ -72,7 +73,7 @@ std::string TestoInformazioni() {
 
 bool EstensioneLibretto(std::string_view percorso) {
   return FinisceConSenzaCaso(percorso, ".TXT") || FinisceConSenzaCaso(percorso, ".DAT") ||
-         FinisceConSenzaCaso(percorso, ".LXB");
+         FinisceConSenzaCaso(percorso, Lxb);
 }
 
 } // namespace
@@ -113,6 +114,8 @@ bool KR_LibrettoOriginale::Carica(const std::string& comandoAvvio) {
   else if (ComandoTag1(ambiente_) == DopoComando::Finisce)
     return false;
   CaricaElenco();
+  // What a command or an .LXB brought in is on no disk yet.
+  if (!Contiene(comandoAvvio, "|") && !FinisceConSenzaCaso(comandoAvvio, Lxb)) RicordaIntatto();
   return true;
 }
 
@@ -187,7 +190,8 @@ void KR_LibrettoOriginale::PuntatoreSuPulsante(int indice) {
 void KR_LibrettoOriginale::EseguiAltri(Comando comando) {
   switch (comando) {
   case Comando::SalvaLibretto:
-    SalvaLibrettoMisure(ambiente_);
+    if (SalvaLibrettoMisure(ambiente_)) RicordaSalvato();
+    MostraSessione();
     break;
   case Comando::EsportaLibretto:
     EsportaLibrettoInFile(ambiente_);
@@ -309,6 +313,7 @@ void KR_LibrettoOriginale::TrascinaLibretto(const std::string& percorso) {
     CaricaLibrettoInList1(ambiente_);
     ambiente_.sessione.PuntoErrore = FinisceConSenzaCaso(percorso, ".PDF") ? "Decozero_138" : "Decozero_137";
     MostraSessione();
+    if (!FinisceConSenzaCaso(percorso, Lxb)) RicordaIntatto();
   });
 }
 
@@ -325,18 +330,6 @@ void KR_LibrettoOriginale::CambiaCodiceFiscale(std::string_view testo) {
 void KR_LibrettoOriginale::CambiaDitta(std::string_view testo) {
   CasellaDitta = Maiuscolo(testo);
   ambiente_.sessione.Ditta = CasellaDitta;
-}
-
-void KR_LibrettoOriginale::Chiusura(const PosizioneForm& posizione) {
-  Prova([&] { AggiornaLibrettoMisure(ambiente_); });
-  ambiente_.sessione.Ditta = Maiuscolo(CasellaDitta);
-  const std::string nome = "KR_LibrettoOriginale";
-  ambiente_.impostazioni.Scrivi("POSIZIONE_FORMx", nome, TestoIntero(posizione.sinistra));
-  ambiente_.impostazioni.Scrivi("POSIZIONE_FORMy", nome, TestoIntero(posizione.alto));
-  ambiente_.impostazioni.Scrivi("FORMx", nome, TestoIntero(posizione.larghezza));
-  ambiente_.impostazioni.Scrivi("FORMy", nome, TestoIntero(posizione.altezza));
-  SalvaLibrettoMisure(ambiente_);
-  Finita = true;
 }
 
 } // namespace lirmeto

@@ -7,7 +7,9 @@
 #include <core/ambiente.h>
 #include <core/storia.h>
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -86,8 +88,8 @@ public:
   void CambiaCodiceFiscale(std::string_view testo);
   void CambiaDitta(std::string_view testo);
 
-  // The window is closing: list to text, text to file, position to the
-  // settings.
+  // The window is closing: position to the settings, list to text, and the text to its file when something in it changed.
+  // A save that fails asks what to do; Finita is false when the window stays.
   void Chiusura(const PosizioneForm& posizione);
 
 private:
@@ -99,6 +101,11 @@ private:
   [[nodiscard]] bool EseguiConForm(Comando comando);
   void EseguiAltri(Comando comando);
   void NuovoLibretto(std::string_view marcatore);
+  [[nodiscard]] bool DaSalvare() const;
+  [[nodiscard]] bool LasciaIlLibretto();
+  [[nodiscard]] bool SalvaOChiedi();
+  void RicordaIntatto();
+  void RicordaSalvato();
   void MostraScartate();
   void IncollaDaAppunti();
   void SpuntaOpzioni(bool si);
@@ -112,6 +119,7 @@ private:
 
   Ambiente& ambiente_;
   Storia storia_;
+  std::optional<std::uint64_t> salvato_; // what stands on the disk, as its number; none when that is not known
 };
 
 } // namespace lirmeto

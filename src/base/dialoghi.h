@@ -2,6 +2,7 @@
 // What the logic says to the user and asks of him, and the windows it opens.
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,6 +53,10 @@ public:
   virtual void Messaggio(std::string_view testo, std::string_view titolo = TitoloProgramma,
                          Gravita gravita = Gravita::Informazione) = 0;
   [[nodiscard]] virtual Risposta Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) = 0;
+
+  // One of several answers, each on a button of its own: its index; none when the question is closed without one.
+  [[nodiscard]] virtual std::optional<std::size_t> Scegli(std::string_view testo, std::string_view titolo,
+                                                          const std::vector<std::string>& risposte) = 0;
 
   // Path of a file that is there.
   [[nodiscard]] virtual std::string ScegliFileDaAprire(const RichiestaFile& richiesta) = 0;

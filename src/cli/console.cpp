@@ -40,6 +40,12 @@ Risposta DialoghiConsole::Chiedi(std::string_view testo, std::string_view titolo
   return bottoni == Bottoni::SiNo && risposta == Risposta::Annulla ? Risposta::No : risposta;
 }
 
+std::optional<std::size_t> DialoghiConsole::Scegli(std::string_view testo, std::string_view titolo,
+                                                   const std::vector<std::string>& /*risposte*/) {
+  Messaggio(testo, titolo);
+  return std::nullopt;
+}
+
 std::string DialoghiConsole::ScegliFileDaAprire(const RichiestaFile& /*richiesta*/) {
   throw Errore(errore::DialogoAnnullato);
 }

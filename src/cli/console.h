@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,6 +26,8 @@ public:
   [[nodiscard]] Risposta Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) override;
 
   // Nobody is there to choose: as if cancelled.
+  [[nodiscard]] std::optional<std::size_t> Scegli(std::string_view testo, std::string_view titolo,
+                                                  const std::vector<std::string>& risposte) override;
   [[nodiscard]] std::string ScegliFileDaAprire(const RichiestaFile& richiesta) override;
   [[nodiscard]] std::string ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
   [[nodiscard]] Carattere ScegliCarattere(const Carattere& attuale) override;

@@ -1,11 +1,13 @@
 #include <core/salvataggio.h>
 
 #include <base/avanzamento.h>
+#include <base/numeri.h>
 #include <base/testo.h>
 #include <core/mostra_errore.h>
 #include <core/riga.h>
 #include <core/servizi.h>
 
+#include <cstdint>
 #include <utility>
 #include <vector>
 
@@ -54,17 +56,56 @@ std::string DittaInCampi(std::string_view ditta) {
   return Unisci({campi.begin(), campi.end()}, FineRiga);
 }
 
-std::string PercorsoUltimo(const Sessione& sessione) {
-  return sessione.CartellaProgramma + "\\temp\\" + std::string(NomeDaPercorso(sessione.NomeFileLibretto)) + ".ultimo";
+// A number of a text that stays the same from run to run (FNV-1a): two texts that differ have two, as good as surely.
+class Impronta {
+public:
+  void Aggiungi(std::string_view testo) {
+    constexpr std::uint64_t primo = 0x100000001B3;
+    for (const char lettera : testo) valore_ = (valore_ ^ static_cast<unsigned char>(lettera)) * primo;
+  }
+  [[nodiscard]] std::uint64_t Valore() const { return valore_; }
+
+private:
+  std::uint64_t valore_ = 0xCBF29CE484222325;
+};
+
+std::uint64_t ConValori(Impronta impronta, const Sessione& sessione) {
+  for (const std::string& valore : {sessione.NomeFileLibretto, sessione.EstrattoAssociato, sessione.CodiceFiscale,
+                                    sessione.NumeroIscrizione, Maiuscolo(sessione.Ditta)})
+    impronta.Aggiungi(valore + std::string(FineRiga));
+  return impronta.Valore();
 }
 
-// Keeps the last good content of the libretto's file before it is truncated.
-// Whether there was one.
+// "ACT.DAT.5402198.ultimo": acts of one name in two folders have one each.
+std::string PercorsoUltimo(const Sessione& sessione) {
+  Impronta impronta;
+  impronta.Aggiungi(sessione.NomeFileLibretto);
+  return sessione.CartellaProgramma + "\\temp\\" + std::string(NomeDaPercorso(sessione.NomeFileLibretto)) + "." +
+         TestoIntero(static_cast<long long>(impronta.Valore() >> 1)) + ".ultimo";
+}
+
+// Stands from before a save until it is known to be good, in this run or in a later one: meanwhile the libretto's file
+// may be cut, and the copy of its last good content must not be made from it.
+std::string PercorsoIncompiuto(const Sessione& sessione) {
+  return PercorsoUltimo(sessione) + ".incompiuto";
+}
+
+// Keeps the last good content of the libretto's file before it is written over. Whether there is one.
 bool TieniUltimo(Ambiente& ambiente) {
   const Sessione& sessione = ambiente.sessione;
+  const std::string incompiuto = PercorsoIncompiuto(sessione);
+  if (ambiente.disco.Esiste(incompiuto)) return true;
   if (!ambiente.disco.Esiste(sessione.NomeFileLibretto)) return false;
   ambiente.disco.Copia(sessione.NomeFileLibretto, PercorsoUltimo(sessione));
+  ambiente.disco.Scrivi(incompiuto, {});
   return true;
+}
+
+void SegnaCompiuto(Ambiente& ambiente) {
+  try {
+    ambiente.disco.Elimina(PercorsoIncompiuto(ambiente.sessione));
+  } catch (const Errore&) { // the save is good: all that is lost is that the next one keeps an older copy
+  }
 }
 
 // The whole save. `tenuto` tells, also when an error ends it, whether a copy of
@@ -74,6 +115,17 @@ void ScriviLibretto(Ambiente& ambiente, bool& tenuto) {
   const std::string testo = TestoDaSalvare(ambiente.sessione);
   tenuto = TieniUltimo(ambiente);
   ambiente.disco.Scrivi(ambiente.sessione.NomeFileLibretto, testo);
+  if (tenuto) SegnaCompiuto(ambiente);
+}
+
+// Whether it went well; what did not is told.
+bool ProvaASalvare(Ambiente& ambiente) {
+  bool tenuto = false;
+  const bool riuscito = Intrappola(ambiente, [&] { ScriviLibretto(ambiente, tenuto); });
+  if (!riuscito && tenuto)
+    ambiente.dialoghi.Messaggio(std::string("L'ultimo contenuto valido del libretto è conservato in:"_w) +
+                                std::string(FineRiga) + PercorsoUltimo(ambiente.sessione));
+  return riuscito;
 }
 
 } // namespace
@@ -148,12 +200,40 @@ bool EsportaLibrettoInFile(Ambiente& ambiente) {
 bool SalvaLibrettoMisure(Ambiente& ambiente) {
   ambiente.sessione.PuntoErrore = "SalvaLibrettoMisure";
   if (ambiente.sessione.NomeFileLibretto.empty()) return EsportaLibrettoInFile(ambiente);
-  bool tenuto = false;
-  const bool riuscito = Intrappola(ambiente, [&] { ScriviLibretto(ambiente, tenuto); });
-  if (!riuscito && tenuto)
-    ambiente.dialoghi.Messaggio(std::string("L'ultimo contenuto valido del libretto è conservato in:"_w) +
-                                std::string(FineRiga) + PercorsoUltimo(ambiente.sessione));
-  return riuscito;
+  return ProvaASalvare(ambiente);
+}
+
+bool SalvaLibrettoAltrove(Ambiente& ambiente) {
+  Sessione& sessione = ambiente.sessione;
+  std::string scelto;
+  const bool chiesto = Intrappola(ambiente, [&] {
+    scelto = ambiente.dialoghi.ScegliFileDaSalvare(
+        {"Salva altrove", "c:\\", std::string(NomeDaPercorso(sessione.NomeFileLibretto)), {}});
+  });
+  if (!chiesto || Taglia(scelto).empty()) return false;
+  sessione.PuntoErrore = "SalvaLibrettoMisure";
+  std::swap(sessione.NomeFileLibretto, scelto);
+  if (ProvaASalvare(ambiente)) return true;
+  std::swap(sessione.NomeFileLibretto, scelto);
+  return false;
+}
+
+std::uint64_t ImprontaElenco(const Sessione& sessione) {
+  ElencoRighe elenco = sessione.List1;
+  elenco.TogliRipetute();
+  Impronta impronta;
+  for (const auto riga : elenco.Righe()) {
+    if (Taglia(riga).empty()) continue;
+    impronta.Aggiungi(Taglia(DaPulire(riga) ? RigaPulita(riga) : std::string(riga)));
+    impronta.Aggiungi(FineRiga);
+  }
+  return ConValori(impronta, sessione);
+}
+
+std::uint64_t ImprontaLibretto(const Sessione& sessione) {
+  Impronta impronta;
+  impronta.Aggiungi(sessione.Libretto);
+  return ConValori(impronta, sessione);
 }
 
 } // namespace lirmeto

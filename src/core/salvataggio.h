@@ -3,6 +3,7 @@
 
 #include <core/ambiente.h>
 
+#include <cstdint>
 #include <string>
 
 namespace lirmeto {
@@ -28,8 +29,17 @@ void RendiScrivibili(Ambiente& ambiente);
 // content is kept. The answer is whether it went well.
 bool SalvaLibrettoMisure(Ambiente& ambiente);
 
-// Writes the file. The last good content of a file that exists is kept first as
-// \temp\NAME.ultimo in the program's folder.
+// The same into a file that is asked for, which becomes NomeFileLibretto when it went well.
+[[nodiscard]] bool SalvaLibrettoAltrove(Ambiente& ambiente);
+
+// What a save of the row list, after AggiornaLibrettoMisure, would write, as a number: the same number is the same
+// text. Owners count in capitals, as their box shows them.
+[[nodiscard]] std::uint64_t ImprontaElenco(const Sessione& sessione);
+// The same of what a save of Libretto writes.
+[[nodiscard]] std::uint64_t ImprontaLibretto(const Sessione& sessione);
+
+// Writes the file. The last good content of a file that exists is kept first, in the folder \temp of the program's, as
+// NAME.NUMBER.ultimo, the number being the path's; a save that failed leaves that copy as it is to the next ones.
 void SalvaLibrettoSuFile(Ambiente& ambiente);
 
 // Asks for a file and writes Libretto there, without tag rows; NomeFileLibretto

@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <set>
+
 namespace lirmeto {
 namespace {
 
@@ -16,7 +19,6 @@ using Righe = std::vector<std::string>;
 
 const std::string Zero = "0|01022024|7|G224||1|ROSSI MARIO|GEOMETRA|PADOVA|";
 const std::string Nove = "9|12|10|20||VER|FR|TOTALE|";
-const std::string Ultimo = "C:\\users\\prova\\Documents\\LIRMETO\\temp\\LIBRETTO.DAT.ultimo";
 
 struct CasoPulizia {
   Righe prima;
@@ -100,23 +102,64 @@ TEST(Salva, ApertoESalvatoDueVolteEUguale) {
   EXPECT_EQ(banco.disco.Contenuto("C:\\LIBRETTO.DAT"), prima);
 }
 
-TEST(Salva, UnErroreLasciaLUltimaCopia) {
+// Copies of the last good contents by their path; the mark of a save that is not known to be good is none.
+std::map<std::string, std::string> Ultimi(const Banco& banco) {
+  std::map<std::string, std::string> ultimi;
+  for (const auto& [percorso, contenuto] : banco.disco.file)
+    if (percorso.ends_with(".ULTIMO")) ultimi[percorso] = contenuto;
+  return ultimi;
+}
+
+TEST(Salva, UnErroreLasciaLUltimaCopiaEIlSecondoNonLaGuasta) {
   Banco banco;
   const std::string vecchio = Testo({Zero, Nove, "8|1|2|3|"});
   banco.Apri(vecchio);
   SalvaLibrettoMisure(banco.ambiente);
-  EXPECT_EQ(banco.disco.Contenuto(Ultimo), vecchio);
+  ASSERT_EQ(Ultimi(banco).size(), 1U);
+  EXPECT_EQ(Ultimi(banco).begin()->second, vecchio);
   EXPECT_TRUE(banco.dialoghi.detti.empty());
 
+  const std::string buono = banco.disco.Contenuto("C:\\LIBRETTO.DAT");
+  banco.disco.corti["C:\\LIBRETTO.DAT"] = 10;
+  for (const int volta : {1, 2}) {
+    banco.dialoghi.detti.clear();
+    EXPECT_FALSE(SalvaLibrettoMisure(banco.ambiente));
+    EXPECT_EQ(banco.disco.Contenuto("C:\\LIBRETTO.DAT").size(), 10U);
+    EXPECT_EQ(Ultimi(banco).begin()->second, buono) << "save number " << volta;
+    ASSERT_EQ(banco.dialoghi.detti.size(), 2U);
+    EXPECT_EQ(Maiuscolo(banco.dialoghi.detti[1].testo),
+              Maiuscolo(std::string("L'ultimo contenuto valido del libretto è conservato in:\r\n"_w) +
+                        Ultimi(banco).begin()->first));
+  }
+  banco.disco.corti.clear();
+  EXPECT_TRUE(SalvaLibrettoMisure(banco.ambiente));
+  EXPECT_EQ(Ultimi(banco).begin()->second, buono) << "what is cut is no good content";
+  banco.disco.Metti("C:\\LIBRETTO.DAT", "x");
+  EXPECT_TRUE(SalvaLibrettoMisure(banco.ambiente));
+  EXPECT_EQ(Ultimi(banco).begin()->second, "x") << "after a good save the copy follows again";
+}
+
+TEST(Salva, UnFileDiSolaLetturaSiDice) {
+  Banco banco;
+  banco.Apri(Testo({Zero, Nove}));
   banco.disco.rotti["C:\\LIBRETTO.DAT"] = errore::AccessoAlFile;
   EXPECT_FALSE(SalvaLibrettoMisure(banco.ambiente));
-  ASSERT_EQ(banco.dialoghi.detti.size(), 2U);
   EXPECT_EQ(banco.dialoghi.detti[0].testo,
             "Si è verificato questo errore : 75\r\nErrore nell'accesso al percorso o "
             "al file\r\no il "
             "file potrebbe essere di sola lettura!\r\nNella Routine SalvaLibrettoMisure"_w);
-  EXPECT_EQ(banco.dialoghi.detti[1].testo,
-            std::string("L'ultimo contenuto valido del libretto è conservato in:\r\n"_w) + Ultimo);
+}
+
+TEST(Salva, DueAttiDiUnNomeHannoDueCopie) {
+  Banco banco;
+  banco.disco.cartelle.insert(banco.disco.cartelle.end(), {"C:\\A", "C:\\B"});
+  for (const char* cartella : {"C:\\A\\X.DAT", "C:\\B\\X.DAT"}) {
+    banco.Apri(Testo({Zero, Nove, "6|" + std::string(cartella) + "|"}), cartella);
+    EXPECT_TRUE(SalvaLibrettoMisure(banco.ambiente));
+  }
+  std::set<std::string> contenuti;
+  for (const auto& [percorso, contenuto] : Ultimi(banco)) contenuti.insert(contenuto);
+  EXPECT_EQ(contenuti.size(), 2U);
 }
 
 TEST(Salva, SenzaCartellaPerLaCopiaIlVecchioNonSiTocca) {

@@ -64,7 +64,9 @@ std::string DiscoInMemoria::LeggiInizio(std::string_view percorso, std::size_t b
 void DiscoInMemoria::Scrivi(std::string_view percorso, std::string_view contenuto) {
   ControllaRotto(percorso);
   if (!EsisteCartella(Genitore(Chiave(percorso)))) throw Errore(errore::PercorsoNonTrovato);
-  file[Chiave(percorso)] = contenuto;
+  const auto corto = corti.find(Chiave(percorso));
+  file[Chiave(percorso)] = contenuto.substr(0, corto == corti.end() ? contenuto.npos : corto->second);
+  if (corto != corti.end() && contenuto.size() > corto->second) throw Errore(errore::DiscoPieno);
 }
 
 Istante DiscoInMemoria::Modificato(std::string_view percorso) const {
@@ -107,6 +109,17 @@ Risposta DialoghiDiProva::Chiedi(std::string_view testo, std::string_view titolo
   const Risposta risposta = risposte.front();
   if (risposte.size() > 1) risposte.pop_front();
   return risposta;
+}
+
+std::optional<std::size_t> DialoghiDiProva::Scegli(std::string_view testo, std::string_view titolo,
+                                                   const std::vector<std::string>& bottoni) {
+  std::string detto(testo);
+  for (const auto& bottone : bottoni) detto += "|" + bottone;
+  detti.push_back({detto, std::string(titolo)});
+  if (scelte.empty()) return std::nullopt;
+  const std::size_t scelta = scelte.front();
+  scelte.pop_front();
+  return scelta;
 }
 
 std::string DialoghiDiProva::ScegliFileDaAprire(const RichiestaFile& richiesta) {

@@ -21,6 +21,7 @@ class DiscoInMemoria : public Disco {
 public:
   std::map<std::string, std::string> file;       // upper-cased path, content
   std::map<std::string, int> rotti;              // upper-cased path, error number that reading or writing it gives
+  std::map<std::string, std::size_t> corti;      // upper-cased path, bytes that go in: one more fails and leaves it cut
   std::vector<std::string> cartelle;             // upper-cased
   Istante modificato{{2026, 11, 21}, {9, 5, 7}}; // all files
 
@@ -51,15 +52,18 @@ struct Detto {
 
 class DialoghiDiProva : public Dialoghi {
 public:
-  std::vector<Detto> detti;      // messages and questions in order
-  std::deque<Risposta> risposte; // to the next questions; the last one stays, none is No
-  std::string fileScelto;        // "*" cancels
+  std::vector<Detto> detti;       // messages and questions in order
+  std::deque<Risposta> risposte;  // to the next questions; the last one stays, none is No
+  std::deque<std::size_t> scelte; // to the next questions of several answers; none closes the question
+  std::string fileScelto;         // "*" cancels
   Carattere carattereScelto;
   std::vector<std::string> stampati; // title, "/V" or "/O", and the lines, each behind a bar
   int stampantiScelte = 0;
 
   void Messaggio(std::string_view testo, std::string_view titolo, Gravita gravita) override;
   [[nodiscard]] Risposta Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) override;
+  [[nodiscard]] std::optional<std::size_t> Scegli(std::string_view testo, std::string_view titolo,
+                                                  const std::vector<std::string>& bottoni) override;
   [[nodiscard]] std::string ScegliFileDaAprire(const RichiestaFile& richiesta) override;
   [[nodiscard]] std::string ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
   [[nodiscard]] Carattere ScegliCarattere(const Carattere& attuale) override;

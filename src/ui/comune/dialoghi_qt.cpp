@@ -12,7 +12,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace lirmeto::ui {
 
@@ -81,6 +83,25 @@ Risposta DialoghiQt::Chiedi(std::string_view testo, std::string_view titolo, Bot
   scatola.exec();
   if (scatola.clickedButton() == si) return Risposta::Si;
   return conAnnulla && scatola.clickedButton() != no ? Risposta::Annulla : Risposta::No;
+}
+
+std::optional<std::size_t> DialoghiQt::Scegli(std::string_view testo, std::string_view titolo,
+                                              const std::vector<std::string>& risposte) {
+  NascondiBarra();
+  QMessageBox scatola(FinestraAttuale());
+  Componi(scatola, testo, titolo);
+  scatola.setIcon(QMessageBox::Question);
+  std::vector<QAbstractButton*> bottoni;
+  for (const std::string& risposta : risposte)
+    bottoni.push_back(scatola.addButton(AQString(risposta), QMessageBox::ActionRole));
+  // A button that is not seen: without one of this role the box could not be closed with Esc.
+  QPushButton* nessuna = scatola.addButton(QString(), QMessageBox::RejectRole);
+  nessuna->hide();
+  scatola.setEscapeButton(nessuna);
+  scatola.exec();
+  const auto premuto = std::find(bottoni.begin(), bottoni.end(), scatola.clickedButton());
+  if (premuto == bottoni.end()) return std::nullopt;
+  return static_cast<std::size_t>(premuto - bottoni.begin());
 }
 
 std::string DialoghiQt::ScegliFile(const RichiestaFile& richiesta, bool daSalvare) {

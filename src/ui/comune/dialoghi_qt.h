@@ -32,6 +32,8 @@ public:
   void Messaggio(std::string_view testo, std::string_view titolo, Gravita gravita) override;
   // Closing the box without a button means Annulla where there is one, else No.
   [[nodiscard]] Risposta Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) override;
+  [[nodiscard]] std::optional<std::size_t> Scegli(std::string_view testo, std::string_view titolo,
+                                                  const std::vector<std::string>& risposte) override;
   [[nodiscard]] std::string ScegliFileDaAprire(const RichiestaFile& richiesta) override;
   [[nodiscard]] std::string ScegliFileDaSalvare(const RichiestaFile& richiesta) override;
   [[nodiscard]] Carattere ScegliCarattere(const Carattere& attuale) override;

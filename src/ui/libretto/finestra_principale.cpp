@@ -282,9 +282,16 @@ void FinestraPrincipale::resizeEvent(QResizeEvent* evento) {
 void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
   if (occupata_) return evento->ignore();
   if (!chiusa_) {
+    {
+      const QScopedValueRollback occupata(occupata_, true);
+      modello_.Chiusura({x(), y(), width(), height()});
+    }
+    if (!modello_.Finita) { // not saved, and the user goes on
+      evento->ignore();
+      return Mostra();
+    }
     chiusa_ = true;
     occupata_ = true;
-    modello_.Chiusura({x(), y(), width(), height()});
   }
   evento->accept();
 }

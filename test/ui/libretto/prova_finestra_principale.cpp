@@ -302,6 +302,18 @@ TEST(FinestraPrincipale, ChiudereScriveFileEPosizione) {
   EXPECT_EQ(tavolo.banco.impostazioni.valori["FORMy/KR_LibrettoOriginale"], "800");
 }
 
+TEST(FinestraPrincipale, RestaApertaSeNonSiSalvaESiChiudeAllaVoltaDopo) {
+  Tavolo tavolo;
+  QTest::keyClicks(&Figlio<QPlainTextEdit>(tavolo, "CasellaDitta"), QStringLiteral("verdi"));
+  tavolo.banco.disco.rotti["C:\\LIBRETTO.DAT"] = errore::AccessoAlFile;
+  Voce(tavolo, QStringLiteral("Chiudi"));
+  EXPECT_TRUE(tavolo.finestra->isVisible());
+  EXPECT_EQ(Figlio<QPlainTextEdit>(tavolo, "CasellaDitta").toPlainText(), QStringLiteral("VERDI"));
+  tavolo.banco.dialoghi.scelte = {2};
+  tavolo.finestra->close();
+  EXPECT_FALSE(tavolo.finestra->isVisible());
+}
+
 TEST(FinestraPrincipale, LaVoceChiudiScriveUnaVoltaSola) {
   Tavolo tavolo;
   Voce(tavolo, QStringLiteral("Chiudi"));
