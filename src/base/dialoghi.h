@@ -54,7 +54,7 @@ public:
                          Gravita gravita = Gravita::Informazione) = 0;
   [[nodiscard]] virtual Risposta Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) = 0;
 
-  // One of several answers, each on a button of its own: its index; none when the question is closed without one.
+  // One of several answers, each on a button of its own: its index; none when the question is cancelled.
   [[nodiscard]] virtual std::optional<std::size_t> Scegli(std::string_view testo, std::string_view titolo,
                                                           const std::vector<std::string>& risposte) = 0;
 

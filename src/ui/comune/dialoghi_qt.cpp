@@ -94,10 +94,7 @@ std::optional<std::size_t> DialoghiQt::Scegli(std::string_view testo, std::strin
   std::vector<QAbstractButton*> bottoni;
   for (const std::string& risposta : risposte)
     bottoni.push_back(scatola.addButton(AQString(risposta), QMessageBox::ActionRole));
-  // A button that is not seen: without one of this role the box could not be closed with Esc.
-  QPushButton* nessuna = scatola.addButton(QString(), QMessageBox::RejectRole);
-  nessuna->hide();
-  scatola.setEscapeButton(nessuna);
+  scatola.setEscapeButton(scatola.addButton(QStringLiteral("&Annulla"), QMessageBox::RejectRole));
   scatola.exec();
   const auto premuto = std::find(bottoni.begin(), bottoni.end(), scatola.clickedButton());
   if (premuto == bottoni.end()) return std::nullopt;

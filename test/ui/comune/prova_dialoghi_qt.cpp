@@ -59,6 +59,15 @@ INSTANTIATE_TEST_SUITE_P(Bottoni, Domanda,
                                          Scelta{Bottoni::SiNoAnnulla, QStringLiteral("Annulla"), Risposta::Annulla},
                                          Scelta{Bottoni::SiNoAnnulla, {}, Risposta::Annulla}));
 
+TEST(DialoghiQt, UnaFraPiuRisposte) {
+  ui::DialoghiQt dialoghi = Dialoghi();
+  const std::vector<std::string> risposte = {"Prima", "Seconda"};
+  NellaProssimaFinestra([](QWidget& finestra) { PremiBottone(finestra, QStringLiteral("Seconda")); });
+  EXPECT_EQ(dialoghi.Scegli("Quale?", "Titolo", risposte), std::optional<std::size_t>(1));
+  NellaProssimaFinestra([](QWidget& finestra) { QTest::keyClick(&finestra, Qt::Key_Escape); });
+  EXPECT_EQ(dialoghi.Scegli("Quale?", "Titolo", risposte), std::nullopt);
+}
+
 TEST(DialoghiQt, MessaggioConTitoloEGravita) {
   ui::DialoghiQt dialoghi = Dialoghi();
   NellaProssimaFinestra([](QWidget& finestra) {
