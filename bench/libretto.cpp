@@ -3,8 +3,8 @@
 #include "sostituti/banco.h"
 
 #include <core/apertura.h>
+#include <core/libretto_in_classi.h>
 #include <core/riga.h>
-#include <core/riordino.h>
 #include <core/salvataggio.h>
 
 #include <benchmark/benchmark.h>
@@ -73,9 +73,7 @@ void Riordina(benchmark::State& stato) {
   const std::string testo = LibrettoDi(stato.range(0));
   for (auto _ : stato) {
     banco.sessione.Libretto = testo;
-    FormRiordinoRighe form(banco.ambiente);
-    form.EsplodiLibretto();
-    form.RicomponiLibretto();
+    RicomponiLibretto(banco.ambiente, EsplodiLibretto(banco.ambiente));
   }
   stato.SetComplexityN(stato.range(0));
 }

@@ -9,8 +9,8 @@
 #include <base/testo.h>
 #include <core/apertura.h>
 #include <core/descrizione_riga.h>
+#include <core/libretto_in_classi.h>
 #include <core/riga.h>
-#include <core/riordino.h>
 #include <core/salvataggio.h>
 #include <sostituti/banco.h>
 
@@ -125,9 +125,7 @@ std::set<std::string> DaTenere(std::string_view testo) {
 
 void ProvaRiordino(Banco& banco) {
   const std::string prima = banco.sessione.Libretto;
-  FormRiordinoRighe form(banco.ambiente);
-  form.EsplodiLibretto();
-  form.RicomponiLibretto();
+  RicomponiLibretto(banco.ambiente, EsplodiLibretto(banco.ambiente));
   const auto dopo = Impronte(banco.sessione.Libretto);
   const auto prime = Impronte(prima);
   const auto tenute = DaTenere(prima);

@@ -176,15 +176,4 @@ void CaricaLibrettoInList1(Ambiente& ambiente) {
   ambiente.sessione.PuntoErrore = "Decozero_115";
 }
 
-void CatturaPropostaInLibretto(Sessione& sessione) {
-  sessione.PropostaLibretto.clear();
-  bool dentro = false;
-  for (const auto riga : RigheDi(sessione.Libretto)) {
-    dentro = dentro || riga == RigaProposta;
-    if (!dentro) continue;
-    sessione.PropostaLibretto += Taglia(riga);
-    sessione.PropostaLibretto += FineRiga;
-  }
-}
-
 } // namespace lirmeto

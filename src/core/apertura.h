@@ -70,7 +70,4 @@ void AssicuraZeroNoveInList1(Ambiente& ambiente);
 // label.
 void RiempiList1(Ambiente& ambiente);
 
-// PropostaLibretto from Libretto: the rows from "6|ESTRATTO DI MAPPA|" on.
-void CatturaPropostaInLibretto(Sessione& sessione);
-
 } // namespace lirmeto

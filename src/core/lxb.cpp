@@ -1,35 +1,39 @@
 #include <core/lxb.h>
 
+#include <core/libretto_in_classi.h>
 #include <core/riga.h>
-#include <core/riordino.h>
+
+#include <utility>
 
 namespace lirmeto {
 
 namespace {
 
-// List of a replacement row; nullptr when it is dropped.
-ListaRighe* ListaPer(FormRiordinoRighe& classi, std::string_view riga, double genere, double genereDopo) {
-  if (genere == 1 || genere == 2) return riga.find(',') != std::string_view::npos ? &classi.List13 : &classi.List1;
-  if (genere == 3) return &classi.List3;
-  if (genere == 4 || genere == 5) return &classi.List4;
-  if (genere == 7) return &classi.List7;
-  if (genere == 6 && genereDopo == 7) return &classi.List7;
-  if (genere == 6 && genereDopo == 2) return &classi.List13;
-  return nullptr;
+// Class of a replacement row; Nessuna when it is dropped.
+ClasseRighe ClasseSostituta(std::string_view riga, double genere, double genereDopo) {
+  if (genere == 1 || genere == 2)
+    return riga.find(',') != std::string_view::npos ? ClasseRighe::Gps : ClasseRighe::Stazioni;
+  if (genere == 3) return ClasseRighe::Poligonali;
+  if (genere == 4 || genere == 5) return ClasseRighe::Allineate;
+  if (genere == 7) return ClasseRighe::Contorni;
+  if (genere == 6 && genereDopo == 7) return ClasseRighe::Contorni;
+  if (genere == 6 && genereDopo == 2) return ClasseRighe::Gps;
+  return ClasseRighe::Nessuna;
 }
 
 } // namespace
 
 void UnisciLxb(Ambiente& ambiente, std::string_view sostitute) {
-  FormRiordinoRighe classi(ambiente);
-  classi.EsplodiLibretto();
-  for (ListaRighe* lista : {&classi.List1, &classi.List3, &classi.List4, &classi.List7, &classi.List13}) lista->clear();
+  RigheInClassi classi = EsplodiLibretto(ambiente);
+  for (const ClasseRighe classe : {ClasseRighe::Stazioni, ClasseRighe::Poligonali, ClasseRighe::Allineate,
+                                   ClasseRighe::Contorni, ClasseRighe::Gps})
+    classi[classe].clear();
   const auto righe = RigheDi(sostitute);
   for (std::size_t i = 0; i < righe.size(); ++i) {
     const double dopo = i + 1 < righe.size() ? GenereRiga(righe[i + 1]) : 0;
-    if (ListaRighe* lista = ListaPer(classi, righe[i], GenereRiga(righe[i]), dopo)) lista->Aggiungi(righe[i]);
+    classi[ClasseSostituta(righe[i], GenereRiga(righe[i]), dopo)].Aggiungi(righe[i]);
   }
-  classi.RicomponiLibretto();
+  RicomponiLibretto(ambiente, std::move(classi));
 }
 
 } // namespace lirmeto

@@ -3,13 +3,11 @@
 
 #include <base/dialoghi.h>
 #include <core/ambiente.h>
-#include <core/lista_righe.h>
+#include <core/classi_righe.h>
 
 #include <array>
-#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace lirmeto {
 
@@ -17,45 +15,24 @@ class FormRiordinoRighe : public Modello {
 public:
   explicit FormRiordinoRighe(Ambiente& ambiente) : ambiente_(ambiente) {}
 
-  // One list per class of rows.
-  ListaRighe List0;         // rows 0
-  ListaRighe List9;         // rows 9
-  ListaRighe List12;        // comment block
-  ListaRighe List15;        // notes, "6| -"
-  ListaRighe List3;         // traverses
-  ListaRighe List13;        // GPS block
-  ListaRighe List1;         // stations and sightings
-  ListaRighe List4;         // rows 4 and 5
-  ListaRighe List7;         // contours and the comments before them
-  ListaRighe List5;         // Relazione Tecnica
-  ListaRighe List8;         // coordinates and fiducial points
-  ListaRighe List6;         // Modello Censuario
-  ListaRighe List14;        // update proposal
-  ListaRighe RigheScartate; // rows 6 of no class, which the reorder drops
+  RigheInClassi Righe; // a list per class
 
   std::string EtichettaIscrizione;    // "Numero Iscrizione Albo ..."
   std::string EtichettaCodiceFiscale; // "Codice Fiscale ..."
   bool Chiusa = false;                // a button closed the form
 
-  // Libretto into the lists and PropostaLibretto; warns when the census rows
-  // are not as many as they say.
-  void EsplodiLibretto();
-
-  // The lists into Libretto.
-  void RicomponiLibretto();
-
-  // What the window does on load and on activation.
+  // What the window does on load and on activation: Libretto goes into the lists.
   void AlCaricamento();
   void AllAttivazione();
 
-  // Buttons: confirm, close.
+  // Buttons: confirm puts the lists into Libretto, close.
   void Conferma();
   void Chiudi();
 
   // A class of rows as the dialog shows it.
   struct Classe {
     std::string_view nome; // caption of the list
-    ListaRighe FormRiordinoRighe::*lista;
+    ClasseRighe classe = ClasseRighe::Nessuna;
     std::string_view titolo;  // of the delete question; empty: the list has no delete button
     std::string_view domanda; // the question
   };
@@ -68,18 +45,7 @@ public:
   void EliminaClasse(std::size_t classe);
   void DoppioClick(std::size_t classe, std::size_t riga);
 
-  // Rows from `inizio` to `fine`, both included.
-  struct Blocco {
-    std::size_t inizio = std::string_view::npos;
-    std::size_t fine = std::string_view::npos;
-    [[nodiscard]] bool Vale() const { return inizio < fine && fine != std::string_view::npos; }
-    [[nodiscard]] bool Contiene(std::size_t indice) const { return Vale() && indice >= inizio && indice <= fine; }
-  };
-
 private:
-  void Svuota(const TestoCondiviso& testo);
-  void Distribuisci(std::span<const std::string_view> righe, const Blocco& relazione);
-  void ControllaCensuario();
   [[nodiscard]] bool Domanda(const Classe& classe);
 
   Ambiente& ambiente_;

@@ -7,9 +7,9 @@
 #include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <core/libretto_in_classi.h>
 #include <core/mostra_errore.h>
 #include <core/riga.h>
-#include <core/riordino.h>
 #include <core/salvataggio.h>
 #include <core/servizi.h>
 #include <supporto/stampa_generale.h>
@@ -291,9 +291,7 @@ void LibrettoDaDisegno::MostraRapporto(const std::vector<std::string>& rapporto)
 }
 
 void LibrettoDaDisegno::RiordinaEdElenca() {
-  FormRiordinoRighe riordino(ambiente_);
-  riordino.EsplodiLibretto();
-  riordino.RicomponiLibretto();
+  RicomponiLibretto(ambiente_, EsplodiLibretto(ambiente_));
   CaricaLibrettoInList1(ambiente_);
   ambiente_.sessione.PuntoErrore = "Decozero_128";
   ElencoRighe& elenco = ambiente_.sessione.List1;

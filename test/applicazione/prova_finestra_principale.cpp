@@ -200,7 +200,7 @@ TEST(Comandi, IlDialogoDiRiordinoVedeLeRigheDellElenco) {
   sala.finestre.utente = [&](Modello& modello) {
     auto& form = dynamic_cast<FormRiordinoRighe&>(modello);
     form.AllAttivazione();
-    EXPECT_EQ(form.List8, (ListaRighe{"8|nuova|1|2|"}));
+    EXPECT_EQ(form.Righe[ClasseRighe::Coordinate], (ListaRighe{"8|nuova|1|2|"}));
     form.Chiudi();
   };
   sala.finestra.Esegui(Comando::MostraRiordino);
@@ -305,7 +305,7 @@ INSTANTIATE_TEST_SUITE_P(
                                   sala.finestre.utente = [](Modello& modello) {
                                     auto& form = dynamic_cast<FormRiordinoRighe&>(modello);
                                     form.AllAttivazione();
-                                    form.List8.clear();
+                                    form.Righe[ClasseRighe::Coordinate].clear();
                                     form.Conferma();
                                   };
                                   sala.finestra.Esegui(Comando::MostraRiordino);

@@ -3,6 +3,7 @@
 #include <base/errore.h>
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <core/libretto_in_classi.h>
 #include <core/mostra_errore.h>
 
 #include <gtest/gtest.h>

@@ -1,6 +1,7 @@
 #include "sostituti/banco.h"
 
 #include <base/testo.h>
+#include <core/libretto_in_classi.h>
 #include <core/ordine_stazioni.h>
 #include <core/riga.h>
 #include <core/riordino.h>
@@ -28,9 +29,7 @@ std::string Censuaria(const std::string& testa) {
 
 Righe Riordinate(Banco& banco, const Righe& righe) {
   banco.sessione.Libretto = Testo(righe);
-  FormRiordinoRighe form(banco.ambiente);
-  form.EsplodiLibretto();
-  form.RicomponiLibretto();
+  RicomponiLibretto(banco.ambiente, EsplodiLibretto(banco.ambiente));
   Righe uscita;
   for (const auto riga : RigheDi(banco.sessione.Libretto)) uscita.emplace_back(riga);
   return uscita;
@@ -88,8 +87,8 @@ TEST(Riordino, OgniClasseAlSuoPosto) {
 struct CasoRiga6 {
   std::string nome;
   std::string riga;
-  std::string prima;                    // the row before it
-  ListaRighe FormRiordinoRighe::*lista; // nullptr: dropped
+  std::string prima; // the row before it
+  ClasseRighe classe;
 };
 
 class Riga6 : public testing::TestWithParam<CasoRiga6> {};
@@ -97,30 +96,29 @@ class Riga6 : public testing::TestWithParam<CasoRiga6> {};
 TEST_P(Riga6, LaPrimaClasseCheVaBene) {
   Banco banco;
   banco.sessione.Libretto = Testo({Zero, Nove, GetParam().prima, GetParam().riga});
-  FormRiordinoRighe form(banco.ambiente);
-  form.EsplodiLibretto();
-  const ListaRighe& lista = GetParam().lista ? form.*GetParam().lista : form.RigheScartate;
+  const RigheInClassi classi = EsplodiLibretto(banco.ambiente);
+  const ListaRighe& lista = classi[GetParam().classe];
   ASSERT_FALSE(lista.empty());
   EXPECT_EQ(lista.back(), GetParam().riga);
 }
 
-using F = FormRiordinoRighe;
+using C = ClasseRighe;
 INSTANTIATE_TEST_SUITE_P(
     Prove, Riga6,
     testing::Values(
-        CasoRiga6{"basGps", "6|x|BAS|y|", Nove, &F::List13}, CasoRiga6{"pdop", "6|x|PDOP=2|", Nove, &F::List13},
-        CasoRiga6{"pdopSenzaBarra", "6|PDOP=2x|", "8|1|", &F::List13}, CasoRiga6{"l2", "6|L2|a|b|c|", Nove, &F::List13},
-        CasoRiga6{"settantaConDettaglio", Censuaria("DettaglioTipoAgg="), Nove, &F::List12},
-        CasoRiga6{"settanta", Censuaria(" - x"), Nove, &F::List6},
-        CasoRiga6{"sessantanove", RiempiECorta("6|abc", 68) + "|", "8|1|2|", &F::List7},
-        CasoRiga6{"appunto", "6| - a | b | c|", "8|1|2|", &F::List15},
-        CasoRiga6{"dopoNove", "6|abc|", Nove, &F::List12}, CasoRiga6{"dopoTesto", "6|abc|", "ciao", &F::List12},
-        CasoRiga6{"dopoMisura", "6|abc|", "2|1|2|3|4|", &F::List7}, CasoRiga6{"dueCampi", "6|abc|def|", Nove, nullptr},
-        CasoRiga6{"nessunaChiusura", "6|abc", Nove, nullptr},
-        CasoRiga6{"settantacinque", RiempiECorta("6|a", 74) + "|", "8|1|2|", &F::List7},
-        CasoRiga6{"settantasei", RiempiECorta("6|a", 75) + "|", "8|1|2|", nullptr},
-        CasoRiga6{"datiCensuario", "6|Dati per aggiornare il D.B. Censuario|", "8|1|2|", nullptr},
-        CasoRiga6{"marcaSola", Apre, "8|1|2|", nullptr}, CasoRiga6{"chiusuraSola", Chiude, "8|1|2|", nullptr}),
+        CasoRiga6{"basGps", "6|x|BAS|y|", Nove, C::Gps}, CasoRiga6{"pdop", "6|x|PDOP=2|", Nove, C::Gps},
+        CasoRiga6{"pdopSenzaBarra", "6|PDOP=2x|", "8|1|", C::Gps}, CasoRiga6{"l2", "6|L2|a|b|c|", Nove, C::Gps},
+        CasoRiga6{"settantaConDettaglio", Censuaria("DettaglioTipoAgg="), Nove, C::Commento},
+        CasoRiga6{"settanta", Censuaria(" - x"), Nove, C::Censuario},
+        CasoRiga6{"sessantanove", RiempiECorta("6|abc", 68) + "|", "8|1|2|", C::Contorni},
+        CasoRiga6{"appunto", "6| - a | b | c|", "8|1|2|", C::Appunti},
+        CasoRiga6{"dopoNove", "6|abc|", Nove, C::Commento}, CasoRiga6{"dopoTesto", "6|abc|", "ciao", C::Commento},
+        CasoRiga6{"dopoMisura", "6|abc|", "2|1|2|3|4|", C::Contorni},
+        CasoRiga6{"dueCampi", "6|abc|def|", Nove, C::Nessuna}, CasoRiga6{"nessunaChiusura", "6|abc", Nove, C::Nessuna},
+        CasoRiga6{"settantacinque", RiempiECorta("6|a", 74) + "|", "8|1|2|", C::Contorni},
+        CasoRiga6{"settantasei", RiempiECorta("6|a", 75) + "|", "8|1|2|", C::Nessuna},
+        CasoRiga6{"datiCensuario", "6|Dati per aggiornare il D.B. Censuario|", "8|1|2|", C::Nessuna},
+        CasoRiga6{"marcaSola", Apre, "8|1|2|", C::Nessuna}, CasoRiga6{"chiusuraSola", Chiude, "8|1|2|", C::Nessuna}),
     [](const auto& caso) { return caso.param.nome; });
 
 TEST(Relazione, SoloUnBloccoChiusoEPienoResta) {
@@ -231,12 +229,9 @@ TEST(Riordino, RipetuteDiSeguitoEUltimaRigaAperta) {
   Banco banco;
   EXPECT_EQ(Riordinate(banco, {Zero, Nove, "8|a|", "1|1|2|", "8|A|"}), (Righe{Zero, Nove, "1|1|2|", "8|a|"}));
   banco.sessione.Libretto = Testo({Zero, Nove}) + "8|persa|";
-  FormRiordinoRighe form(banco.ambiente);
-  form.EsplodiLibretto();
-  EXPECT_TRUE(form.List8.empty());
+  EXPECT_TRUE(EsplodiLibretto(banco.ambiente)[C::Coordinate].empty());
   banco.sessione.Libretto = Testo({Zero, "8|1|", std::string(RigaProposta)}) + "8|tenuta|";
-  form.EsplodiLibretto();
-  EXPECT_EQ(form.List14, (ListaRighe{RigaProposta, "8|tenuta|"}));
+  EXPECT_EQ(EsplodiLibretto(banco.ambiente)[C::Proposta], (ListaRighe{RigaProposta, "8|tenuta|"}));
 }
 
 TEST(Riordino, DueVolteEComeUna) {
@@ -258,10 +253,10 @@ TEST(FormRiordino, DomandeEBottoni) {
   EXPECT_EQ(form.EtichettaIscrizione + "/" + form.EtichettaCodiceFiscale,
             "Numero Iscrizione Albo 12/Codice Fiscale CF");
   std::size_t stazioni = 0;
-  while (FormRiordinoRighe::Classi()[stazioni].lista != &F::List1) ++stazioni;
+  while (FormRiordinoRighe::Classi()[stazioni].classe != C::Stazioni) ++stazioni;
 
   form.EliminaClasse(stazioni); // the answer is No
-  EXPECT_EQ(form.List1.size(), 1U);
+  EXPECT_EQ(form.Righe[C::Stazioni].size(), 1U);
   EXPECT_EQ(banco.dialoghi.detti.back().titolo + "/" + banco.dialoghi.UltimoTesto(),
             "Eliminazione Stazioni/Eliminare Stazioni-P.Battuti?");
   form.EliminaClasse(0); // rows 0 have no delete button
@@ -270,7 +265,7 @@ TEST(FormRiordino, DomandeEBottoni) {
   EXPECT_EQ(banco.dialoghi.detti.size(), 1U);
   banco.dialoghi.risposte = {Risposta::Si};
   form.DoppioClick(stazioni, 0);
-  EXPECT_TRUE(form.List1.empty());
+  EXPECT_TRUE(form.Righe[C::Stazioni].empty());
   banco.finestre.disponibili = {"FormCatasto1TXT"};
   form.DoppioClick(0, 0);
   EXPECT_EQ(banco.finestre.aperte, (Righe{"FormCatasto1TXT"}));

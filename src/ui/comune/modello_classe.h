@@ -1,7 +1,7 @@
 #pragma once
 // A list of rows as Qt's list views want it; reads the logic's list directly.
 
-#include <core/riordino.h>
+#include <core/lista_righe.h>
 
 #include <QAbstractListModel>
 #include <QFont>

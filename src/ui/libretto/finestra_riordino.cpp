@@ -23,7 +23,9 @@ namespace {
 // Index of the class shown first: the one with the most rows.
 std::size_t PiuNumerosa(const FormRiordinoRighe& modello) {
   const auto& classi = FormRiordinoRighe::Classi();
-  const auto meno = [&](const auto& a, const auto& b) { return (modello.*a.lista).size() < (modello.*b.lista).size(); };
+  const auto meno = [&](const auto& a, const auto& b) {
+    return modello.Righe[a.classe].size() < modello.Righe[b.classe].size();
+  };
   return static_cast<std::size_t>(std::max_element(classi.begin(), classi.end(), meno) - classi.begin());
 }
 
@@ -64,10 +66,10 @@ QWidget* FinestraRiordino::CreaColonna() {
   griglia->setVerticalSpacing(2);
   const auto& classi = FormRiordinoRighe::Classi();
   for (std::size_t i = 0; i < classi.size(); ++i) {
-    AggiungiElenco(*griglia, AQString(classi[i].nome), modello_.*classi[i].lista);
+    AggiungiElenco(*griglia, AQString(classi[i].nome), modello_.Righe[classi[i].classe]);
     CollegaClasse(*griglia, i);
   }
-  AggiungiElenco(*griglia, QStringLiteral("Senza classe (si perdono)"), modello_.RigheScartate);
+  AggiungiElenco(*griglia, QStringLiteral("Senza classe (si perdono)"), modello_.Righe[ClasseRighe::Nessuna]);
   for (const VistaClasse& vista : classi_) scelta_.addButton(vista.bottone);
   griglia->setRowStretch(static_cast<int>(classi_.size()), 1);
   return colonna;
@@ -181,7 +183,7 @@ void FinestraRiordino::Mostra() {
     vista.quante->setEnabled(quante > 0);
     if (vista.elimina != nullptr) vista.elimina->setEnabled(quante > 0);
   }
-  const bool scartate = !modello_.RigheScartate.empty();
+  const bool scartate = !modello_.Righe[ClasseRighe::Nessuna].empty();
   classi_.back().bottone->setVisible(scartate);
   classi_.back().quante->setVisible(scartate);
   iscrizione_->setText(AQString(modello_.EtichettaIscrizione));

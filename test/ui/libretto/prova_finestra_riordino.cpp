@@ -55,7 +55,7 @@ TEST_F(ConRiordino, OgniClasseHaLaSuaListaELeRigheSenzaClasseSiVedono) {
   ASSERT_EQ(Classi().size(), static_cast<qsizetype>(classi.size()) + 1);
   for (std::size_t i = 0; i < classi.size(); ++i) {
     EXPECT_EQ(Classi()[static_cast<qsizetype>(i)]->text(), ui::AQString(classi[i].nome));
-    EXPECT_EQ(Vista(i).model()->rowCount(), static_cast<int>((form.*classi[i].lista).size()));
+    EXPECT_EQ(Vista(i).model()->rowCount(), static_cast<int>(form.Righe[classi[i].classe].size()));
   }
   EXPECT_TRUE(Classi().last()->isVisible());
   EXPECT_EQ(Vista(Stazioni).model()->index(0, 0).data().toString(), QStringLiteral("1|100|1.430|CHIODO|"));
@@ -85,7 +85,7 @@ TEST_F(ConRiordino, TornareAttivaNonRimetteLeRigheEliminate) {
 TEST_F(ConRiordino, DoppioClickToglieUnaRiga) {
   banco.dialoghi.risposte = {Risposta::Si};
   DoppioClick(Stazioni, 1);
-  EXPECT_EQ(form.List1, (ListaRighe{RigheDiProva()[2], RigheDiProva()[3]}));
+  EXPECT_EQ(form.Righe[ClasseRighe::Stazioni], (ListaRighe{RigheDiProva()[2], RigheDiProva()[3]}));
   EXPECT_EQ(Vista(Stazioni).model()->rowCount(), 2);
 }
 
@@ -97,7 +97,7 @@ TEST_F(ConRiordino, ChiudiLasciaIlLibretto) {
 }
 
 TEST_F(ConRiordino, UnaRigaMoltoLungaSiMostraTagliata) {
-  form.List1 = Lista({"2|" + std::string(1'000'000, 'x') + "|"});
+  form.Righe[ClasseRighe::Stazioni] = Lista({"2|" + std::string(1'000'000, 'x') + "|"});
   DoppioClick(Stazioni, 0);
   EXPECT_LT(Vista(Stazioni).model()->index(0, 0).data().toString().size(), 2000);
 }
