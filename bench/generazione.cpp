@@ -104,8 +104,8 @@ std::vector<std::string> Righe(const TabelleDisegno& t) {
       righe[i] += punto->Nota + "|";
       continue;
     }
-    const Lettura lettura = AngoloDaOrientamento(stazione.X, stazione.Y, battuta.X, battuta.Y, punto->X, punto->Y, 0);
-    const std::string hz = Formatta(ArrotondaAngolo(lettura.angolo, 0.0001), FormatoAngolo);
+    const Lettura lettura = AngoloDaOrientamento({stazione.Posto(), battuta.Posto(), Gon{}}, punto->Posto());
+    const std::string hz = Formatta(ArrotondaAngolo(lettura.angolo, Gon(0.0001)).Valore(), FormatoAngolo);
     righe[i] += (Valore(hz) >= 400 ? "0.000" : hz) + "|" + Formatta(lettura.distanza, FormatoDistanza) + "|" +
                 punto->Nota + "|";
   }
@@ -132,7 +132,7 @@ std::vector<std::string> RigheDelleFasi(Prova& p) {
   Generazione g{p.ambiente, opzioni, tabelle, linee, vecchie, {}, {}, {}};
   MettiStazioni(g);
   TogliUgualiVicine(g);
-  CalcolaMisure(g, 0.0001);
+  CalcolaMisure(g, Gon(0.0001));
   return g.righe;
 }
 

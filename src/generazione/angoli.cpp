@@ -1,7 +1,5 @@
 #include <generazione/angoli.h>
 
-#include <core/servizi.h>
-
 #include <cmath>
 #include <numbers>
 
@@ -9,35 +7,31 @@ namespace lirmeto {
 
 namespace {
 
-constexpr double GiroGradi = 400;
 constexpr double RadiantiAGradi = 200 / std::numbers::pi;
 
 } // namespace
 
-double Distanza2D(double x1, double y1, double x2, double y2) {
-  return DistanzaPiana(x1, y1, x2, y2);
-}
-
-Direzione AzimutDistanza(double ax, double ay, double bx, double by) {
-  const double dx = ax - bx;
-  const double dy = ay - by;
+Direzione AzimutDistanza(const PuntoPiano& a, const PuntoPiano& b) {
+  const double dx = a.est - b.est;
+  const double dy = a.nord - b.nord;
   const double d = std::sqrt(dx * dx + dy * dy);
   if (d + dy == 0) return {std::numbers::pi, d};
   const double angolo = 2 * std::atan(dx / (d + dy));
   return {angolo < 0 ? angolo + 2 * std::numbers::pi : angolo, d};
 }
 
-Lettura AngoloDaOrientamento(double sx, double sy, double rx, double ry, double px, double py, double orientamento) {
-  const Direzione riferimento = AzimutDistanza(sx, sy, rx, ry);
-  const Direzione punto = AzimutDistanza(sx, sy, px, py);
-  double angolo = orientamento + (punto.angolo * RadiantiAGradi - riferimento.angolo * RadiantiAGradi);
-  if (angolo < 0) angolo += GiroGradi;
-  if (angolo >= GiroGradi) angolo -= GiroGradi;
-  return {angolo, punto.distanza};
+Lettura AngoloDaOrientamento(const Orientamento2D& orientamento, const PuntoPiano& punto) {
+  const Direzione riferimento = AzimutDistanza(orientamento.stazione, orientamento.riferimento);
+  const Direzione direzione = AzimutDistanza(orientamento.stazione, punto);
+  Gon angolo =
+      orientamento.lettura + (Gon(direzione.angolo * RadiantiAGradi) - Gon(riferimento.angolo * RadiantiAGradi));
+  if (angolo < Gon{}) angolo = angolo + Giro;
+  if (angolo >= Giro) angolo = angolo - Giro;
+  return {angolo, direzione.distanza};
 }
 
-double ArrotondaAngolo(double angolo, double passo) {
-  return std::floor((angolo + passo / 2) / passo) * passo;
+Gon ArrotondaAngolo(Gon angolo, Gon passo) {
+  return Gon(std::floor((angolo.Valore() + passo.Valore() / 2) / passo.Valore()) * passo.Valore());
 }
 
 } // namespace lirmeto

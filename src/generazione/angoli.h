@@ -1,12 +1,12 @@
 #pragma once
-// Angles and distances between points in plan. Coordinates and distances in metres; azimuths clockwise from +Y.
+// Angles between points in plan. Azimuths clockwise from the north.
 
-#include <string>
+#include <base/gon.h>
+#include <base/piano.h>
+
 #include <string_view>
 
 namespace lirmeto {
-
-[[nodiscard]] double Distanza2D(double x1, double y1, double x2, double y2);
 
 struct Direzione {
   double angolo = 0;   // radians, 0 to 2 pi
@@ -15,19 +15,25 @@ struct Direzione {
 
 // Of the vector from B to A. By the half angle, 2 atan(dx / (d + dy)), which needs no test on dy: where d + dy is zero
 // the angle is pi. Angles that are compared are taken the same way round, so that the sense of the vector falls out.
-[[nodiscard]] Direzione AzimutDistanza(double ax, double ay, double bx, double by);
+[[nodiscard]] Direzione AzimutDistanza(const PuntoPiano& a, const PuntoPiano& b);
 
-struct Lettura {
-  double angolo = 0;   // grads, 0 to below 400
-  double distanza = 0; // of S and P, metres
+// A station, and what its circle reads to the point that it is oriented on.
+struct Orientamento2D {
+  PuntoPiano stazione;
+  PuntoPiano riferimento;
+  Gon lettura;
 };
 
-// Reading to P on a station S that reads `orientamento` (grads) to R.
-[[nodiscard]] Lettura AngoloDaOrientamento(double sx, double sy, double rx, double ry, double px, double py,
-                                           double orientamento);
+struct Lettura {
+  Gon angolo;          // 0 to below 400
+  double distanza = 0; // from the station, metres
+};
 
-// An angle, grads, rounded to a step: half a step is added and the rest cut off.
-[[nodiscard]] double ArrotondaAngolo(double angolo, double passo);
+// Reading to a point.
+[[nodiscard]] Lettura AngoloDaOrientamento(const Orientamento2D& orientamento, const PuntoPiano& punto);
+
+// An angle rounded to a step: half a step is added and the rest cut off.
+[[nodiscard]] Gon ArrotondaAngolo(Gon angolo, Gon passo);
 
 // The formats of a row 1 and 2, with a point as decimal sign: grads with three decimals or four, metres with three or
 // (heights) two or three.

@@ -2,6 +2,7 @@
 // The phases that turn a drawing into a libretto. Each works on the state of one generation; libretto_da_disegno.cpp
 // calls them in their order.
 
+#include <base/gon.h>
 #include <core/ambiente.h>
 #include <generazione/opzioni_libretto.h>
 #include <generazione/tabelle_disegno.h>
@@ -48,8 +49,8 @@ void TogliUgualiVicine(Generazione& g);
 // Rows 6 of more than fifty characters of the old libretto.
 void MantieniCensuario(Generazione& g);
 
-// Rows 1 and 2 get angles, distances, heights and notes, `passo` being the rounding of angles in grads.
-void CalcolaMisure(Generazione& g, double passo);
+// Rows 1 and 2 get angles, distances, heights and notes, `passo` being the rounding of angles.
+void CalcolaMisure(Generazione& g, Gon passo);
 
 // Rows 8: fiducial points by the TAF and points by their marks, or the old ones.
 void MettiCoordinate(Generazione& g);

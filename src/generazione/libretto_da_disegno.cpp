@@ -94,13 +94,13 @@ bool ElencoDiVertici(const ContornoDisegno& contorno) {
   return contorno.Tipo == "PV" || contorno.Tipo == "PD";
 }
 
-double DistanzaDaTratto(const LineaGrafica& tratto, double x, double y) {
+double DistanzaDaTratto(const LineaGrafica& tratto, const PuntoPiano& posto) {
   const double dx = tratto.X2 - tratto.X1;
   const double dy = tratto.Y2 - tratto.Y1;
   const double quadrato = dx * dx + dy * dy;
-  const double lungo = quadrato > 0 ? ((x - tratto.X1) * dx + (y - tratto.Y1) * dy) / quadrato : 0;
+  const double lungo = quadrato > 0 ? ((posto.est - tratto.X1) * dx + (posto.nord - tratto.Y1) * dy) / quadrato : 0;
   const double parte = std::clamp(lungo, 0.0, 1.0);
-  return std::hypot(tratto.X1 + parte * dx - x, tratto.Y1 + parte * dy - y);
+  return DistanzaPiana(posto, {tratto.X1 + parte * dx, tratto.Y1 + parte * dy});
 }
 
 } // namespace
@@ -149,11 +149,11 @@ void LibrettoDaDisegno::Accendi(std::optional<std::size_t> indice) {
   Grafica1.KR_RidisegnaGrafica();
 }
 
-std::optional<std::size_t> LibrettoDaDisegno::LineaVicina(double x, double y, double entro) const {
+std::optional<std::size_t> LibrettoDaDisegno::LineaVicina(const PuntoPiano& posto, double entro) const {
   std::optional<std::size_t> vicina;
   for (std::size_t i = 0; i < tracciate_.size(); ++i) {
     if (!tracciate_[i]) continue;
-    const double distanza = DistanzaDaTratto(*tracciate_[i], x, y);
+    const double distanza = DistanzaDaTratto(*tracciate_[i], posto);
     if (!(distanza < entro)) continue;
     entro = distanza;
     vicina = i;
@@ -264,7 +264,7 @@ bool LibrettoDaDisegno::GeneraLibrettoMisureAutomatico() {
 // The order is part of the result: what a phase adds stands before what the next one does.
 void LibrettoDaDisegno::Fasi(Generazione& g) {
   PrendiRigheGps(g);
-  const double passo = Valore(PassiAngolari.at(static_cast<std::size_t>(Opzioni.PrecisioneAngolare)));
+  const Gon passo(Valore(PassiAngolari.at(static_cast<std::size_t>(Opzioni.PrecisioneAngolare))));
   MettiTestata(g);
   MettiPoligonali(g);
   MettiStazioni(g);

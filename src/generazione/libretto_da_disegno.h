@@ -56,7 +56,7 @@ public:
   void Accendi(std::optional<std::size_t> indice);
   // The line of the list nearest to a place of the picture, the first of equal ones, if it passes within so many
   // metres.
-  [[nodiscard]] std::optional<std::size_t> LineaVicina(double x, double y, double entro) const;
+  [[nodiscard]] std::optional<std::size_t> LineaVicina(const PuntoPiano& posto, double entro) const;
 
   // All phases but the writing: Libretto, the row list and the report. False: no orientation was chosen, and nothing
   // has changed.

@@ -15,8 +15,6 @@ namespace lirmeto {
 
 namespace {
 
-constexpr double GiroGradi = 400;
-constexpr double RettoGradi = 100;
 constexpr double MillimetriPerMetro = 1000;
 
 // Where the old libretto's stations begin, by "1|name|".
@@ -49,17 +47,16 @@ private:
 // What is kept from row to row: the station, its first sight and the reading to it.
 class Misure {
 public:
-  Misure(Generazione& g, double passo) : g_(g), passo_(passo), vecchie_(g.vecchie) {}
+  Misure(Generazione& g, Gon passo) : g_(g), passo_(passo), vecchie_(g.vecchie) {}
 
   void Stazione(std::size_t indice) {
     std::string& riga = g_.righe[indice];
     if (const PuntoDisegno* punto = g_.tabelle.Trova(Parte(riga, '|', 1))) riga = RigaStazione(*punto);
     if (indice + 1 < g_.righe.size()) PrendiPrimaBattuta(g_.righe[indice + 1]);
     if (g_.opzioni.OrientaAzimut)
-      orientamento_ =
-          AzimutDistanza(battuta_.X, battuta_.Y, stazione_.X, stazione_.Y).angolo * g_.ambiente.sessione.RadGon;
+      orientamento_ = Gon(AzimutDistanza(battuta_.Posto(), stazione_.Posto()).angolo * g_.ambiente.sessione.RadGon);
     else if (g_.opzioni.OrientaPrecedente)
-      orientamento_ = 0;
+      orientamento_ = {};
     else
       OrientaSulLibretto();
   }
@@ -96,7 +93,7 @@ private:
     for (std::size_t i = inizio + 1; i < righe.size(); ++i) {
       if (GenereRiga(righe[i]) == 1) return AvvisaNonTrovata();
       if (testoBattuta_.empty() || !righe[i].starts_with(testoBattuta_)) continue;
-      orientamento_ = Valore(righe[i].substr(testoBattuta_.size()));
+      orientamento_ = Gon(Valore(righe[i].substr(testoBattuta_.size())));
       return;
     }
   }
@@ -114,34 +111,37 @@ private:
   }
 
   [[nodiscard]] std::string RigaBattuta(const PuntoDisegno& punto) const {
-    const Lettura lettura =
-        AngoloDaOrientamento(stazione_.X, stazione_.Y, battuta_.X, battuta_.Y, punto.X, punto.Y, orientamento_);
+    const Lettura lettura = AngoloDaOrientamento({stazione_.Posto(), battuta_.Posto(), orientamento_}, punto.Posto());
     const bool altimetrico = conAltezza_ && !Planimetrico(punto);
     double distanza = lettura.distanza;
     std::string riga = "2|" + punto.Nome + "|" + Orizzontale(lettura.angolo) + "|";
-    if (altimetrico) {
-      if (distanza > 0)
-        riga += Zenitale(punto, distanza);
-      else
-        AvvisaCoincidente(punto.Nome);
+    if (altimetrico && distanza > 0) {
+      const Inclinata inclinata = InclinataA(punto, distanza);
+      distanza = inclinata.distanza;
+      riga += Formatta(ArrotondaAngolo(inclinata.zenitale, passo_).Valore(), FormatoAngolo) + "|";
+    } else if (altimetrico) {
+      AvvisaCoincidente(punto.Nome);
     }
     riga += DistanzaScritta(punto, distanza) + "|";
     if (altimetrico && punto.Altezza >= 0) riga += Formatta(punto.Altezza, FormatoAltezza) + "|";
     return riga + NotaConBarra(punto.Nota, "Note:");
   }
 
-  [[nodiscard]] std::string Orizzontale(double angolo) const {
-    std::string testo = Formatta(ArrotondaAngolo(angolo, passo_), FormatoAngolo);
-    return Valore(testo) >= GiroGradi ? "0.000" : testo;
+  [[nodiscard]] std::string Orizzontale(Gon angolo) const {
+    std::string testo = Formatta(ArrotondaAngolo(angolo, passo_).Valore(), FormatoAngolo);
+    return Gon(Valore(testo)) >= Giro ? "0.000" : testo;
   }
 
-  // The zenith angle and its bar; the plan distance becomes the slope one.
-  [[nodiscard]] std::string Zenitale(const PuntoDisegno& punto, double& distanza) const {
-    const double dislivello =
-        std::abs(punto.Altezza) + punto.Quota - (std::abs(stazione_.Altezza) + stazione_.Quota); // of the prism
-    const double zenitale = RettoGradi - std::atan(dislivello / distanza) * g_.ambiente.sessione.RadGon;
-    distanza = std::sqrt(distanza * distanza + dislivello * dislivello);
-    return Formatta(ArrotondaAngolo(zenitale, passo_), FormatoAngolo) + "|";
+  struct Inclinata {
+    Gon zenitale;
+    double distanza = 0; // metres, along the slope
+  };
+
+  // To the prism on a point at a plan distance.
+  [[nodiscard]] Inclinata InclinataA(const PuntoDisegno& punto, double piana) const {
+    const double dislivello = std::abs(punto.Altezza) + punto.Quota - (std::abs(stazione_.Altezza) + stazione_.Quota);
+    return {Retto - Gon(std::atan(dislivello / piana) * g_.ambiente.sessione.RadGon),
+            std::sqrt(piana * piana + dislivello * dislivello)};
   }
 
   // In spite of its words the row stays, without a zenith angle: meant so.
@@ -159,19 +159,19 @@ private:
   }
 
   Generazione& g_;
-  double passo_;
+  Gon passo_;
   StazioniVecchie vecchie_;
   PuntoDisegno stazione_;
   PuntoDisegno battuta_;
   std::string testoStazione_;
   std::string testoBattuta_;
   bool conAltezza_ = false;
-  double orientamento_ = 0; // grads
+  Gon orientamento_;
 };
 
 } // namespace
 
-void CalcolaMisure(Generazione& g, double passo) {
+void CalcolaMisure(Generazione& g, Gon passo) {
   Misure misure(g, passo);
   Avanzamento avanzamento(g.ambiente.dialoghi, "Calcolo delle misure", g.righe.size());
   for (std::size_t i = 0; i < g.righe.size(); ++i) {

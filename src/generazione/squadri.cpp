@@ -29,19 +29,17 @@ std::string NotaDi(const PuntoDisegno& punto) {
   return NotaConBarra(punto.Nota, NotaVuota);
 }
 
-// The foot of the perpendicular from C to the line AB; false when A and B are one point.
-bool Piede(const PuntoDisegno& a, const PuntoDisegno& b, const PuntoDisegno& c, double& x, double& y) {
-  const double normale = AzimutDistanza(a.X, a.Y, b.X, b.Y).angolo + std::numbers::pi / 2;
-  const double ux = b.X - a.X;
-  const double uy = b.Y - a.Y;
+// The foot of the perpendicular from C to the line AB; none when A and B are one point.
+std::optional<PuntoPiano> Piede(const PuntoPiano& a, const PuntoPiano& b, const PuntoPiano& c) {
+  const double normale = AzimutDistanza(a, b).angolo + std::numbers::pi / 2;
+  const double ux = b.est - a.est;
+  const double uy = b.nord - a.nord;
   const double vx = std::sin(normale);
   const double vy = std::cos(normale);
   const double determinante = ux * vy - uy * vx;
-  if (std::abs(determinante) < Parallele) return false;
-  const double t = ((c.X - a.X) * vy - (c.Y - a.Y) * vx) / determinante;
-  x = a.X + t * ux;
-  y = a.Y + t * uy;
-  return true;
+  if (std::abs(determinante) < Parallele) return std::nullopt;
+  const double t = ((c.est - a.est) * vy - (c.nord - a.nord) * vx) / determinante;
+  return PuntoPiano{a.est + t * ux, a.nord + t * uy};
 }
 
 class Squadri {
@@ -136,7 +134,7 @@ private:
   }
 
   void MettiDistanza(const PuntoDisegno& punto, const PuntoDisegno& da) {
-    Metti("5|" + punto.Nome + "|" + Formatta(Distanza2D(da.X, da.Y, punto.X, punto.Y), FormatoMisura) + "|0|" +
+    Metti("5|" + punto.Nome + "|" + Formatta(DistanzaPiana(da.Posto(), punto.Posto()), FormatoMisura) + "|0|" +
           NotaDi(punto));
   }
 
@@ -149,11 +147,10 @@ private:
 } // namespace
 
 std::optional<Squadratura> MisuraSquadro(const PuntoDisegno& a, const PuntoDisegno& b, const PuntoDisegno& c) {
-  double x = 0;
-  double y = 0;
-  if (!Piede(a, b, c, x, y)) return std::nullopt;
-  Squadratura misura{Distanza2D(a.X, a.Y, x, y), Distanza2D(c.X, c.Y, x, y)};
-  double giro = AzimutDistanza(a.X, a.Y, c.X, c.Y).angolo - AzimutDistanza(a.X, a.Y, b.X, b.Y).angolo;
+  const auto piede = Piede(a.Posto(), b.Posto(), c.Posto());
+  if (!piede) return std::nullopt;
+  Squadratura misura{DistanzaPiana(a.Posto(), *piede), DistanzaPiana(c.Posto(), *piede)};
+  double giro = AzimutDistanza(a.Posto(), c.Posto()).angolo - AzimutDistanza(a.Posto(), b.Posto()).angolo;
   if (giro < 0) giro += 2 * std::numbers::pi;
   if (giro > std::numbers::pi) misura.ordinata = -misura.ordinata;
   if (giro > std::numbers::pi / 2 && giro < 3 * std::numbers::pi / 2) {

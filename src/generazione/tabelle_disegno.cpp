@@ -2,7 +2,6 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
-#include <core/servizi.h>
 
 #include <algorithm>
 #include <cmath>
@@ -118,21 +117,21 @@ std::size_t PuntiPerPosto::HashCella::operator()(const Cella& cella) const {
 }
 
 // In a cell; the number of points when there is none.
-std::size_t PuntiPerPosto::PrimoVicino(const Cella& cella, double x, double y) const {
+std::size_t PuntiPerPosto::PrimoVicino(const Cella& cella, const PuntoPiano& posto) const {
   const auto trovata = celle_.find(cella);
   std::size_t i = trovata == celle_.end() ? punti_.size() : trovata->second.primo;
-  while (i < punti_.size() && !(DistanzaPiana(punti_[i].X, punti_[i].Y, x, y) < Vicino)) i = seguenti_[i];
+  while (i < punti_.size() && !(DistanzaPiana(punti_[i].Posto(), posto) < Vicino)) i = seguenti_[i];
   return i;
 }
 
-const PuntoDisegno* PuntiPerPosto::Trova(double x, double y) const {
+const PuntoDisegno* PuntiPerPosto::Trova(const PuntoPiano& posto) const {
   const auto cella = [](double metri) { return std::floor(metri / LatoCella); };
-  const double colonne[] = {cella(x - Vicino), cella(x + Vicino)};
-  const double righe[] = {cella(y - Vicino), cella(y + Vicino)};
+  const double colonne[] = {cella(posto.est - Vicino), cella(posto.est + Vicino)};
+  const double righe[] = {cella(posto.nord - Vicino), cella(posto.nord + Vicino)};
   std::size_t primo = punti_.size();
   for (std::size_t i = 0; i < (colonne[0] == colonne[1] ? 1U : 2U); ++i)
     for (std::size_t k = 0; k < (righe[0] == righe[1] ? 1U : 2U); ++k)
-      primo = std::min(primo, PrimoVicino({colonne[i], righe[k]}, x, y));
+      primo = std::min(primo, PrimoVicino({colonne[i], righe[k]}, posto));
   return primo < punti_.size() ? &punti_[primo] : nullptr;
 }
 
@@ -140,8 +139,8 @@ std::vector<std::string> ElencoLinee(const TabelleDisegno& tabelle) {
   const PuntiPerPosto posti(tabelle);
   std::vector<std::string> coppie;
   for (const LineaDisegno& linea : tabelle.Linee()) {
-    const PuntoDisegno* a = posti.Trova(linea.X1, linea.Y1);
-    const PuntoDisegno* b = posti.Trova(linea.X2, linea.Y2);
+    const PuntoDisegno* a = posti.Trova({linea.X1, linea.Y1});
+    const PuntoDisegno* b = posti.Trova({linea.X2, linea.Y2});
     if (a != nullptr && b != nullptr) coppie.push_back(CoppiaOrdinata(a->Nome, b->Nome));
   }
   std::sort(coppie.begin(), coppie.end());

@@ -1,6 +1,7 @@
 #pragma once
 // A survey that exists only as a drawing: its points, lines and contours, as a .LXC file holds them.
 
+#include <base/piano.h>
 #include <core/ambiente.h>
 
 #include <cstddef>
@@ -20,6 +21,7 @@ struct PuntoDisegno {
   std::string Nota; // with its marks: "<PV>", "<P!>", "[P.A.]", ...
   // Metres: of the instrument at a station, of the prism at a sighted point. Below zero: a direction without distance.
   double Altezza = 0;
+  [[nodiscard]] PuntoPiano Posto() const { return {X, Y}; }
 };
 
 struct LineaDisegno { // metres
@@ -78,7 +80,7 @@ inline constexpr std::string_view EstensioneDisegno = ".LXC";
 class PuntiPerPosto {
 public:
   explicit PuntiPerPosto(const TabelleDisegno& tabelle);
-  [[nodiscard]] const PuntoDisegno* Trova(double x, double y) const;
+  [[nodiscard]] const PuntoDisegno* Trova(const PuntoPiano& posto) const;
 
 private:
   struct Cella {
@@ -93,7 +95,7 @@ private:
     std::size_t primo = 0;
     std::size_t ultimo = 0;
   };
-  [[nodiscard]] std::size_t PrimoVicino(const Cella& cella, double x, double y) const;
+  [[nodiscard]] std::size_t PrimoVicino(const Cella& cella, const PuntoPiano& posto) const;
 
   const std::vector<PuntoDisegno>& punti_;
   std::unordered_map<Cella, Catena, HashCella> celle_;

@@ -343,7 +343,7 @@ void FinestraLibrettoDisegno::Togli(int riga) {
 
 void FinestraLibrettoDisegno::PassaSopra(double x, double y) {
   const double metriPixel = modello_.Grafica1.Vista().Zoom / std::max(1, pannello_->Superficie().height());
-  Illumina(modello_.LineaVicina(x, y, VicinoPixel * metriPixel));
+  Illumina(modello_.LineaVicina({x, y}, VicinoPixel * metriPixel));
 }
 
 // The line under the pointer; without one, the one selected in the list.

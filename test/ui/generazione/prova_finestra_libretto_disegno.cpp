@@ -169,10 +169,10 @@ TEST_F(LibrettoDisegno, SiAccendeLaLineaSottoIlPuntatoreELaScelta) {
   linee->setFocus();
   QTest::keyClick(linee, Qt::Key_Down);
   EXPECT_EQ(accesa(), -30);
-  EXPECT_EQ(form.LineaVicina(-15, 27, 1), 1U);
+  EXPECT_EQ(form.LineaVicina({-15, 27}, 1), 1U);
   DoppioClick(1);
   EXPECT_EQ(accesa(), 30) << "the light goes on to the next one";
-  EXPECT_EQ(form.LineaVicina(-15, 27, 1), std::nullopt);
+  EXPECT_EQ(form.LineaVicina({-15, 27}, 1), std::nullopt);
 }
 
 TEST_F(LibrettoDisegno, UnOpzioneSpentaNonSiSceglie) {
