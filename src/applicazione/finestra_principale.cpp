@@ -269,19 +269,22 @@ void KR_LibrettoOriginale::ApriIntestazione() {
 void KR_LibrettoOriginale::DoppioClick(std::size_t riga) {
   if (riga >= ambiente_.sessione.List1.Quante()) return;
   const std::string testo(ambiente_.sessione.List1.Riga(riga));
-  const double genere = GenereRiga(testo);
+  const Genere genere = GenereDi(testo);
   Comanda("Modifica", [&] {
-    if (genere == 0 || genere == 9 || (genere == 6 && Contiene(testo, "DettaglioTipoAgg"))) return ApriIntestazione();
-    if (genere == 8 && Parte(testo, '|', 1).starts_with("PF")) return InfoMisurate(ambiente_, Parte(testo, '|', 1));
+    if (genere == Genere::Intestazione || genere == Genere::Chiusura ||
+        (genere == Genere::Libera && Contiene(testo, "DettaglioTipoAgg")))
+      return ApriIntestazione();
+    if (genere == Genere::Coordinate && Parte(testo, '|', 1).starts_with("PF"))
+      return InfoMisurate(ambiente_, Parte(testo, '|', 1));
     ModificaRiga();
   });
 }
 
 void KR_LibrettoOriginale::TastoInvio(std::size_t riga) {
   if (riga >= ambiente_.sessione.List1.Quante()) return;
-  const double genere = GenereRiga(ambiente_.sessione.List1.Riga(riga));
+  const Genere genere = GenereDi(ambiente_.sessione.List1.Riga(riga));
   Comanda("Modifica", [&] {
-    if (genere == 0 || genere == 9) return ApriIntestazione();
+    if (genere == Genere::Intestazione || genere == Genere::Chiusura) return ApriIntestazione();
     ModificaRiga();
   });
 }

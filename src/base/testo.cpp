@@ -220,6 +220,13 @@ std::string Sostituisci(std::string_view testo, std::string_view da, std::string
   return uscita;
 }
 
+std::string InBianchi(std::string_view testo, std::string_view lettere) {
+  std::string mutato(testo);
+  for (std::size_t i = mutato.find_first_of(lettere); i != std::string::npos; i = mutato.find_first_of(lettere, i))
+    mutato[i] = ' ';
+  return mutato;
+}
+
 std::string AllineaDestra(std::string_view testo, std::size_t colonne) {
   if (testo.size() >= colonne) return std::string(testo.substr(testo.size() - colonne));
   std::string uscita(colonne - testo.size(), ' ');

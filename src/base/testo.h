@@ -68,6 +68,14 @@ template <typename Righe>
 // Plain replacement in one pass from left to right: what a replacement brings in is not looked at again.
 [[nodiscard]] std::string Sostituisci(std::string_view testo, std::string_view da, std::string_view a);
 
+// The text with a blank for each of these characters, which what it is written into cannot hold.
+[[nodiscard]] std::string InBianchi(std::string_view testo, std::string_view lettere);
+
+// A text for one line of a file: line ends are blanks.
+[[nodiscard]] inline std::string SuUnaRiga(std::string_view testo) {
+  return InBianchi(testo, FineRiga);
+}
+
 // The last `colonne` characters of the text with as many blanks before it: a longer text loses its beginning.
 [[nodiscard]] std::string AllineaDestra(std::string_view testo, std::size_t colonne);
 

@@ -125,8 +125,8 @@ ListaRighe RigheDaElencare(const std::string& libretto, Dialoghi& dialoghi) {
 void MettiZeroNove(ListaRighe& righe, const Sessione& sessione) {
   if (righe.empty()) righe.Aggiungi(sessione.RigaZero);
   if (righe.size() < 2) righe.Aggiungi(sessione.RigaNove);
-  if (GenereRiga(righe[0]) != 0) righe.Inserisci(0, sessione.RigaZero);
-  if (GenereRiga(righe[1]) != 9) righe.Inserisci(1, sessione.RigaNove);
+  if (GenereDi(righe[0]) != Genere::Intestazione) righe.Inserisci(0, sessione.RigaZero);
+  if (GenereDi(righe[1]) != Genere::Chiusura) righe.Inserisci(1, sessione.RigaNove);
 }
 
 } // namespace

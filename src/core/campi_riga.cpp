@@ -22,7 +22,7 @@ std::string ConCampo(std::string_view riga, std::size_t campo, std::string_view 
   std::vector<std::string_view> campi = Dividi(riga, "|");
   if (campo >= campi.size())
     throw Errore(errore::IndiceFuoriIntervallo, "La riga non ha questo campo: " + std::string(riga));
-  const std::string pulito = Sostituisci(testo, "|", " ");
+  const std::string pulito = InBianchi(testo, "|");
   campi[campo] = pulito;
   return Unisci(campi, "|");
 }

@@ -50,24 +50,25 @@ Blocco TrovaRelazione(const Righe& righe) {
 }
 
 // `prima` is the kind of the row before it.
-ClasseRighe ClasseRiga6(std::string_view riga, double prima) {
+ClasseRighe ClasseRiga6(std::string_view riga, Genere prima) {
   if (Riga6Gps(riga)) return ClasseRighe::Gps;
   if (Contiene(riga, "6|DettaglioTipoAgg=")) return ClasseRighe::Commento;
   if (riga.size() == LunghezzaCensuaria) return ClasseRighe::Censuario;
   if (riga.starts_with("6| -")) return ClasseRighe::Appunti;
   if (!PuoEssereCommento(riga)) return ClasseRighe::Nessuna;
-  return prima == 9 || prima == 0 ? ClasseRighe::Commento : ClasseRighe::Contorni;
+  return prima == Genere::Chiusura || prima == Genere::Intestazione ? ClasseRighe::Commento : ClasseRighe::Contorni;
 }
 
-ClasseRighe ClasseRiga(std::string_view riga, double genere, double prima) {
-  if (genere == 3) return ClasseRighe::Poligonali;
-  if (genere == 0) return ClasseRighe::Zero;
-  if (genere == 1 || genere == 2) return RigaGps(riga) ? ClasseRighe::Gps : ClasseRighe::Stazioni;
-  if (genere == 6) return ClasseRiga6(riga, prima);
-  if (genere == 9) return ClasseRighe::Nove;
-  if (genere == 8) return ClasseRighe::Coordinate;
-  if (genere == 7) return ClasseRighe::Contorni;
-  if (genere == 4 || genere == 5) return ClasseRighe::Allineate;
+ClasseRighe ClasseRiga(std::string_view riga, Genere genere, Genere prima) {
+  if (genere == Genere::Poligonale) return ClasseRighe::Poligonali;
+  if (genere == Genere::Intestazione) return ClasseRighe::Zero;
+  if (genere == Genere::Stazione || genere == Genere::Battuta)
+    return RigaGps(riga) ? ClasseRighe::Gps : ClasseRighe::Stazioni;
+  if (genere == Genere::Libera) return ClasseRiga6(riga, prima);
+  if (genere == Genere::Chiusura) return ClasseRighe::Nove;
+  if (genere == Genere::Coordinate) return ClasseRighe::Coordinate;
+  if (genere == Genere::Contorno) return ClasseRighe::Contorni;
+  if (genere == Genere::Allineamento || genere == Genere::Squadro) return ClasseRighe::Allineate;
   return ClasseRighe::Stazioni;
 }
 
@@ -75,10 +76,10 @@ ClasseRighe ClasseRiga(std::string_view riga, double genere, double prima) {
 void Distribuisci(std::span<const std::string_view> righe, const Blocco& relazione, RigheInClassi& classi,
                   Dialoghi& dialoghi) {
   Avanzamento avanzamento(dialoghi, "Riordino Righe", righe.size());
-  double prima = -1; // no row stands before the first
+  Genere prima = Genere::Altro; // no row stands before the first
   for (std::size_t i = 0; i < righe.size(); ++i) {
     avanzamento.Fatto(i);
-    const double genere = GenereRiga(righe[i]);
+    const Genere genere = GenereDi(righe[i]);
     if (!relazione.Contiene(i) && !Taglia(righe[i]).empty())
       classi[ClasseRiga(righe[i], genere, prima)].AggiungiVista(righe[i]);
     prima = genere;

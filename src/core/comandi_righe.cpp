@@ -84,9 +84,9 @@ void AggiungiRighe(std::string& testo, const std::vector<std::string_view>& righ
 }
 
 // Rows of a kind that hold none of these texts.
-auto DiGenere(double genere, std::span<const std::string_view> senza = {}) {
+auto DiGenere(Genere genere, std::span<const std::string_view> senza = {}) {
   return [genere, senza](std::string_view riga) {
-    return GenereRiga(riga) == genere &&
+    return GenereDi(riga) == genere &&
            std::none_of(senza.begin(), senza.end(), [&](std::string_view testo) { return Contiene(riga, testo); });
   };
 }
@@ -150,16 +150,17 @@ void SelezionaPuntiFiduciali(Ambiente& ambiente) {
 }
 
 void Seleziona_Stazioni(Ambiente& ambiente) {
-  ambiente.sessione.List1.SelezionaSe(DiGenere(1));
+  ambiente.sessione.List1.SelezionaSe(DiGenere(Genere::Stazione));
 }
 
 void Seleziona_Squadri(Ambiente& ambiente) {
-  ambiente.sessione.List1.SelezionaSe(
-      [](std::string_view riga) { return GenereRiga(riga) == 4 || GenereRiga(riga) == 5; });
+  ambiente.sessione.List1.SelezionaSe([](std::string_view riga) {
+    return GenereDi(riga) == Genere::Allineamento || GenereDi(riga) == Genere::Squadro;
+  });
 }
 
 void Seleziona_Contorni(Ambiente& ambiente) {
-  ambiente.sessione.List1.SelezionaSe(DiGenere(7));
+  ambiente.sessione.List1.SelezionaSe(DiGenere(Genere::Contorno));
 }
 
 void InvertiSelezione(Ambiente& ambiente) {
@@ -169,8 +170,7 @@ void InvertiSelezione(Ambiente& ambiente) {
 
 void CopiaNegliAppunti(Ambiente& ambiente) {
   Sessione& sessione = ambiente.sessione;
-  std::string testo;
-  for (const auto riga : sessione.List1.Righe()) testo.append(riga).append(FineRiga);
+  const std::string testo = RigheUnite(sessione.List1.Righe());
   ambiente.appunti.MettiTesto(testo);
   sessione.PuntoErrore = "CopiaNegliAppunti";
   ambiente.disco.Scrivi(sessione.CartellaProgramma + "\\temp\\TagUno.tag", testo + std::string(FineRiga));
@@ -234,10 +234,10 @@ std::string GeneraLibrettoConStralcio(Ambiente& ambiente) {
   std::string testo = std::string(RigaProposta) + std::string(FineRiga);
   const std::string_view rigaZero = righe.empty() ? std::string_view{} : righe.front();
   testo.append(IntestazioneProposta(rigaZero, sessione.Mappali)).append(FineRiga);
-  AggiungiRighe(testo, proposta, DiGenere(8));
-  AggiungiRighe(testo, righe, DiGenere(8, fiducialiOMappa));
-  AggiungiRighe(testo, proposta, DiGenere(7));
-  AggiungiRighe(testo, righe, DiGenere(7, mappa));
+  AggiungiRighe(testo, proposta, DiGenere(Genere::Coordinate));
+  AggiungiRighe(testo, righe, DiGenere(Genere::Coordinate, fiducialiOMappa));
+  AggiungiRighe(testo, proposta, DiGenere(Genere::Contorno));
+  AggiungiRighe(testo, righe, DiGenere(Genere::Contorno, mappa));
   AggiungiRighe(testo, righe, AttributoEstratto);
   return testo;
 }

@@ -186,19 +186,19 @@ RigaDescritta DescriviRiga(std::string_view riga) {
   const std::string_view inizio = riga.substr(0, quantoBasta);
   Campi campi = Dividi(inizio, "|");
   if (!campi.empty() && campi.back().empty()) campi.pop_back();
-  const double genere = GenereRiga(inizio);
-  if (genere == 1) return Stazione(inizio, campi);
-  if (genere == 2) return Battuta(inizio, campi);
-  if (genere == 3) return Poligonale(campi);
-  if (genere == 4) return Allineamento(campi);
-  if (genere == 5) return Squadro(campi);
+  const Genere genere = GenereDi(inizio);
+  if (genere == Genere::Stazione) return Stazione(inizio, campi);
+  if (genere == Genere::Battuta) return Battuta(inizio, campi);
+  if (genere == Genere::Poligonale) return Poligonale(campi);
+  if (genere == Genere::Allineamento) return Allineamento(campi);
+  if (genere == Genere::Squadro) return Squadro(campi);
   if (RigaCensuaria(riga)) return Censuaria(riga);
-  if (genere == 6)
+  if (genere == Genere::Libera)
     return {std::string(NomeRiga6(riga)), {{"Testo", {}, std::string(inizio.substr(inizio.find('|') + 1))}}};
-  if (genere == 7) return Contorno(campi);
-  if (genere == 8) return Coordinate(campi);
-  if (genere == 9) return DatiFinali(campi);
-  if (genere == 0 && inizio.starts_with("0|")) return Intestazione(campi);
+  if (genere == Genere::Contorno) return Contorno(campi);
+  if (genere == Genere::Coordinate) return Coordinate(campi);
+  if (genere == Genere::Chiusura) return DatiFinali(campi);
+  if (genere == Genere::Intestazione && inizio.starts_with("0|")) return Intestazione(campi);
   return {"Riga di tipo sconosciuto", {{"Testo", {}, std::string(inizio)}}};
 }
 

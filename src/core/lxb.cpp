@@ -10,14 +10,14 @@ namespace lirmeto {
 namespace {
 
 // Class of a replacement row; Nessuna when it is dropped.
-ClasseRighe ClasseSostituta(std::string_view riga, double genere, double genereDopo) {
-  if (genere == 1 || genere == 2)
+ClasseRighe ClasseSostituta(std::string_view riga, Genere genere, Genere genereDopo) {
+  if (genere == Genere::Stazione || genere == Genere::Battuta)
     return riga.find(',') != std::string_view::npos ? ClasseRighe::Gps : ClasseRighe::Stazioni;
-  if (genere == 3) return ClasseRighe::Poligonali;
-  if (genere == 4 || genere == 5) return ClasseRighe::Allineate;
-  if (genere == 7) return ClasseRighe::Contorni;
-  if (genere == 6 && genereDopo == 7) return ClasseRighe::Contorni;
-  if (genere == 6 && genereDopo == 2) return ClasseRighe::Gps;
+  if (genere == Genere::Poligonale) return ClasseRighe::Poligonali;
+  if (genere == Genere::Allineamento || genere == Genere::Squadro) return ClasseRighe::Allineate;
+  if (genere == Genere::Contorno) return ClasseRighe::Contorni;
+  if (genere == Genere::Libera && genereDopo == Genere::Contorno) return ClasseRighe::Contorni;
+  if (genere == Genere::Libera && genereDopo == Genere::Battuta) return ClasseRighe::Gps;
   return ClasseRighe::Nessuna;
 }
 
@@ -30,8 +30,8 @@ void UnisciLxb(Ambiente& ambiente, std::string_view sostitute) {
     classi[classe].clear();
   const auto righe = RigheDi(sostitute);
   for (std::size_t i = 0; i < righe.size(); ++i) {
-    const double dopo = i + 1 < righe.size() ? GenereRiga(righe[i + 1]) : 0;
-    classi[ClasseSostituta(righe[i], GenereRiga(righe[i]), dopo)].Aggiungi(righe[i]);
+    const Genere dopo = i + 1 < righe.size() ? GenereDi(righe[i + 1]) : Genere::Altro;
+    classi[ClasseSostituta(righe[i], GenereDi(righe[i]), dopo)].Aggiungi(righe[i]);
   }
   RicomponiLibretto(ambiente, std::move(classi));
 }

@@ -56,13 +56,13 @@ bool Precede(const RigaTagliata& a, const RigaTagliata& b) {
   return a.coda < b.coda;
 }
 
-bool ApreGruppo(double genere, Ordine ordine) {
-  return genere == 1 || (ordine == Ordine::Gps && genere == 6);
+bool ApreGruppo(Genere genere, Ordine ordine) {
+  return genere == Genere::Stazione || (ordine == Ordine::Gps && genere == Genere::Libera);
 }
 
 // Whether a row stays where it is for the row before it.
-bool Ferma(double genere, double prima, Ordine ordine) {
-  return (genere == 2 && prima == 1) || (ordine == Ordine::Gps && prima == 6);
+bool Ferma(Genere genere, Genere prima, Ordine ordine) {
+  return (genere == Genere::Battuta && prima == Genere::Stazione) || (ordine == Ordine::Gps && prima == Genere::Libera);
 }
 
 // The rows of a group that wait to be sorted, and where they stand in the list.
@@ -105,10 +105,10 @@ private:
 
 void OrdinaStazioni(ListaRighe& righe, Ordine ordine) {
   Attesa attesa(righe);
-  double prima = -1;
+  Genere prima = Genere::Altro;
   for (std::size_t i = 0; i < righe.size(); ++i) {
     const std::string_view riga = righe[i];
-    const double genere = GenereRiga(riga);
+    const Genere genere = GenereDi(riga);
     const bool apre = ApreGruppo(genere, ordine);
     if (apre) attesa.Ordina(i);
     if (apre || Ferma(genere, prima, ordine))

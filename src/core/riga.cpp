@@ -4,6 +4,8 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 
+#include <cmath>
+
 #include <algorithm>
 
 namespace lirmeto {
@@ -44,18 +46,25 @@ double GenereRiga(std::string_view riga) {
   return Valore(riga);
 }
 
+Genere GenereDi(std::string_view riga) {
+  constexpr double ultimo = 9;
+  const double genere = GenereRiga(riga);
+  const bool noto = genere >= 0 && genere <= ultimo && genere == std::floor(genere);
+  return noto ? static_cast<Genere>(genere) : Genere::Altro;
+}
+
 RigaDivisa SplitRiga(std::string_view riga) {
   RigaDivisa divisa;
   if (Taglia(riga).empty()) return divisa;
-  const double genere = GenereRiga(riga);
-  if (genere == 6 && riga.size() >= LunghezzaRiga6Intera) {
+  const Genere genere = GenereDi(riga);
+  if (genere == Genere::Libera && riga.size() >= LunghezzaRiga6Intera) {
     divisa.CampiRiga[0] = "6";
     divisa.CampiRiga[1] = riga.substr(2);
     return divisa;
   }
   DividiAiBarre(riga, divisa);
   divisa.UltimoCampo = UltimoCampoDi(divisa);
-  if (genere == 7) divisa.UltimoVertice = UltimoVerticeDi(divisa);
+  if (genere == Genere::Contorno) divisa.UltimoVertice = UltimoVerticeDi(divisa);
   return divisa;
 }
 

@@ -2,17 +2,31 @@
 // The row grammar: kinds of rows, the row splitter, the marks inside notes.
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace lirmeto {
 
-// Kind of a row: its numeric value, the leading number of the text, 0 when
-// there is none; never its first character. 0 header, 9 closing data, 1
-// station, 2 sighting, 3 traverse, 4 and 5 offsets and levelling, 6 free row, 7
-// contour, 8 coordinates.
+// Kind of a row, by the number that it begins with.
+enum class Genere : std::uint8_t {
+  Intestazione, // 0
+  Stazione,     // 1
+  Battuta,      // 2, a sighting
+  Poligonale,   // 3
+  Allineamento, // 4, the base of offsets or of a levelling
+  Squadro,      // 5, a point of it
+  Libera,       // 6
+  Contorno,     // 7
+  Coordinate,   // 8
+  Chiusura,     // 9
+  Altro         // any other number
+};
+
+// Its numeric value, the leading number of the text, 0 when there is none; never its first character.
 [[nodiscard]] double GenereRiga(std::string_view riga);
+[[nodiscard]] Genere GenereDi(std::string_view riga);
 
 inline constexpr std::size_t MassimoCampi = 301;
 // A row 6 of at least this length is not split.

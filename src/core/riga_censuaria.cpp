@@ -19,7 +19,7 @@ constexpr std::string_view InizioRiga = "6|";
 } // namespace
 
 bool RigaCensuaria(std::string_view riga) {
-  return riga.size() == LunghezzaCensuaria && GenereRiga(riga) == 6;
+  return riga.size() == LunghezzaCensuaria && GenereDi(riga) == Genere::Libera;
 }
 
 std::string_view LeggiCampo(std::string_view riga, const CampoCensuario& campo) {

@@ -14,11 +14,7 @@ std::string AvvisoRigheScartate(const Sessione& sessione) {
 }
 
 void FormRigheScartate::Copia() {
-  (void)Intrappola(ambiente_, [&] {
-    std::string testo;
-    for (const auto riga : Righe()) testo.append(riga).append(FineRiga);
-    ambiente_.appunti.MettiTesto(testo);
-  });
+  (void)Intrappola(ambiente_, [&] { ambiente_.appunti.MettiTesto(RigheUnite(Righe())); });
 }
 
 } // namespace lirmeto

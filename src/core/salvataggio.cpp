@@ -25,8 +25,9 @@ std::string RigaPulita(std::string_view riga) {
 }
 
 bool DaPulire(std::string_view riga) {
-  const double genere = GenereRiga(riga);
-  return genere != 0 && genere != 9 && (Contiene(riga, "||") || Contiene(riga, "<P!>"));
+  const Genere genere = GenereDi(riga);
+  return genere != Genere::Intestazione && genere != Genere::Chiusura &&
+         (Contiene(riga, "||") || Contiene(riga, "<P!>"));
 }
 
 // One pass of plain replacement of pairs of line ends, in place.

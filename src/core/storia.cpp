@@ -71,15 +71,6 @@ TestoCondiviso LibrettoDiverso(const Sessione& sessione) {
   return std::make_shared<const std::string>(sessione.Libretto);
 }
 
-std::string Unite(const ListaRighe& righe) {
-  std::size_t lunghezza = 0;
-  for (const auto riga : righe) lunghezza += riga.size() + FineRiga.size();
-  std::string testo;
-  testo.reserve(lunghezza);
-  for (const auto riga : righe) testo.append(riga).append(FineRiga);
-  return testo;
-}
-
 } // namespace
 
 void Storia::Ricomincia(const Sessione& sessione) {
@@ -155,7 +146,7 @@ void Storia::Scambia(Passo& passo, Sessione& sessione) {
   Tratto tolte = Copia(righe, passo.inizio, passo.quante);
   righe.CambiaTratto(passo.inizio, passo.quante, passo.altre.righe);
   righe.Tieni(passo.altre.testo);
-  sessione.Libretto = passo.libretto ? *passo.libretto : Unite(righe);
+  sessione.Libretto = passo.libretto ? *passo.libretto : RigheUnite(righe);
   sessione.List1.Riempi(std::move(righe));
   sessione.List1.Indice(static_cast<long>(passo.inizio));
   passo.quante = passo.altre.righe.size();

@@ -36,12 +36,12 @@ void PrendiRigheZeroNove(Sessione& sessione) {
   const std::size_t fine = libretto.find(FineRiga);
   if (fine == std::string_view::npos) return;
   const std::string_view prima = libretto.substr(0, fine);
-  if (!Taglia(prima).empty() && GenereRiga(prima) == 0) sessione.RigaZero = prima;
+  if (!Taglia(prima).empty() && GenereDi(prima) == Genere::Intestazione) sessione.RigaZero = prima;
   const std::string_view resto = libretto.substr(fine + FineRiga.size());
   const std::size_t fineSeconda = resto.find(FineRiga);
   if (fineSeconda == std::string_view::npos) return;
   const std::string_view seconda = resto.substr(0, fineSeconda);
-  if (GenereRiga(seconda) == 9) sessione.RigaNove = seconda;
+  if (GenereDi(seconda) == Genere::Chiusura) sessione.RigaNove = seconda;
 }
 
 void DecodificaZero(Sessione& sessione) {

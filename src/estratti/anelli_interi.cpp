@@ -10,7 +10,7 @@ std::vector<std::size_t> TesteDegliAnelli(const std::vector<std::string_view>& r
   std::vector<std::size_t> teste(righe.size(), NessunaTesta);
   std::size_t testa = NessunaTesta;
   for (std::size_t i = 0; i < righe.size(); ++i) {
-    if (GenereRiga(righe[i]) != 7) continue;
+    if (GenereDi(righe[i]) != Genere::Contorno) continue;
     if (testa == NessunaTesta || Valore(Parte(righe[i], '|', 1)) != 0) testa = i;
     teste[i] = testa;
   }

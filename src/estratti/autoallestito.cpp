@@ -21,7 +21,7 @@ std::vector<std::string_view> RigheTenute(const std::vector<std::string_view>& r
     if (teste[i] != NessunaTesta && HaLettere(righe[i])) scartati[teste[i]] = true;
   std::vector<std::string_view> tenute;
   for (std::size_t i = 1; i < righe.size(); ++i) {
-    const bool punto = GenereRiga(righe[i]) == 8;
+    const bool punto = GenereDi(righe[i]) == Genere::Coordinate;
     const bool tiene = teste[i] != NessunaTesta ? !scartati[teste[i]]
                        : punto                  ? !HaLettere(righe[i])
                                                 : Contiene(righe[i], "INQUADRAMENTO");

@@ -1,5 +1,6 @@
 #include <estratti/dati_estratto.h>
 
+#include <base/estremi.h>
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
@@ -35,28 +36,20 @@ bool AnelloBase(std::string_view riga, const Campi& campi) {
 class Raccolta {
 public:
   void Aggiungi(std::string_view riga) {
-    const double genere = GenereRiga(riga);
-    if (genere != 7 && genere != 8) return;
+    const Genere genere = GenereDi(riga);
+    if (genere != Genere::Contorno && genere != Genere::Coordinate) return;
     campi_.Dividi(riga);
-    if (genere == 7 && AnelloBase(riga, campi_)) particelle_ += "," + std::string(campi_.DaUltimo(3));
-    if (genere == 8 && !riga.starts_with("8|PF")) AggiungiEst(Valore(campi_[3]));
+    if (genere == Genere::Contorno && AnelloBase(riga, campi_)) particelle_ += "," + std::string(campi_.DaUltimo(3));
+    if (genere == Genere::Coordinate && !riga.starts_with("8|PF")) est_.Vedi(Valore(campi_[3]));
   }
 
   [[nodiscard]] std::string Particelle() const { return Pezzo(particelle_, 1, std::string::npos); }
-  [[nodiscard]] std::string EstMedio() const { return Formatta(minimo_ / 2 + massimo_ / 2, "##########0"); }
+  [[nodiscard]] std::string EstMedio() const { return Formatta(est_.Media(), "##########0"); }
 
 private:
-  void AggiungiEst(double est) {
-    minimo_ = punti_ ? std::min(minimo_, est) : est;
-    massimo_ = punti_ ? std::max(massimo_, est) : est;
-    punti_ = true;
-  }
-
   Campi campi_;
   std::string particelle_; // a comma before each
-  bool punti_ = false;
-  double minimo_ = 0;
-  double massimo_ = 0;
+  Estremi est_;
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include <estratti/kr_estratto.h>
 
 #include <base/avanzamento.h>
+#include <base/estremi.h>
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/mostra_errore.h>
@@ -50,10 +51,10 @@ Lista ListaDiAttributo(std::string_view riga) {
 }
 
 Lista ListaDiRiga(std::string_view riga) {
-  const double genere = GenereRiga(riga);
-  if (genere == 8) return ListaDiPunto(riga);
-  if (genere == 7) return Contiene(riga, "L|") ? &KR_Estratto::Linee : &KR_Estratto::List1;
-  return genere == 6 ? ListaDiAttributo(riga) : nullptr;
+  const Genere genere = GenereDi(riga);
+  if (genere == Genere::Coordinate) return ListaDiPunto(riga);
+  if (genere == Genere::Contorno) return Contiene(riga, "L|") ? &KR_Estratto::Linee : &KR_Estratto::List1;
+  return genere == Genere::Libera ? ListaDiAttributo(riga) : nullptr;
 }
 
 // The row from a character (counted from 0) on, as a line of a session's text.
@@ -181,15 +182,9 @@ void LeggiTestata(Ambiente& ambiente, const KR_Estratto& estratto, const std::st
 // Middle of the easts, whole metres: it tells where the sheet lies.
 std::string EstMedio(const ListaRighe& punti) {
   constexpr std::size_t posizioneEst = 3;
-  double minimo = 0;
-  double massimo = 0;
-  for (std::size_t i = 0; i < punti.size(); ++i) {
-    const double est = Valore(Campo(punti[i], posizioneEst));
-    minimo = i == 0 ? est : std::min(minimo, est);
-    massimo = i == 0 ? est : std::max(massimo, est);
-  }
-  // Halved first: the sum of two coordinates that are no coordinates may be too large.
-  return std::string(Taglia(Formatta(minimo / 2 + massimo / 2, "###########0")));
+  Estremi est;
+  for (const auto riga : punti) est.Vedi(Valore(Campo(riga, posizioneEst)));
+  return std::string(Taglia(Formatta(est.Media(), "###########0")));
 }
 
 // Whether there was a file to read.

@@ -72,13 +72,6 @@ private:
   std::vector<std::size_t> fini_; // where each row ends
 };
 
-void AggiungiRighe(std::string& testo, const ListaRighe& lista) {
-  for (const auto riga : lista) {
-    testo += riga;
-    testo += FineRiga;
-  }
-}
-
 // A row 8 whose identifier is right-aligned, so that nine comes before ten.
 std::string RigaAllineata(std::string_view riga) {
   const RigaPunto punto = SpezzaPunto(riga);
@@ -310,7 +303,7 @@ std::string TestoEstratto(Ambiente& ambiente, KR_Estratto& estratto) {
                                 [&](std::size_t somma, auto lista) { return somma + Lunghezza(estratto.*lista); }));
   testo += estratto.ZERO[0];
   testo += FineRiga;
-  for (const auto lista : ListeDelFile) AggiungiRighe(testo, estratto.*lista);
+  for (const auto lista : ListeDelFile) testo += RigheUnite(estratto.*lista);
   if (!estratto.INQUADRAMENTO.empty()) testo += std::string(estratto.INQUADRAMENTO[0]) + std::string(FineRiga);
   return testo;
 }

@@ -67,7 +67,8 @@ Addendo LeggiAddendo(std::string_view testo) {
   const auto righe = RigheDi(file);
   Addendo addendo{{}, AnelliDi(righe)};
   for (const auto riga : righe)
-    if (GenereRiga(riga) == 8 && Contiene(Parte(riga, '|', 1), "%")) addendo.punti.push_back(PuntoDi(riga));
+    if (GenereDi(riga) == Genere::Coordinate && Contiene(Parte(riga, '|', 1), "%"))
+      addendo.punti.push_back(PuntoDi(riga));
   return addendo;
 }
 

@@ -5,6 +5,7 @@
 #include <core/riga.h>
 #include <core/salvataggio.h>
 #include <fiduciali/misurate.h>
+#include <fiduciali/righe_pf.h>
 #include <fiduciali/taf.h>
 
 #include <algorithm>
@@ -25,23 +26,7 @@ namespace {
 constexpr std::size_t LungoNome = 14; // "PF01/0010/G693"
 
 bool Riga8(std::string_view riga) {
-  return GenereRiga(riga) == 8;
-}
-
-std::string RigaPlanimetrica(const RecordTaf& taf) {
-  return "8|" + taf.nome + "|" + taf.nord + "|" + taf.est + "|" + taf.attendibilitaPlanimetrica + "|" +
-         taf.riferimentoPlanimetrico + "|";
-}
-
-std::string SeVuoto(const std::string& testo, std::string_view predefinito) {
-  return testo.empty() ? std::string(predefinito) : testo;
-}
-
-std::string RigaQuota(const RecordTaf& taf) {
-  const bool daManufatto = Contiene(Maiuscolo(taf.riferimentoAltimetrico), "<QUOTA>");
-  const std::string riferimento = daManufatto ? "Base Spigolo" : SeVuoto(taf.riferimentoAltimetrico, "NOTE:");
-  const std::string attendibilita = daManufatto ? "04" : SeVuoto(taf.attendibilitaAltimetrica, "04");
-  return "8|" + taf.nome + "|" + SeVuoto(taf.quota, "9999.000") + "|" + attendibilita + "|" + riferimento + "|";
+  return GenereDi(riga) == Genere::Coordinate;
 }
 
 // The rows of the list, with these in place of all rows 8 behind the first row.
@@ -94,9 +79,9 @@ void FormImportaFiduciali::TrovaInTaf() {
   for (const std::string& nome : List1) {
     const auto riga = archivio.Riga(nome);
     if (riga.empty()) continue;
-    const RecordTaf taf = DecodificaRigaTAF(riga);
-    List2.push_back(RigaPlanimetrica(taf));
-    if (AggiungiRigheQuota) List2.push_back(RigaQuota(taf));
+    RighePF righe = RighePFImportate(DecodificaRigaTAF(riga));
+    List2.push_back(std::move(righe.posto));
+    if (AggiungiRigheQuota) List2.push_back(std::move(righe.quota));
     ++PuntiInTaf;
   }
 }

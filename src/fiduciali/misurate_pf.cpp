@@ -231,11 +231,10 @@ private:
 };
 
 std::vector<std::string> NomiDelLibretto(const Sessione& sessione) {
-  constexpr double coordinate = 8;
   std::vector<std::string> nomi;
   for (const auto riga : RigheDi(sessione.Libretto)) {
     const auto nome = Taglia(Parte(riga, '|', 1));
-    if (GenereRiga(riga) == coordinate && IniziaPF(nome)) nomi.push_back(Maiuscolo(nome));
+    if (GenereDi(riga) == Genere::Coordinate && IniziaPF(nome)) nomi.push_back(Maiuscolo(nome));
   }
   return nomi;
 }

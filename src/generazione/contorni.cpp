@@ -130,7 +130,7 @@ void MettiVertici(Generazione& g) {
 void MettiContorni(Generazione& g) {
   if (g.opzioni.Mantieni37) {
     g.rapporto.emplace_back("Mantiene Righe 7 del Disegno");
-    MantieniConCommenti(g, 7);
+    MantieniConCommenti(g, Genere::Contorno);
     return;
   }
   g.rapporto.emplace_back("Carica Righe 7 dal Disegno");

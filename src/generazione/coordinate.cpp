@@ -1,9 +1,10 @@
 // Rows 8, and row 9 which follows from them.
 
-#include <fiduciali/taf.h>
+#include <fiduciali/righe_pf.h>
 #include <generazione/angoli.h>
 #include <generazione/generazione.h>
 
+#include <base/estremi.h>
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
@@ -13,6 +14,7 @@
 #include <array>
 #include <optional>
 #include <set>
+#include <utility>
 
 namespace lirmeto {
 
@@ -34,16 +36,9 @@ std::set<std::string> Fiduciali(const Generazione& g) {
 }
 
 void MettiFiduciale(Generazione& g, std::string_view riga) {
-  const RecordTaf taf = DecodificaRigaTAF(riga);
-  const std::string inizio = "8|" + taf.nome + "|";
-  g.righe.push_back(inizio + taf.nord + "|" + taf.est + "|" + taf.attendibilitaPlanimetrica + "|" +
-                    Sostituisci(Colonne(riga, 30, 94), "\"", "'") + "|");
-  const bool senzaQuota = taf.quota.empty();
-  const std::string descrizione =
-      Contiene(Maiuscolo(taf.riferimentoAltimetrico), "<QUOTA>") ? "BASE MANUFATTO-SUOLO" : taf.riferimentoAltimetrico;
-  const std::string tipo =
-      senzaQuota || Valore(taf.attendibilitaAltimetrica) == 0 ? "04" : taf.attendibilitaAltimetrica;
-  g.righe.push_back(inizio + (senzaQuota ? "9999" : taf.quota) + "|" + tipo + "|" + descrizione + "|");
+  RighePF righe = RighePFDelDisegno(DecodificaRigaTAF(riga), riga);
+  g.righe.push_back(std::move(righe.posto));
+  g.righe.push_back(std::move(righe.quota));
 }
 
 void MettiFiduciali(Generazione& g) {
@@ -90,7 +85,7 @@ constexpr std::array<RigaPerMarca, 4> RighePerMarca = {
 
 // The third value of a row 8 of five or more, its east; the second row of a fiducial point has only four.
 std::optional<double> EstDi(std::string_view riga) {
-  if (GenereRiga(riga) != 8) return std::nullopt;
+  if (GenereDi(riga) != Genere::Coordinate) return std::nullopt;
   const RigaDivisa divisa = SplitRiga(riga);
   if (divisa.UltimoCampo <= 4) return std::nullopt;
   return Valore(divisa.CampiRiga[3]);
@@ -117,7 +112,7 @@ void MettiCoordinate(Generazione& g) {
   if (g.opzioni.Mantieni8) {
     g.rapporto.emplace_back("Mantiene Righe 8 del Libretto");
     for (std::size_t i = 2; i < g.vecchie.size(); ++i)
-      if (GenereRiga(g.vecchie[i]) == 8) g.righe.emplace_back(g.vecchie[i]);
+      if (GenereDi(g.vecchie[i]) == Genere::Coordinate) g.righe.emplace_back(g.vecchie[i]);
   } else {
     g.rapporto.emplace_back("Carica Righe 8 dal Disegno");
     if (!g.opzioni.PfDaEstratto) MettiFiduciali(g);
@@ -128,15 +123,11 @@ void MettiCoordinate(Generazione& g) {
 }
 
 void CompletaRigaNove(Generazione& g) {
-  std::optional<double> minimo;
-  std::optional<double> massimo;
+  Estremi est;
   for (std::size_t i = 1; i < g.righe.size(); ++i)
-    if (const auto est = EstDi(g.righe[i])) {
-      minimo = std::min(minimo.value_or(*est), *est);
-      massimo = std::max(massimo.value_or(*est), *est);
-    }
-  if (!minimo || !massimo) return;
-  g.righe[1] = RigaNoveCon(g.righe[1], (*minimo + *massimo) / 2, g.ambiente.sessione.VersionePregeo);
+    if (const auto questo = EstDi(g.righe[i])) est.Vedi(*questo);
+  if (est.Vuoti()) return;
+  g.righe[1] = RigaNoveCon(g.righe[1], est.Media(), g.ambiente.sessione.VersionePregeo);
 }
 
 } // namespace lirmeto

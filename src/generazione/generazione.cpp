@@ -15,20 +15,21 @@ constexpr std::size_t LunghezzaCensuario = 50; // a longer row 6 is one of the c
 constexpr std::size_t RigheGpsMinime = 3;
 
 bool RigaMisura(std::string_view riga) {
-  const double genere = GenereRiga(riga);
-  return genere == 1 || genere == 2;
+  const Genere genere = GenereDi(riga);
+  return genere == Genere::Stazione || genere == Genere::Battuta;
 }
 
 // Narrower than what the reorder takes for GPS, and meant so: "|GDOP=" is not looked for.
 bool DiGps(std::string_view riga) {
   if (RigaMisura(riga)) return Contiene(riga, ",");
-  return GenereRiga(riga) == 6 && (Contiene(riga, "|BAS|") || Contiene(riga, "|RTK|") || Contiene(riga, "|PDOP=") ||
-                                   riga.starts_with("6|L1|") || riga.starts_with("6|L2|"));
+  return GenereDi(riga) == Genere::Libera &&
+         (Contiene(riga, "|BAS|") || Contiene(riga, "|RTK|") || Contiene(riga, "|PDOP=") || riga.starts_with("6|L1|") ||
+          riga.starts_with("6|L2|"));
 }
 
 void TogliAssenti(Generazione& g) {
   std::erase_if(g.gps, [&](const std::string& riga) {
-    return GenereRiga(riga) == 2 && g.tabelle.Trova(Parte(riga, '|', 1)) == nullptr;
+    return GenereDi(riga) == Genere::Battuta && g.tabelle.Trova(Parte(riga, '|', 1)) == nullptr;
   });
 }
 
@@ -45,7 +46,7 @@ void MettiNote(Generazione& g) {
   for (std::string& riga : g.gps) {
     if (!RigaMisura(riga)) continue;
     if (const PuntoDisegno* punto = g.tabelle.Trova(Parte(riga, '|', 1)))
-      riga = ConNota(riga, GenereRiga(riga) == 1 ? 4 : 6, punto->Nota);
+      riga = ConNota(riga, GenereDi(riga) == Genere::Stazione ? 4 : 6, punto->Nota);
   }
 }
 
@@ -118,7 +119,7 @@ void PrendiRigheGps(Generazione& g) {
   for (const auto riga : g.vecchie)
     if (DiGps(riga)) g.gps.emplace_back(riga);
   for (std::string& riga : g.gps)
-    if (GenereRiga(riga) == 2 && QuanteParti(riga, '|') < 8) riga += "NOTE:|";
+    if (GenereDi(riga) == Genere::Battuta && QuanteParti(riga, '|') < 8) riga += "NOTE:|";
   if (g.opzioni.MantieniGps && g.gps.size() >= RigheGpsMinime) TogliAssenti(g);
   if (g.gps.size() >= RigheGpsMinime) MettiNote(g);
 }
@@ -140,7 +141,7 @@ void MantieniCensuario(Generazione& g) {
   if (g.vecchie.empty()) return;
   g.rapporto.emplace_back("Mantiene Censuario Esistente");
   for (const auto riga : g.vecchie)
-    if (riga.size() > LunghezzaCensuario && GenereRiga(riga) == 6) g.righe.emplace_back(riga);
+    if (riga.size() > LunghezzaCensuario && GenereDi(riga) == Genere::Libera) g.righe.emplace_back(riga);
 }
 
 void TogliPuntiDalleNote(Generazione& g) {
@@ -155,8 +156,8 @@ void TogliPuntiDalleNote(Generazione& g) {
 
 void InserisciGps(Generazione& g) {
   const auto fine = std::find_if(g.righe.begin(), g.righe.end(), [](const std::string& riga) {
-    const double genere = GenereRiga(riga);
-    return genere != 0 && genere != 6 && genere != 9;
+    const Genere genere = GenereDi(riga);
+    return genere != Genere::Intestazione && genere != Genere::Libera && genere != Genere::Chiusura;
   });
   g.righe.insert(fine, g.gps.begin(), g.gps.end());
 }
@@ -167,7 +168,7 @@ void MettiCs(Generazione& g) {
   for (std::size_t i = g.righe.size(); i-- > 1;) {
     std::string& riga = g.righe[i];
     const std::string& prima = g.righe[i - 1];
-    if (GenereRiga(riga) != 2 || GenereRiga(prima) != 2 || QuanteParti(riga, '|') < 2) continue;
+    if (GenereDi(riga) != Genere::Battuta || GenereDi(prima) != Genere::Battuta || QuanteParti(riga, '|') < 2) continue;
     if (UltimaVoce(riga) == UltimaVoce(prima)) riga = ConUltimaVoce(riga, "CS");
   }
 }

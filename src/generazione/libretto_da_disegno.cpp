@@ -40,15 +40,6 @@ std::vector<std::string_view> Spezza(std::string_view testo) {
   return Dividi(testo, FineRiga);
 }
 
-std::string Unite(const std::vector<std::string>& righe) {
-  std::string testo;
-  for (const std::string& riga : righe) {
-    testo += riga;
-    testo += FineRiga;
-  }
-  return testo;
-}
-
 std::pair<std::string_view, std::string_view> Estremi(std::string_view linea) {
   constexpr std::string_view tra = " - ";
   const std::size_t posto = linea.find(tra);
@@ -248,7 +239,7 @@ bool LibrettoDaDisegno::GeneraLibrettoMisureAutomatico() {
     Generazione g{ambiente_, Opzioni, tabelle_, List1, vecchie, {}, {}, {}};
     Fasi(g);
     List6 = std::move(g.rapporto);
-    sessione.Libretto = SciogliSegni(Unite(g.righe));
+    sessione.Libretto = SciogliSegni(RigheUnite(g.righe));
     sessione.PuntoErrore = "GeneraLibrettoAutomatico2";
     RiordinaEdElenca();
   } catch (...) {

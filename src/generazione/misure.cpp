@@ -91,7 +91,7 @@ private:
   void OrientaSu(std::size_t inizio) {
     const auto& righe = vecchie_.Righe();
     for (std::size_t i = inizio + 1; i < righe.size(); ++i) {
-      if (GenereRiga(righe[i]) == 1) return AvvisaNonTrovata();
+      if (GenereDi(righe[i]) == Genere::Stazione) return AvvisaNonTrovata();
       if (testoBattuta_.empty() || !righe[i].starts_with(testoBattuta_)) continue;
       orientamento_ = Gon(Valore(righe[i].substr(testoBattuta_.size())));
       return;
@@ -176,9 +176,9 @@ void CalcolaMisure(Generazione& g, Gon passo) {
   Avanzamento avanzamento(g.ambiente.dialoghi, "Calcolo delle misure", g.righe.size());
   for (std::size_t i = 0; i < g.righe.size(); ++i) {
     avanzamento.Fatto(i);
-    const double genere = GenereRiga(g.righe[i]);
-    if (genere == 1) misure.Stazione(i);
-    if (genere == 2) misure.Battuta(g.righe[i]);
+    const Genere genere = GenereDi(g.righe[i]);
+    if (genere == Genere::Stazione) misure.Stazione(i);
+    if (genere == Genere::Battuta) misure.Battuta(g.righe[i]);
   }
 }
 

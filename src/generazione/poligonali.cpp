@@ -30,11 +30,11 @@ void MettiPoligonale(Generazione& g, std::string_view punti) {
 
 } // namespace
 
-void MantieniConCommenti(Generazione& g, double genere) {
+void MantieniConCommenti(Generazione& g, Genere genere) {
   std::vector<std::string_view> tenuti;
   for (const auto riga : g.vecchie) {
-    const double questo = GenereRiga(riga);
-    if (questo == 6 && riga.size() < LunghezzaMinimaNonCommento) tenuti.push_back(riga);
+    const Genere questo = GenereDi(riga);
+    if (questo == Genere::Libera && riga.size() < LunghezzaMinimaNonCommento) tenuti.push_back(riga);
     if (questo != genere) continue;
     for (const auto commento : tenuti) g.righe.emplace_back(commento);
     tenuti.clear();
@@ -45,7 +45,7 @@ void MantieniConCommenti(Generazione& g, double genere) {
 void MettiPoligonali(Generazione& g) {
   if (g.opzioni.Mantieni37) {
     g.rapporto.emplace_back("Mantiene Poligonali del Libretto");
-    MantieniConCommenti(g, 3);
+    MantieniConCommenti(g, Genere::Poligonale);
     return;
   }
   g.rapporto.emplace_back("Carica Poligonali da Contorni 3");

@@ -170,7 +170,7 @@ void MettiSquadri(Generazione& g) {
   }
   g.rapporto.emplace_back("Mantiene Righe 4-5 del Libretto");
   for (const auto riga : g.vecchie)
-    if (GenereRiga(riga) == 4 || GenereRiga(riga) == 5) g.righe.emplace_back(riga);
+    if (GenereDi(riga) == Genere::Allineamento || GenereDi(riga) == Genere::Squadro) g.righe.emplace_back(riga);
 }
 
 } // namespace lirmeto

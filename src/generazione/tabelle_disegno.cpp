@@ -2,6 +2,7 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/servizi.h>
 
 #include <algorithm>
 #include <cmath>

@@ -36,9 +36,9 @@ void AggiungiRiga7(ListaRighe& lista, std::string_view riga) {
 }
 
 void AggiungiRigaEstratto(ListaRighe& lista, std::string_view riga, const VistaGrafica& vista) {
-  const double genere = GenereRiga(riga);
-  if (genere == 8 && Esclusa(riga, vista)) return;
-  if (genere == 7)
+  const Genere genere = GenereDi(riga);
+  if (genere == Genere::Coordinate && Esclusa(riga, vista)) return;
+  if (genere == Genere::Contorno)
     AggiungiRiga7(lista, riga);
   else if (!Taglia(riga).empty())
     lista.AggiungiVista(riga);

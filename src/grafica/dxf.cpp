@@ -85,13 +85,6 @@ std::string StratoLinee::Di(const LineaGrafica& linea) {
   return strato;
 }
 
-std::string SuUnaRiga(std::string_view testo) {
-  std::string riga(testo);
-  std::replace_if(
-      riga.begin(), riga.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-  return riga;
-}
-
 std::string TestoDXF(const ArchivioGrafica& archivio, bool nomiSpenti) {
   if (archivio.Punti().empty()) throw Errore(errore::IndiceFuoriIntervallo);
   constexpr std::size_t bytePunto = 200;

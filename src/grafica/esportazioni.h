@@ -22,9 +22,6 @@ private:
   std::string nome_;
 };
 
-// A name or text for a file of rows: the line ends that a row of an act may hold are blanks.
-[[nodiscard]] std::string SuUnaRiga(std::string_view testo);
-
 // An ENTITIES section alone: a point of each layer, so that a viewer shows the layers that stay empty, the points and
 // the lines. `nomiSpenti` is Check2: points are written while their names are off the screen, and free names always.
 // That is the reverse of what the screen shows, and meant so. Throws Errore 9 for a drawing without points.

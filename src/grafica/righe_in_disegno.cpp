@@ -182,17 +182,17 @@ void DisegnaRighe(const ListaRighe& righe, bool sottoProposta, ArchivioGrafica& 
   constexpr std::size_t poche = 2;
   if (righe.size() < poche) return;
   punto = "AggiungiGrafica";
-  const auto diGenere = [&](double genere) {
+  const auto diGenere = [&](Genere genere) {
     return static_cast<std::size_t>(
-        std::count_if(righe.begin(), righe.end(), [&](std::string_view riga) { return GenereRiga(riga) == genere; }));
+        std::count_if(righe.begin(), righe.end(), [&](std::string_view riga) { return GenereDi(riga) == genere; }));
   };
   // A point for each row 8, a label for each row 7 at most.
-  archivio.Riserva(archivio.Punti().size() + diGenere(8) + diGenere(7), 0);
+  archivio.Riserva(archivio.Punti().size() + diGenere(Genere::Coordinate) + diGenere(Genere::Contorno), 0);
   for (const auto riga : righe)
-    if (GenereRiga(riga) == 8) archivio.Aggiungi(PuntoDaRiga8(riga));
+    if (GenereDi(riga) == Genere::Coordinate) archivio.Aggiungi(PuntoDaRiga8(riga));
   Anelli anelli(archivio, punto, sottoProposta);
   for (const auto riga : righe)
-    if (GenereRiga(riga) == 7) anelli.Riga(riga);
+    if (GenereDi(riga) == Genere::Contorno) anelli.Riga(riga);
   anelli.Fine();
 }
 

@@ -77,12 +77,6 @@ std::vector<std::string> LeggiVoci(std::string_view testo) {
   return voci;
 }
 
-std::string TestoVoci(const std::vector<std::string>& voci) {
-  std::string testo;
-  for (const auto& voce : voci) testo += voce + std::string(FineRiga);
-  return testo;
-}
-
 std::size_t TrovaVoce(const std::vector<std::string>& voci, std::string_view voce) {
   const auto trovata =
       std::find_if(voci.begin(), voci.end(), [voce](const std::string& altra) { return UgualiSenzaCaso(altra, voce); });

@@ -25,7 +25,6 @@ struct VociElenco {
 
 // Entries of a file, one a line; blank lines are none.
 [[nodiscard]] std::vector<std::string> LeggiVoci(std::string_view testo);
-[[nodiscard]] std::string TestoVoci(const std::vector<std::string>& voci);
 
 // Place of an entry, in any case; npos when it is not there.
 [[nodiscard]] std::size_t TrovaVoce(const std::vector<std::string>& voci, std::string_view voce);

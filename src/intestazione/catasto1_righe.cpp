@@ -1,10 +1,9 @@
 #include <intestazione/catasto1_righe.h>
 
+#include <base/estremi.h>
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
-
-#include <algorithm>
 
 namespace lirmeto {
 
@@ -43,17 +42,14 @@ bool HaQuota(std::string_view riga) {
   return campi >= minimo && campi - 1 < campiConEst && !Contiene(Parte(riga, '|', 3), ".");
 }
 
-// Mean of the extremes of a field over the rows 8 that have it. Half and half, so that the sum cannot overflow.
+// Mean of the extremes of a field over the rows 8 that have it.
 std::optional<double> MediaEstremi(const ListaRighe& righe, bool (*ha)(std::string_view), std::size_t campo) {
-  std::optional<std::pair<double, double>> estremi;
+  Estremi estremi;
   for (const auto riga : righe) {
-    if (GenereRiga(riga) != 8 || !ha(riga)) continue;
-    const double valore = Valore(Parte(riga, '|', campo));
-    if (!estremi) estremi.emplace(valore, valore);
-    estremi->first = std::min(estremi->first, valore);
-    estremi->second = std::max(estremi->second, valore);
+    if (GenereDi(riga) != Genere::Coordinate || !ha(riga)) continue;
+    estremi.Vedi(Valore(Parte(riga, '|', campo)));
   }
-  return estremi ? std::optional(estremi->first / 2 + estremi->second / 2) : std::nullopt;
+  return estremi.Vuoti() ? std::nullopt : std::optional(estremi.Media());
 }
 
 bool Dettaglio(std::string_view riga) {
@@ -71,7 +67,7 @@ std::optional<double> QuotaMediaDelleRighe(const ListaRighe& righe) {
 }
 
 std::size_t PostoCommento(const ListaRighe& righe) {
-  const bool vecchiaNove = righe.size() > TerzaRiga + 1 && GenereRiga(righe[TerzaRiga]) == 9;
+  const bool vecchiaNove = righe.size() > TerzaRiga + 1 && GenereDi(righe[TerzaRiga]) == Genere::Chiusura;
   return vecchiaNove && CedeIlPosto(righe[TerzaRiga + 1]) ? TerzaRiga + 1 : TerzaRiga;
 }
 
@@ -84,7 +80,8 @@ std::string CommentoDelleRighe(const ListaRighe& righe) {
 }
 
 bool CedeIlPosto(std::string_view riga) {
-  if (GenereRiga(riga) != 6 || MarcaRelazioneOCensuario(riga) || riga == RigaProposta || Riga6Gps(riga)) return false;
+  if (GenereDi(riga) != Genere::Libera || MarcaRelazioneOCensuario(riga) || riga == RigaProposta || Riga6Gps(riga))
+    return false;
   return !riga.starts_with("6| -");
 }
 

@@ -59,7 +59,7 @@ void FormCatasto1TXT::CaricaElenco(Elenco elenco) {
 void FormCatasto1TXT::SalvaElenco(Elenco elenco) {
   if (!letti_.at(static_cast<std::size_t>(elenco))) return;
   ambiente_.disco.Scrivi(ambiente_.sessione.CartellaProgramma + std::string(DatiElenco(elenco).file),
-                         TestoVoci(Voci(elenco)));
+                         RigheUnite(Voci(elenco)));
 }
 
 // The box's text becomes an entry.

@@ -52,7 +52,7 @@ std::string_view PenultimoCampo(std::string_view riga) {
 
 // Whether a row is the head of a ring that has an area.
 bool RigaConArea(std::string_view riga) {
-  return GenereRiga(riga) == 7 && Valore(Parte(riga, '|', 1)) > 0 && Valore(PenultimoCampo(riga)) != 0;
+  return GenereDi(riga) == Genere::Contorno && Valore(Parte(riga, '|', 1)) > 0 && Valore(PenultimoCampo(riga)) != 0;
 }
 
 bool HaSegno(std::string_view riga) {

@@ -34,7 +34,7 @@ Catasto1 LeggiCatasto1(std::string_view testo) {
   LeggiCampi(righe[0], dati.zero);
   LeggiCampi(righe[1], dati.nove);
   constexpr std::size_t genere = 2; // "6|", and a bar behind the text
-  if (GenereRiga(righe[2]) == 6 && righe[2].size() > genere + 1)
+  if (GenereDi(righe[2]) == Genere::Libera && righe[2].size() > genere + 1)
     dati.commento = righe[2].substr(genere, righe[2].size() - genere - 1);
   return dati;
 }

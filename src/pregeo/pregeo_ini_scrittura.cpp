@@ -30,17 +30,9 @@ std::string SiglaDaNome(const Sessione& sessione, std::string_view nome) {
   return trovata == province.end() ? std::string{} : trovata->codice;
 }
 
-// A value is one line: what would end it becomes a blank.
-std::string InUnaRiga(std::string_view valore) {
-  std::string riga(valore);
-  std::replace_if(
-      riga.begin(), riga.end(), [](char lettera) { return lettera == '\r' || lettera == '\n'; }, ' ');
-  return riga;
-}
-
 void ScriviRiga(const Sessione& sessione, std::string& testo, const std::string& prima) {
   const std::string alto = Maiuscolo(testo);
-  const auto scrivi = [&testo](const std::string& valore) { testo = RigaIniConValore(testo, InUnaRiga(valore)); };
+  const auto scrivi = [&testo](const std::string& valore) { testo = RigaIniConValore(testo, SuUnaRiga(valore)); };
   const auto ha = [&alto](std::string_view chiave) { return Contiene(alto, chiave); };
   const std::string altoPrima = Maiuscolo(prima);
   if (ha("NUMERO=")) scrivi(sessione.NumeroIscrizione);

@@ -7,24 +7,20 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <iterator>
 
 namespace lirmeto {
 
 namespace {
 
 // What a value cannot hold, since the file is one comma list without any escape: it becomes a blank.
-bool Separa(char lettera) {
-  return lettera == ',' || lettera == '"' || lettera == '\r' || lettera == '\n';
-}
+constexpr std::string_view Separatori = ",\"\r\n";
 
 // One line of values in double quotes at commas.
 std::string Linea(std::initializer_list<std::string_view> valori) {
   std::string linea;
   for (const auto valore : valori) {
     linea += linea.empty() ? "\"" : ",\"";
-    std::replace_copy_if(valore.begin(), valore.end(), std::back_inserter(linea), Separa, ' ');
-    linea += '"';
+    linea += InBianchi(valore, Separatori) + '"';
   }
   return linea + std::string(FineRiga);
 }
@@ -35,7 +31,7 @@ bool PerdeSegni(const Sessione& sessione) {
       &sessione.NumeroIscrizione, &sessione.CodiceFiscale, &sessione.Cognome,   &sessione.Nome,
       &sessione.Recapito};
   return std::any_of(valori.begin(), valori.end(),
-                     [](const std::string* valore) { return std::any_of(valore->begin(), valore->end(), Separa); });
+                     [](const std::string* valore) { return valore->find_first_of(Separatori) != std::string::npos; });
 }
 
 // The two precisions are constants here, not those of row 9.

@@ -56,7 +56,7 @@ std::string SenzaZeriDavanti(std::string_view area) {
 // Whether a ring is a parcel's outer one, and no line.
 bool Anello(std::string_view riga) {
   constexpr std::array<std::string_view, 4> esclusi = {"-|", "+|", "NP", "NT"};
-  return GenereRiga(riga) == 7 && !riga.starts_with("7|0|") &&
+  return GenereDi(riga) == Genere::Contorno && !riga.starts_with("7|0|") &&
          std::ranges::none_of(esclusi, [riga](std::string_view testo) { return Contiene(riga, testo); });
 }
 
@@ -87,8 +87,9 @@ bool Altra(std::string_view riga) {
 }
 
 void Smista(TestiEstratto& testi, std::string_view riga, std::string_view chiaveNuova) {
-  const double genere = GenereRiga(riga);
-  if (genere == 0 || genere == 7 || genere == 8 || Contiene(riga, "6|DITTA|"))
+  const Genere genere = GenereDi(riga);
+  if (genere == Genere::Intestazione || genere == Genere::Contorno || genere == Genere::Coordinate ||
+      Contiene(riga, "6|DITTA|"))
     AggiungiRiga(testi.mappa, riga);
   else if (Contiene(riga, InizioParticella)) {
     if (Chiave(riga) != chiaveNuova) AggiungiRiga(testi.particelle, riga);

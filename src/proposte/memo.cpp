@@ -41,9 +41,7 @@ std::string LeggiCen(Ambiente& ambiente, std::string_view nome) {
 
 void ScriviCen(Ambiente& ambiente, std::string_view nome, const ElencoRighe& memo) {
   if (nome.empty()) return;
-  std::string testo;
-  for (const auto riga : memo.Righe()) testo.append(riga).append(FineRiga);
-  ambiente.disco.Scrivi(PercorsoCen(ambiente.sessione, nome), testo);
+  ambiente.disco.Scrivi(PercorsoCen(ambiente.sessione, nome), RigheUnite(memo.Righe()));
 }
 
 void TogliCensuarie(Sessione& sessione) {
@@ -57,7 +55,7 @@ void TogliCensuarie(Sessione& sessione) {
 void AccodaAlLibretto(Sessione& sessione, const ListaRighe& righe) {
   std::string& libretto = sessione.Libretto;
   if (!libretto.empty() && !libretto.ends_with(FineRiga)) libretto += FineRiga;
-  for (const auto riga : righe) libretto.append(riga).append(FineRiga);
+  libretto += RigheUnite(righe);
 }
 
 void SalvaPropostaFile(Ambiente& ambiente, const ElencoRighe& memo) {

@@ -51,8 +51,8 @@ void ModificaLibretto(Ambiente& ambiente, void (KR_EditorGen::*aperto)() = nullp
 std::size_t PostoRelazione(const std::vector<std::string_view>& righe) {
   std::size_t posto = std::min<std::size_t>(righe.size(), 2); // rows 0 and 9 stand first
   for (std::size_t i = 0; i < righe.size() && righe[i] != RigaProposta; ++i) {
-    const double genere = GenereRiga(righe[i]);
-    if (genere >= 1 && genere <= 7 && genere != 6) posto = i + 1;
+    const Genere genere = GenereDi(righe[i]);
+    if (genere >= Genere::Stazione && genere <= Genere::Contorno && genere != Genere::Libera) posto = i + 1;
   }
   return posto;
 }

@@ -119,12 +119,7 @@ void KR_StampaGenerale::Stampa() {
 }
 
 void KR_StampaGenerale::CopiaNegliAppunti() {
-  std::string testo;
-  for (const auto riga : List1) {
-    testo += riga;
-    testo += FineRiga;
-  }
-  ambiente_.appunti.MettiTesto(testo);
+  ambiente_.appunti.MettiTesto(RigheUnite(List1));
 }
 
 void KR_StampaGenerale::CambiaCarattere() {

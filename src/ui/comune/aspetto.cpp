@@ -82,10 +82,8 @@ ColoriRiga ColoriDelGenere(std::string_view riga) {
       {QColor(0xFC, 0xEF, 0xEC), QColor(0xC6, 0x5F, 0x4A)}, // 8 coordinates: brick
       {QColor(0xF3, 0xF4, 0xF6), QColor(0x78, 0x83, 0x8C)}, // 9 closing data: slate
   }};
-  const double genere = GenereRiga(riga);
-  for (std::size_t i = 1; i < colori.size(); ++i)
-    if (genere == static_cast<double>(i)) return colori[i];
-  return colori[0];
+  const auto genere = static_cast<std::size_t>(GenereDi(riga));
+  return genere < colori.size() ? colori[genere] : colori[0];
 }
 
 QColor ColoreSelezione() {
