@@ -96,6 +96,7 @@ constexpr std::array ElencoVoci = {
     VoceMenu{Utilita, {}, "Archivio Possessori", Comando::ArchivioPossessori},
 
     VoceMenu{Estratti, {}, "Gestione Estratti di Mappa", Comando::EstrattiDiMappa},
+    VoceMenu{Estratti, {}, "Completa Autoallestito", Comando::CompletaAutoallestito},
 
     VoceMenu{Tipologie, {}, "Informazioni generali - operative - garanzie", Comando::InformazioniGenerali},
     VoceMenu{Tipologie, {}, "1 Conferma di Mappa con Conferma di Numero (ex 01)", Comando::NessunaAzione},
@@ -150,7 +151,7 @@ constexpr std::array ElencoStrumenti = {
     Strumento{"Archivio Libretti di Backup", "STORICO_LIBRETTI"},
 };
 
-constexpr std::array<std::pair<Comando, std::string_view>, 11> ElencoForm = {{
+constexpr std::array<std::pair<Comando, std::string_view>, 12> ElencoForm = {{
     {Comando::NuovoLibretto, forma::Intestazione},
     {Comando::NuovoLibrettoVuoto, forma::Intestazione},
     {Comando::ModelloCensuario, forma::ModelloCensuario},
@@ -158,6 +159,7 @@ constexpr std::array<std::pair<Comando, std::string_view>, 11> ElencoForm = {{
     {Comando::AssegnaDescrizione, forma::AssegnaDescrizione},
     {Comando::GraficaPregeo, forma::DaPregeo},
     {Comando::EstrattiDiMappa, forma::EstrattiDiMappa},
+    {Comando::CompletaAutoallestito, forma::CompletaAutoallestito},
     {Comando::Disegno, forma::Disegno},
     {Comando::CodiceFiscale, forma::CodFis},
     {Comando::Comuni, forma::Comuni8},

@@ -53,6 +53,7 @@ enum class Comando {
   AssegnaDescrizione,
   GraficaPregeo,
   EstrattiDiMappa,
+  CompletaAutoallestito,
   MostraRigheScartate, // of the last reorder
   TutteLeOpzioni,
   NessunaOpzione,

@@ -67,7 +67,7 @@ bool EseguiDa(const std::array<std::pair<Comando, Routine>, N>& tabella, Comando
 // A form that leaves the rows alone. It may take a comune: the session keeps that of row 0.
 bool SoloConsulta(Comando comando) {
   return comando == Comando::Disegno || comando == Comando::CodiceFiscale || comando == Comando::Comuni ||
-         comando == Comando::ArchivioPossessori;
+         comando == Comando::ArchivioPossessori || comando == Comando::CompletaAutoallestito;
 }
 
 // Caption of the tool that gives a tag.

@@ -6,10 +6,10 @@
 #include <core/apertura.h>
 #include <core/mostra_errore.h>
 #include <core/servizi.h>
+#include <estratti/copia_estratto.h>
 #include <fiduciali/misurate.h>
 #include <generazione/misurate_disegno.h>
 #include <generazione/tabelle_disegno.h>
-#include <pregeo/copia_estratto.h>
 
 #include <algorithm>
 #include <array>

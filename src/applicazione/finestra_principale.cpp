@@ -13,6 +13,7 @@
 #include <core/salvataggio.h>
 #include <core/servizi.h>
 #include <core/zero_nove.h>
+#include <estratti/copia_estratto.h>
 #include <fiduciali/misurate.h>
 #include <pregeo/gondella.h>
 #include <pregeo/tecnico.h>
@@ -303,6 +304,7 @@ void KR_LibrettoOriginale::TastoCancella() {
 void KR_LibrettoOriginale::Trascina(const std::string& percorso) {
   const bool pdf = FinisceConSenzaCaso(percorso, ".PDF");
   if (pdf || EstensioneLibretto(percorso)) return TrascinaLibretto(percorso);
+  if (EstensioneEstratto(percorso) && !FinisceConSenzaCaso(percorso, ".DXF")) return TrascinaEstratto(percorso);
   ambiente_.dialoghi.Messaggio(FinisceConSenzaCaso(percorso, ".DXF") ? "Processo non attivo!"
                                                                      : "Ammessi file di Testo: .TXT, .DAT, .LXB, .PDF");
 }
@@ -318,6 +320,12 @@ void KR_LibrettoOriginale::TrascinaLibretto(const std::string& percorso) {
     MostraSessione();
     if (!FinisceConSenzaCaso(percorso, Lxb)) RicordaIntatto();
   });
+}
+
+// Into the extracts folder, as the manager imports it; the extract becomes that of the libretto.
+void KR_LibrettoOriginale::TrascinaEstratto(const std::string& percorso) {
+  Comanda("Importa Estratto", [&] { ImportaFileInEstratti(ambiente_, percorso); });
+  Aggiornami();
 }
 
 void KR_LibrettoOriginale::CambiaIscrizione(std::string_view testo) {

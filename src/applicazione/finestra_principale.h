@@ -5,6 +5,7 @@
 #include <applicazione/comandi.h>
 #include <base/dialoghi.h>
 #include <core/ambiente.h>
+#include <core/posizione_form.h>
 #include <core/storia.h>
 
 #include <cstdint>
@@ -19,14 +20,6 @@ namespace lirmeto {
 struct Opzione {
   std::string testo;
   bool spuntata = true;
-};
-
-// Place of a form on the screen, pixels.
-struct PosizioneForm {
-  int sinistra = 0;
-  int alto = 0;
-  int larghezza = 0;
-  int altezza = 0;
 };
 
 class KR_LibrettoOriginale : public Modello {
@@ -113,6 +106,7 @@ private:
   void ApriIntestazione();
   void ModificaRiga();
   void TrascinaLibretto(const std::string& percorso);
+  void TrascinaEstratto(const std::string& percorso);
   void Prova(const std::function<void()>& comando);
   void Comanda(std::string_view nome, const std::function<void()>& comando);
   void Torna(void (Storia::*passo)(Sessione&));

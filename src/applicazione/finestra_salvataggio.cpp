@@ -86,11 +86,7 @@ bool KR_LibrettoOriginale::SalvaOChiedi() {
 
 void KR_LibrettoOriginale::Chiusura(const PosizioneForm& posizione) {
   ambiente_.sessione.Ditta = Maiuscolo(CasellaDitta);
-  const std::string nome = "KR_LibrettoOriginale";
-  ambiente_.impostazioni.Scrivi("POSIZIONE_FORMx", nome, TestoIntero(posizione.sinistra));
-  ambiente_.impostazioni.Scrivi("POSIZIONE_FORMy", nome, TestoIntero(posizione.alto));
-  ambiente_.impostazioni.Scrivi("FORMx", nome, TestoIntero(posizione.larghezza));
-  ambiente_.impostazioni.Scrivi("FORMy", nome, TestoIntero(posizione.altezza));
+  ScriviPosizione(ambiente_.impostazioni, "KR_LibrettoOriginale", posizione);
   Finita = false;
   Prova([&] { Finita = !DaSalvare(); });
   if (Finita) return;

@@ -1,5 +1,7 @@
 #include <applicazione/forme.h>
 
+#include <estratti/completa_autoallestito.h>
+#include <estratti/estratti_di_mappa.h>
 #include <fiduciali/importa_fiduciali.h>
 #include <fiduciali/seleziona_misurate.h>
 #include <generazione/libretto_da_disegno.h>
@@ -39,6 +41,15 @@ void ApriLibrettoDaDisegno(Ambiente& ambiente) {
   form.Form_Unload();
 }
 
+// Of the extract associated with the libretto.
+void ApriCompletaAutoallestito(Ambiente& ambiente) {
+  if (ambiente.sessione.EstrattoAssociato.empty())
+    return ambiente.dialoghi.Messaggio("Indicare un Estratto di Mappa!", "Operazione Impossibile!");
+  CompletaAutoallestito form(ambiente, ambiente.sessione.EstrattoAssociato);
+  form.AlCaricamento();
+  ambiente.finestre.MostraModale(form);
+}
+
 constexpr std::array ElencoForme = {
     Forma{forma::ConfiguraPregeo, &Apri<FormConfiguraPregeo>},
     Forma{forma::Intestazione, &Apri<FormCatasto1TXT>},
@@ -49,6 +60,8 @@ constexpr std::array ElencoForme = {
     Forma{forma::ArchivioPossessori, &Apri<ArchivioPossessori>},
     Forma{forma::ImportaFiduciali, &Apri<FormImportaFiduciali>},
     Forma{forma::AssegnaDescrizione, &Apri<AssegnaDescrizione>},
+    Forma{forma::EstrattiDiMappa, &ApriEstrattiDiMappa},
+    Forma{forma::CompletaAutoallestito, &ApriCompletaAutoallestito},
     Forma{forma::SelezionaMisurate, &Apri<KR_SelezionaMisurate>},
 };
 

@@ -2,20 +2,19 @@
 // Forms that are opened by their name: by tag commands, and by layers below the one that the form lives in.
 
 #include <core/ambiente.h>
+#include <core/nomi_forme.h>
 
 #include <span>
 #include <string_view>
 
 namespace lirmeto {
 
-// Names, those of forms whose work is still to come too.
+// Names, those of forms whose work is still to come too; core/nomi_forme.h has those that lower layers open.
 namespace forma {
 inline constexpr std::string_view ConfiguraPregeo = "FormConfiguraPregeo";
 inline constexpr std::string_view Intestazione = "FormCatasto1TXT";
 inline constexpr std::string_view LibrettoDaDisegno = "LibrettoDaDisegno";
-inline constexpr std::string_view EstrattiDiMappa = "KR_EstrattiDiMappa1";
 inline constexpr std::string_view DaPregeo = "KR_Dapregeo";
-inline constexpr std::string_view ModelloCensuario = "KR_EDM";
 inline constexpr std::string_view ImportaFiduciali = "FormImportaFiduciali";
 inline constexpr std::string_view AssegnaDescrizione = "AssegnaDescrizione";
 inline constexpr std::string_view Disegno = "FormDisegno";

@@ -4,9 +4,8 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 
-#include <cmath>
-
 #include <algorithm>
+#include <cmath>
 
 namespace lirmeto {
 
@@ -107,6 +106,14 @@ std::string TogliMarcatoriNota(std::string_view nota) {
   for (const std::string_view marca : {"<PD>", "<PV>", "<P!>", "<00>", "<EL>", "<8P>", "<8=>", "<8Q>"})
     pulita = Sostituisci(pulita, marca, "");
   return std::string(Taglia(pulita));
+}
+
+std::string InUnCampo(std::string_view testo) {
+  std::string campo(testo);
+  std::replace_if(
+      campo.begin(), campo.end(),
+      [](char lettera) { return lettera == '|' || static_cast<unsigned char>(lettera) < ' '; }, ' ');
+  return campo;
 }
 
 } // namespace lirmeto

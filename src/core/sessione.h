@@ -38,6 +38,9 @@ struct Sessione {
   std::string PropostaLibretto;  // the update proposal, from its heading to the end
   std::string PropostaStralcio;  // rows of a separation for GeneraLibrettoConStralcio; no command fills it yet
 
+  // The automated typology under way.
+  std::string TipologiaCorrente; // its code, field 6 of row 9; "1000": no extract is involved
+
   // The row list of the main window and the text of its position label, "3 /
   // 120".
   ElencoRighe List1;

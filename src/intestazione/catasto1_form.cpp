@@ -3,6 +3,7 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/mostra_errore.h>
+#include <core/nomi_forme.h>
 #include <core/riga.h>
 #include <core/servizi.h>
 #include <core/zero_nove.h>
@@ -11,7 +12,6 @@
 #include <pregeo/pregeo_ini.h>
 
 #include <algorithm>
-#include <limits>
 
 namespace lirmeto {
 
@@ -32,13 +32,6 @@ constexpr std::size_t CampiNove = 7;
 
 std::string PercorsoCatasto1(const Sessione& sessione) {
   return sessione.CartellaProgramma + "\\Catasto1.txt";
-}
-
-// A whole number of pixels; none for a text that is no number, the nearest that fits for one too large.
-std::optional<int> Pixel(std::string_view testo) {
-  if (!ENumero(testo)) return std::nullopt;
-  constexpr double massimo = std::numeric_limits<std::int16_t>::max();
-  return static_cast<int>(std::clamp(Valore(testo), -massimo, massimo));
 }
 
 bool Spuntata(const Impostazioni& impostazioni, std::string_view chiave) {
@@ -67,9 +60,7 @@ void FormCatasto1TXT::AlCaricamento() {
 
 void FormCatasto1TXT::LeggiOpzioni() {
   const Impostazioni& impostazioni = ambiente_.impostazioni;
-  const auto sinistra = Pixel(impostazioni.Leggi("POSIZIONE_FORMx", NomeForm, ""));
-  const auto alto = Pixel(impostazioni.Leggi("POSIZIONE_FORMy", NomeForm, ""));
-  if (sinistra && alto) PostoSalvato = {*sinistra, *alto};
+  PostoSalvato = LeggiPosizione(impostazioni, NomeForm);
   AggiornaPregeoIni = Spuntata(impostazioni, "Aggiorna_Default_Pregeo");
   AggiornaData = Spuntata(impostazioni, "Aggiorna_Default_Data");
 }
@@ -79,9 +70,8 @@ void FormCatasto1TXT::ScriviOpzioni() {
   ambiente_.impostazioni.Scrivi(SezioneOpzioni, "Aggiorna_Default_Data", AggiornaData ? "1" : "0");
 }
 
-void FormCatasto1TXT::SalvaPosto(const Posto& posto) {
-  ambiente_.impostazioni.Scrivi("POSIZIONE_FORMx", NomeForm, TestoIntero(posto.sinistra));
-  ambiente_.impostazioni.Scrivi("POSIZIONE_FORMy", NomeForm, TestoIntero(posto.alto));
+void FormCatasto1TXT::SalvaPosto(const PosizioneForm& posto) {
+  ScriviPosizione(ambiente_.impostazioni, NomeForm, posto);
 }
 
 void FormCatasto1TXT::CFDaPregeoINI() {
@@ -167,7 +157,7 @@ void FormCatasto1TXT::Lascia(std::size_t indice) {
 void FormCatasto1TXT::ApriEstratti() {
   constexpr int modoIntestazione = 344;
   ambiente_.sessione.ModoEditor = modoIntestazione;
-  Prova([&] { ApriForm(ambiente_, "KR_EstrattiDiMappa1"); });
+  Prova([&] { ApriForm(ambiente_, forma::EstrattiDiMappa); });
   EtichettaEstratto = ambiente_.sessione.EstrattoAssociato;
 }
 

@@ -3,6 +3,7 @@
 
 #include <base/dialoghi.h>
 #include <core/ambiente.h>
+#include <core/posizione_form.h>
 #include <intestazione/catasto1_caselle.h>
 #include <intestazione/catasto1_elenchi.h>
 
@@ -31,12 +32,7 @@ public:
   bool AggiornaData = true; // "Aggiorna alla Data di Oggi in Automatico alla Conferma"
   bool Chiusa = false;      // a button closed the form
 
-  // Left and top on the screen, pixels.
-  struct Posto {
-    int sinistra = 0;
-    int alto = 0;
-  };
-  std::optional<Posto> PostoSalvato; // where the form stood last
+  std::optional<PosizioneForm> PostoSalvato; // where the form stood last
 
   [[nodiscard]] const Sessione& DatiSessione() const { return ambiente_.sessione; }
   [[nodiscard]] std::vector<std::string>& Voci(Elenco elenco) { return Elenchi.at(static_cast<std::size_t>(elenco)); }
@@ -69,7 +65,7 @@ public:
   // A click on the extract label: the extracts' window, then the label again.
   void ApriEstratti();
 
-  void SalvaPosto(const Posto& posto);
+  void SalvaPosto(const PosizioneForm& posto);
 
   // Rows 0 and 9, the comment, the surveyor's file and PREGEO.INI from the boxes.
   void ConfermaConfigurazione0();

@@ -162,4 +162,17 @@ void AdattaAlloSchermo(QWidget& finestra, int larghezza, int altezza) {
   finestra.resize(std::min(larghezza, libero.width()), std::min(altezza, libero.height()));
 }
 
+void RimettiAlPosto(QWidget& finestra, const std::optional<PosizioneForm>& posizione) {
+  if (!posizione) return;
+  if (posizione->larghezza > 0 && posizione->altezza > 0)
+    AdattaAlloSchermo(finestra, posizione->larghezza, posizione->altezza);
+  const QPoint posto(posizione->sinistra, posizione->alto);
+  const QList<QScreen*> schermi = QGuiApplication::screens();
+  const bool visibile = std::any_of(schermi.begin(), schermi.end(), [&](const QScreen* schermo) {
+    constexpr int margine = 80; // pixels of the title that must be in reach
+    return schermo->availableGeometry().adjusted(0, 0, -margine, -margine).contains(posto);
+  });
+  if (visibile) finestra.move(posto);
+}
+
 } // namespace lirmeto::ui

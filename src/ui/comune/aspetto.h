@@ -3,12 +3,14 @@
 // each kind of row.
 
 #include <base/dialoghi.h>
+#include <core/posizione_form.h>
 
 #include <QColor>
 #include <QFont>
 #include <QIcon>
 #include <QString>
 
+#include <optional>
 #include <string_view>
 
 class QApplication;
@@ -47,5 +49,8 @@ struct ColoriRiga {
 
 // Size of a window that fits the screen it will stand on.
 void AdattaAlloSchermo(QWidget& finestra, int larghezza, int altezza);
+
+// Where and as large as a window was left, as long as some screen still shows that place.
+void RimettiAlPosto(QWidget& finestra, const std::optional<PosizioneForm>& posizione);
 
 } // namespace lirmeto::ui

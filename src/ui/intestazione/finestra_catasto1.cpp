@@ -3,19 +3,18 @@
 #include <ui/comune/aspetto.h>
 #include <ui/comune/testo_qt.h>
 
+#include <core/nomi_forme.h>
 #include <core/servizi.h>
 
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -94,7 +93,8 @@ FinestraCatasto1::FinestraCatasto1(FormCatasto1TXT& modello, QWidget* padre)
   colonna->addWidget(CreaPiede());
   Mostra();
   OrdinaTasti();
-  MettiAlPosto();
+  AdattaAlloSchermo(*this, Larghezza, Altezza);
+  RimettiAlPosto(*this, modello_.PostoSalvato);
   caselle_[casella::Data]->setFocus();
   caselle_[casella::Data]->selectAll();
 }
@@ -194,7 +194,7 @@ void FinestraCatasto1::AggiungiElencoTecnici(QGridLayout& griglia) {
 
 void FinestraCatasto1::AggiungiArchivi(QBoxLayout& colonna) {
   QGridLayout& griglia = AggiungiGruppo(colonna, QStringLiteral("Estratto, Misurate, Archivio di Pregeo"));
-  const bool apribile = modello_.Disponibile("KR_EstrattiDiMappa1");
+  const bool apribile = modello_.Disponibile(forma::EstrattiDiMappa);
   estratto_->setObjectName(QStringLiteral("EtichettaEstratto"));
   estratto_->setIcon(Icona(QStringLiteral("estratti")));
   estratto_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -360,19 +360,6 @@ void FinestraCatasto1::OrdinaTasti() {
     if (std::find(giro.begin(), giro.end(), bottone) == giro.end()) giro.push_back(bottone);
   giro.insert(giro.end(), {estratto_, archivio_});
   for (std::size_t i = 1; i < giro.size(); ++i) setTabOrder(giro[i - 1], giro[i]);
-}
-
-// Where it stood last, as long as some screen still shows that place.
-void FinestraCatasto1::MettiAlPosto() {
-  AdattaAlloSchermo(*this, Larghezza, Altezza);
-  if (!modello_.PostoSalvato) return;
-  const QPoint posto(modello_.PostoSalvato->sinistra, modello_.PostoSalvato->alto);
-  const QList<QScreen*> schermi = QGuiApplication::screens();
-  const bool visibile = std::any_of(schermi.begin(), schermi.end(), [&](const QScreen* schermo) {
-    constexpr int margine = 80; // pixels of the title that must be in reach
-    return schermo->availableGeometry().adjusted(0, 0, -margine, -margine).contains(posto);
-  });
-  if (visibile) move(posto);
 }
 
 void FinestraCatasto1::done(int esito) {

@@ -53,7 +53,6 @@ private:
   [[nodiscard]] QLabel* Unita(const QString& testo);
 
   void OrdinaTasti();
-  void MettiAlPosto();
   void Premi(int indice);
   void Mostra();
   void MostraElenchi();

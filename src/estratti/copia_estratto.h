@@ -14,4 +14,9 @@ namespace lirmeto {
 // the open libretto; a .DXF is not copied. Double quotes in the path are passed over. Errors as Disco::Copia.
 void CopiaEstrattoInPregeo(Ambiente& ambiente, std::string_view percorso);
 
+// The import of the extract manager, which takes what is dropped on a window too: an .EMP or a .PNG together with its
+// twin, or every .EMP and .PNG of a .ZIP. The extract becomes the associated one. Any other file is told of. Error 53 for
+// a twin that is not there; those of Disco::Copia and Esplodi_ZIP.
+void ImportaFileInEstratti(Ambiente& ambiente, std::string_view percorso);
+
 } // namespace lirmeto

@@ -1,8 +1,9 @@
-#include <pregeo/copia_estratto.h>
+#include <estratti/copia_estratto.h>
 
 #include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/servizi.h>
+#include <estratti/kr_estratto.h>
 #include <supporto/zip.h>
 
 #include <algorithm>
@@ -21,6 +22,10 @@ namespace lirmeto {
 //   an archive that is damaged         what came out of it is copied; with no .EMP among it the message that says so
 //                                      is the only one
 //   the first .EMP                     by its name, among those that lie in no folder of the archive
+//
+// The manager's import differs: the twin must be there, else the error comes when the first of the two is copied
+// already; of an archive every .EMP and .PNG is copied under its own name, and the first .EMP becomes the extract
+// associated; one that holds neither is told so.
 
 namespace {
 
@@ -37,14 +42,18 @@ std::string NomeEstratto(std::string_view percorso) {
 
 // Path in the extract folder of a file with this name.
 std::string InEstratti(const Sessione& sessione, std::string_view nome) {
-  return sessione.RadicePregeo + "\\pregeo\\estratti\\" + ComponenteFile(Maiuscolo(nome));
+  return PercorsoEstratto(sessione, Maiuscolo(nome));
+}
+
+void Copia(Ambiente& ambiente, const std::string& percorso) {
+  ambiente.disco.Copia(percorso, InEstratti(ambiente.sessione, NomeDaPercorso(percorso)));
 }
 
 void CopiaConGemello(Ambiente& ambiente, const std::string& percorso, std::string_view estensioneGemello) {
   const std::string gemello = ConEstensione(percorso, estensioneGemello);
   const bool conGemello = ambiente.disco.Esiste(gemello);
-  ambiente.disco.Copia(percorso, InEstratti(ambiente.sessione, NomeDaPercorso(percorso)));
-  if (conGemello) ambiente.disco.Copia(gemello, InEstratti(ambiente.sessione, NomeDaPercorso(gemello)));
+  Copia(ambiente, percorso);
+  if (conGemello) Copia(ambiente, gemello);
   if (conGemello || estensioneGemello == Png)
     ambiente.sessione.EstrattoAssociato = NomeEstratto(percorso) + std::string(Emp);
   ambiente.dialoghi.Messaggio("Copiato nella cartella Estratti!", TitoloCopia);
@@ -70,8 +79,12 @@ bool CopiaPrimo(Ambiente& ambiente, const std::string& cartella, const std::stri
   return true;
 }
 
+std::string CartellaDiLavoro(const Sessione& sessione) {
+  return sessione.RadicePregeo + "\\pregeo\\tmp\\";
+}
+
 void EsplodiECopia(Ambiente& ambiente, const std::string& percorso) {
-  const std::string cartella = ambiente.sessione.RadicePregeo + "\\pregeo\\tmp\\";
+  const std::string cartella = CartellaDiLavoro(ambiente.sessione);
   const std::string nome = NomeEstratto(percorso);
   const bool tutto = Esplodi_ZIP(ambiente, PreparaArchivio(ambiente, percorso, cartella), cartella);
   const bool copiato = CopiaPrimo(ambiente, cartella, nome, Emp);
@@ -80,6 +93,32 @@ void EsplodiECopia(Ambiente& ambiente, const std::string& percorso) {
     ambiente.sessione.EstrattoAssociato = nome + std::string(Emp);
   }
   if (copiato || tutto) ambiente.dialoghi.Messaggio("Esploso e Copiato nella cartella Estratti!", TitoloCopia);
+}
+
+// --- the import of the extract manager
+
+// An extract, or its raster, and the other of the two, which must be there.
+void ImportaConGemello(Ambiente& ambiente, const std::string& percorso, std::string_view estensioneGemello) {
+  Copia(ambiente, percorso);
+  Copia(ambiente, std::string(SenzaEstensione(percorso)) + std::string(estensioneGemello));
+  ambiente.sessione.EstrattoAssociato = NomeEstratto(percorso) + std::string(Emp);
+  ambiente.dialoghi.Messaggio(std::string(NomeDaPercorso(percorso)) + "\r\nCopiato nella cartella Estratti!",
+                              TitoloCopia);
+}
+
+void ImportaArchivio(Ambiente& ambiente, const std::string& percorso) {
+  const std::string cartella = CartellaDiLavoro(ambiente.sessione);
+  const std::string nome(NomeDaPercorso(percorso));
+  (void)Esplodi_ZIP(ambiente, PreparaArchivio(ambiente, percorso, cartella), cartella);
+  const auto estratti = ambiente.disco.Elenca(cartella, Emp);
+  const auto raster = ambiente.disco.Elenca(cartella, Png);
+  for (const auto* trovati : {&estratti, &raster})
+    for (const std::string& file : *trovati) Copia(ambiente, cartella + file);
+  if (!estratti.empty()) ambiente.sessione.EstrattoAssociato = Maiuscolo(estratti.front());
+  const bool niente = estratti.empty() && raster.empty();
+  ambiente.dialoghi.Messaggio(
+      nome + (niente ? "\r\nNon contiene Estratti di Mappa!" : "\r\nEsploso e Copiato nella cartella Estratti!"),
+      TitoloCopia);
 }
 
 } // namespace
@@ -95,6 +134,15 @@ void CopiaEstrattoInPregeo(Ambiente& ambiente, std::string_view percorso) {
   if (FinisceConSenzaCaso(file, Zip)) return EsplodiECopia(ambiente, file);
   for (const auto& [dato, gemello] : {std::pair(Emp, Png), std::pair(Png, Emp)})
     if (FinisceConSenzaCaso(file, dato)) CopiaConGemello(ambiente, file, gemello);
+}
+
+void ImportaFileInEstratti(Ambiente& ambiente, std::string_view percorso) {
+  ambiente.sessione.PuntoErrore = "Importa_Estrattodimappa";
+  const std::string file = PercorsoInCapitali(ambiente.disco, percorso);
+  if (FinisceConSenzaCaso(file, Emp)) return ImportaConGemello(ambiente, file, Png);
+  if (FinisceConSenzaCaso(file, Png)) return ImportaConGemello(ambiente, file, Emp);
+  if (FinisceConSenzaCaso(file, Zip)) return ImportaArchivio(ambiente, file);
+  ambiente.dialoghi.Messaggio("Ammessi file di Estratti: .EMP, .PNG, .ZIP");
 }
 
 } // namespace lirmeto

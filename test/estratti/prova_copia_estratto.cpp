@@ -3,7 +3,7 @@
 #include <base/errore.h>
 #include <base/testo.h>
 #include <core/mostra_errore.h>
-#include <pregeo/copia_estratto.h>
+#include <estratti/copia_estratto.h>
 
 #include <gtest/gtest.h>
 

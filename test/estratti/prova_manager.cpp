@@ -1,0 +1,493 @@
+// The extract manager and the form of the sum: what each command says and leaves on disk.
+#include "sostituti/banco.h"
+
+#include <base/errore.h>
+#include <base/testo.h>
+#include <core/mostra_errore.h>
+#include <estratti/archivi_estratto.h>
+#include <estratti/estratti_di_mappa.h>
+#include <estratti/kr_estratto.h>
+#include <estratti/somma_estratti.h>
+#include <supporto/stampa_generale.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace lirmeto {
+namespace {
+
+using prova::Banco;
+using prova::Testo;
+using Righe = std::vector<std::string>;
+
+const std::string Cartella = "C:\\PREGEO\\ESTRATTI\\";
+const std::string Zero = "0|12062026|PD0041877/2026|G224|00123|35,36|PD|PUB|RSSMTN|1|";
+const Righe Estratto = {Zero,
+                        "8|1%|0|0|",
+                        "8|2%|10|0|",
+                        "8|3%|10|10|",
+                        "8|9%|77|7|",
+                        "7|4|1%|2%|3%|1%|NC|35|35|50|",
+                        "7|4|1%|3%|2%|1%|NC|36|36|50|",
+                        "6|DITTA|1|ROSSI|2|X|",
+                        "6|PARTICELLA|35/A|  |SEMINATIVO  |1|1| | |",
+                        "6|DISTORSIONE|1.5|"};
+
+struct Tavolo : Banco {
+  Tavolo() {
+    sessione.Comuni = {{"G224", "D3AA", "PD", "PADOVA"}};
+    sessione.Province = {{"PD", "PADOVA"}};
+    disco.cartelle.emplace_back("C:\\PREGEO\\TMP");
+    for (const char* cartella : {"C:\\FIDUCIAL", "C:\\FIDUCIAL\\DITTA", "C:\\FIDUCIAL\\PARTICELLE", "C:\\DATI"})
+      disco.cartelle.emplace_back(cartella);
+    disco.Metti(Cartella + "A.EMP", Testo(Estratto));
+    disco.Metti(Cartella + "A.PNG", "foto");
+    disco.Metti(Cartella + "A.JPG", "foto j");
+    disco.Metti(Cartella + "B.EMP", Testo({Zero, "8|1%|0|0.0001|", "8|2%|50|50|"}));
+    disco.Metti(Cartella + "C.SMP", Testo({Zero}));
+    disco.Metti(Cartella + "NOTE.TXT", "no");
+    dialoghi.risposte = {Risposta::Si};
+  }
+
+  [[nodiscard]] std::string File(const std::string& nome) const { return disco.Contenuto(Cartella + nome); }
+  [[nodiscard]] std::vector<std::string> Detti() const {
+    std::vector<std::string> testi;
+    for (const auto& detto : dialoghi.detti) testi.push_back(detto.titolo + "/" + detto.testo);
+    return testi;
+  }
+};
+
+void Scegli(KR_EstrattiDiMappa1& form, const std::string& nome) {
+  const auto trovato = std::find(form.File1.begin(), form.File1.end(), nome);
+  form.Seleziona(trovato == form.File1.end() ? -1 : trovato - form.File1.begin());
+}
+
+TEST(Manager, SelezionareMostraTestoEtichetteEDisegno) {
+  Tavolo tavolo;
+  tavolo.sessione.EstrattoAssociato = "A.PNG";
+  KR_EstrattiDiMappa1 form(tavolo.ambiente);
+  form.AlCaricamento();
+  EXPECT_EQ(form.File1, (Righe{"A.EMP", "A.PNG", "B.EMP", "C.SMP"}));
+  EXPECT_EQ(form.Indice, 0) << "that of the associated name";
+  EXPECT_EQ(form.Titolo, "Gestione Estratti di Mappa - Estratto Associato = A.PNG - A.EMP");
+  EXPECT_EQ(form.TestoFile, Testo(Estratto));
+  EXPECT_EQ(form.Etichette.comune + "/" + form.Etichette.provincia, "G224 - PADOVA/PD - PADOVA");
+  EXPECT_EQ(form.Etichette.foglio + "/" + form.Etichette.particelle, "00123/35,36");
+  EXPECT_EQ(form.Etichette.rilascio + "/" + form.Etichette.scadenza,
+            "Rilasciato il 12-06-2026/L'Estratto scade tra    -1 mesi");
+  EXPECT_EQ(form.Etichette.versione + "/" + form.Etichette.estMedio + "/" + form.Etichette.tipo,
+            "Pregeo 10/Est Med. 5/");
+  EXPECT_EQ(form.TestoDitte + form.TestoParticelle, "1 ROSSI 2 X \r\n35/A    SEMINATIVO   1 1     \r\n");
+  EXPECT_EQ(form.Anteprima, AnteprimaEstratto::Disegno);
+  EXPECT_EQ(form.Grafica1().Archivio().Punti().size(), 6U) << "four vertices, two names";
+  EXPECT_EQ(form.RasterScelto, "C:\\pregeo\\estratti\\A.PNG");
+
+  form.Seleziona(1);
+  EXPECT_TRUE(form.TestoFile.empty() && form.Etichette.comune.empty());
+  form.AnteprimaEstratto3();
+  EXPECT_EQ(form.Anteprima, AnteprimaEstratto::Raster);
+  form.CambiaFiltro(FiltroEstratti::Smp);
+  EXPECT_EQ(form.File1, Righe{"C.SMP"});
+  EXPECT_EQ(form.Indice, -1);
+  EXPECT_THROW(form.Seleziona(1), Errore);
+  EXPECT_EQ(tavolo.sessione.EstrattoAssociato, "A.PNG") << "looking ties nothing";
+}
+
+TEST(Manager, UnaCartellaVuotaOCheMancaHaDueEsempi) {
+  for (const bool manca : {false, true}) {
+    Banco banco;
+    if (manca) std::erase(banco.disco.cartelle, "C:\\PREGEO\\ESTRATTI");
+    KR_EstrattiDiMappa1 form(banco.ambiente);
+    form.AlCaricamento();
+    EXPECT_EQ(form.File1, (Righe{"ESTRATTO.EMP", "ESTRATTO1.EMP"}));
+    form.Seleziona(1);
+    form.AnteprimaEstratto3();
+    EXPECT_EQ(banco.dialoghi.UltimoTesto(), "");
+    KR_Estratto estratto;
+    ASSERT_TRUE(EsplodiEstratto(banco.ambiente, estratto, "ESTRATTO1.EMP"));
+    const std::string prima = banco.sessione.EstrattoSette;
+    ASSERT_TRUE(SalvaEstratto(banco.ambiente, estratto));
+    const std::string dopo = banco.disco.Contenuto(Cartella + "ESTRATTO1.EMP");
+    EXPECT_TRUE(Contiene(prima, "|257+|257+|3161.93") && Contiene(dopo, "|257+|257+|3162|")) << dopo;
+    EXPECT_TRUE(Contiene(prima, "|257|257|15997.22") && Contiene(dopo, "|257|257|15997|")) << dopo;
+  }
+}
+
+TEST(Manager, DiUnFileGrandeLeSoleRigheIntereDellInizio) {
+  Tavolo tavolo;
+  std::string grande = Zero + "\n";
+  while (grande.size() < 200'000) grande += "6|DISTANZA|0123456789|\n";
+  tavolo.disco.Metti(Cartella + "G.EMP", grande);
+  KR_EstrattiDiMappa1 form(tavolo.ambiente);
+  form.AlCaricamento();
+  Scegli(form, "G.EMP");
+  EXPECT_LT(form.TestoFile.size(), 80'000U);
+  EXPECT_GT(form.TestoFile.size(), 60'000U);
+  EXPECT_TRUE(form.TestoFile.ends_with("6|DISTANZA|0123456789|\r\n"));
+}
+
+TEST(Manager, UnFileGuastoSiDiceENonMostraQuelloDiPrima) {
+  Tavolo tavolo;
+  tavolo.disco.Metti(Cartella + "R.EMP", "0|1|\r\n8|1%|1|1|\r\n");
+  KR_EstrattiDiMappa1 form(tavolo.ambiente);
+  form.AlCaricamento();
+  for (const char* nome : {"A.EMP", "R.EMP"}) {
+    Scegli(form, nome);
+    form.AnteprimaEstratto3();
+  }
+  EXPECT_NE(tavolo.dialoghi.UltimoTesto().find("EsplodiEstratto"), std::string::npos);
+  EXPECT_TRUE(form.Etichette.foglio.empty() && form.TestoDitte.empty());
+}
+
+struct CasoComando {
+  std::string nome;
+  int indice;
+  std::string scelto;                                    // "": nothing selected
+  std::array<std::string, 3> caselle;                    // new name, parcel, its new name
+  Righe detti;                                           // title/text, questions too
+  std::vector<std::pair<std::string, std::string>> file; // what they hold afterwards, "(manca)": not there
+  std::string selezionato;
+};
+
+class Comandi : public testing::TestWithParam<CasoComando> {};
+
+TEST_P(Comandi, DicoELasciano) {
+  const CasoComando& caso = GetParam();
+  Tavolo tavolo;
+  KR_EstrattiDiMappa1 form(tavolo.ambiente);
+  form.AlCaricamento();
+  Scegli(form, caso.scelto);
+  form.NuovoNome = caso.caselle[0];
+  form.NomeParticella = caso.caselle[1];
+  form.NuovoNomeParticella = caso.caselle[2];
+  const auto prima = tavolo.disco.file;
+  form.Premi(caso.indice);
+  EXPECT_EQ(tavolo.Detti(), caso.detti);
+  auto attesi = prima;
+  for (const auto& [nome, contenuto] : caso.file) attesi[Cartella + nome] = contenuto;
+  std::erase_if(attesi, [](const auto& voce) { return voce.second == "(manca)"; });
+  EXPECT_EQ(tavolo.disco.file, attesi);
+  EXPECT_EQ(form.Indice < 0 ? "" : form.File1[static_cast<std::size_t>(form.Indice)], caso.selezionato);
+}
+
+std::string Con(const std::string& da, const std::string& a) {
+  return Sostituisci(Testo(Estratto), da, a);
+}
+
+const std::string FotoA = "foto";
+const std::string Salvato = Testo({Zero, "8|1%|0|0|", "8|2%|10|0|", "8|3%|10|10|", "7|4|1%|3%|2%|1%|NC|36|36|50|",
+                                   "7|4|1%|2%|3%|1%|NC|35|35|50|", "6|DITTA|1|ROSSI|2|X|",
+                                   "6|PARTICELLA|35/A|  |SEMINATIVO  |1|1| | |", "6|DISTORSIONE|1.5|"});
+const std::string Selezionare = "Lirmeto/Selezionare un Estratto!";
+
+INSTANTIATE_TEST_SUITE_P(
+    Casi, Comandi,
+    testing::Values(
+        CasoComando{"CopiaRapida",
+                    6,
+                    "A.EMP",
+                    {},
+                    {},
+                    {{"A1.EMP", Testo(Estratto)}, {"A1.PNG", FotoA}, {"A1.JPG", "foto j"}},
+                    "A.EMP"},
+        CasoComando{"CopiaDiUnRaster", 6, "A.PNG", {}, {}, {}, "A.PNG"},
+        CasoComando{"CopiaDiNiente", 6, "", {}, {Selezionare}, {}, ""},
+        CasoComando{"Elimina",
+                    8,
+                    "A.EMP",
+                    {},
+                    {"Elimina Estratto/Eliminare Estratto : \r\n\r\nA.* ?? "},
+                    {{"A.EMP", "(manca)"}, {"A.PNG", "(manca)"}, {"A.JPG", "(manca)"}},
+                    "B.EMP"},
+        CasoComando{"EliminaDiNiente", 8, "", {}, {"Lirmeto/Selezionare un estratto!"}, {}, ""},
+        CasoComando{"Vuota",
+                    9,
+                    "A.EMP",
+                    {},
+                    {"Vuota Estratto/Vuotare Estratto?"},
+                    {{"A.EMP", Testo({Zero, "6|DISTORSIONE|1.5|"})}},
+                    "A.EMP"},
+        CasoComando{"VuotaUnaRiga", 9, "C.SMP", {}, {}, {}, "C.SMP"},
+        CasoComando{"Autoallestito",
+                    10,
+                    "A.EMP",
+                    {},
+                    {"Autoallestito/Trasformare in Autoallestito?"},
+                    {{"A.EMP", Testo({"0|AUTOALLESTITO|0|0|0|0|0|0|0|0|", "8|1%|0|0|", "8|2%|10|0|", "8|3%|10|10|",
+                                      "8|9%|77|7|", "7|4|1%|2%|3%|1%|NC|35|35|50|", "7|4|1%|3%|2%|1%|NC|36|36|50|"})}},
+                    "A.EMP"},
+        CasoComando{"AutoallestitoDiNiente", 10, "", {}, {Selezionare}, {}, ""},
+        CasoComando{"Duplica",
+                    11,
+                    "A.EMP",
+                    {" nuovo.emp "},
+                    {"Lirmeto/Duplicare Estratto :  da : A a : nuovo ?? "},
+                    {{"NUOVO.EMP", Testo(Estratto)}, {"NUOVO.PNG", FotoA}},
+                    "NUOVO.EMP"},
+        CasoComando{"DuplicaSuUnAltro",
+                    11,
+                    "A.EMP",
+                    {"B"},
+                    {"Estratto da duplicare esistente/Estratto B esistente!\r\nSostituire??",
+                     "Lirmeto/Duplicare Estratto :  da : A a : B ?? "},
+                    {{"B.EMP", Testo(Estratto)}, {"B.PNG", FotoA}},
+                    "B.EMP"},
+        CasoComando{"DuplicaSenzaNome", 11, "A.EMP", {" "}, {"Lirmeto/Nuovo nome Estratto!"}, {}, "A.EMP"},
+        CasoComando{"DuplicaSuSeStesso", 11, "A.EMP", {"a"}, {}, {}, "A.EMP"},
+        CasoComando{"Rinomina",
+                    12,
+                    "A.PNG",
+                    {"Z"},
+                    {"Lirmeto/Rinominare Estratto :  da : A a : Z ?? "},
+                    {{"Z.EMP", Testo(Estratto)}, {"Z.PNG", FotoA}, {"A.EMP", "(manca)"}, {"A.PNG", "(manca)"}},
+                    "Z.PNG"},
+        CasoComando{"RinominaDiNiente", 12, "", {"Z"}, {Selezionare}, {}, ""},
+        CasoComando{"EliminaParticella",
+                    13,
+                    "A.EMP",
+                    {"", "36"},
+                    {"Elimina Particella/Eliminare definitivamente la particella 36  ?"},
+                    {{"A.EMP", Sostituisci(Salvato, "7|4|1%|3%|2%|1%|NC|36|36|50|\r\n", "")}},
+                    "A.EMP"},
+        CasoComando{"EliminaParticellaSenzaNome",
+                    13,
+                    "A.EMP",
+                    {},
+                    {"Impossibile continuare/Indicare il nome della particella da eliminare!"},
+                    {},
+                    "A.EMP"},
+        CasoComando{"EliminaParticellaDiNiente",
+                    13,
+                    "",
+                    {"", "36"},
+                    {"Operazione Impossibile!/Indicare un Estratto di Mappa!"},
+                    {},
+                    ""},
+        CasoComando{"RinominaParticella",
+                    14,
+                    "A.EMP",
+                    {"", "35", "AAA"},
+                    {"Rinomina Particella/Rinominare la Particella 35 in AAA ?"},
+                    {{"A.EMP", Con("|NC|35|35|", "|NC|AAA|AAA|")}},
+                    "A.EMP"},
+        CasoComando{"RinominaParticellaCheNonCe",
+                    14,
+                    "B.EMP",
+                    {"", "35", "AAA"},
+                    {"Rinomina Particella/Rinominare la Particella 35 in AAA ?"},
+                    {},
+                    "B.EMP"},
+        CasoComando{"RinominaParticellaSenzaAttuale",
+                    14,
+                    "A.EMP",
+                    {"", "", "AAA"},
+                    {"Rinomina Particella/Indicare il nome Attuale della particella!"},
+                    {},
+                    "A.EMP"},
+        CasoComando{"RinominaParticellaSenzaNuovo",
+                    14,
+                    "A.EMP",
+                    {"", "35"},
+                    {"Rinomina Particella/Indicare il nome Nuovo della particella!"},
+                    {},
+                    "A.EMP"},
+        CasoComando{"RinominaParticellaDiNiente",
+                    14,
+                    "",
+                    {"", "35", "A"},
+                    {"Operazione Impossibile!/Indicare un Estratto di Mappa!"},
+                    {},
+                    ""},
+        CasoComando{"AssociaNiente", 15, "", {}, {"Operazione Impossibile!/Indicare un Estratto di Mappa!"}, {}, ""},
+        CasoComando{
+            "PuntiIsolati", 19, "A.EMP", {}, {"Lirmeto/Eliminare i Punti Isolati?"}, {{"A.EMP", Salvato}}, "A.EMP"},
+        CasoComando{"IndiceCheNonCe", 5, "A.EMP", {}, {}, {}, "A.EMP"}),
+    [](const auto& caso) { return caso.param.nome; });
+
+struct CasoNegato {
+  int indice;
+  std::string scelto;
+  std::array<std::string, 3> caselle;
+  std::string rotto; // file that cannot be written
+};
+
+class Negati : public testing::TestWithParam<CasoNegato> {};
+
+TEST_P(Negati, SiDiceETuttoRestaComEra) {
+  const CasoNegato& caso = GetParam();
+  Tavolo tavolo;
+  KR_EstrattiDiMappa1 form(tavolo.ambiente);
+  form.AlCaricamento();
+  Scegli(form, caso.scelto);
+  std::tie(form.NuovoNome, form.NomeParticella, form.NuovoNomeParticella) =
+      std::tie(caso.caselle[0], caso.caselle[1], caso.caselle[2]);
+  const auto prima = tavolo.disco.file;
+  if (!caso.rotto.empty()) tavolo.disco.rotti[Cartella + caso.rotto] = errore::AccessoAlFile;
+  form.Premi(caso.indice);
+  EXPECT_NE(tavolo.sessione.NumeroErrore, 0);
+  EXPECT_TRUE(tavolo.dialoghi.detti.back().gravita == Gravita::Critico) << tavolo.dialoghi.UltimoTesto();
+  EXPECT_EQ(tavolo.disco.file, prima);
+}
+
+INSTANTIATE_TEST_SUITE_P(Casi, Negati,
+                         testing::Values(CasoNegato{11, "A.EMP", {"..\\X"}, ""}, CasoNegato{12, "A.EMP", {"X:Y"}, ""},
+                                         CasoNegato{12, "A.EMP", {".."}, ""},
+                                         CasoNegato{14, "A.EMP", {"", "35", "A|B"}, ""},
+                                         CasoNegato{12, "A.EMP", {"Z"}, "Z.EMP"}, CasoNegato{9, "A.EMP", {}, "A.EMP"},
+                                         CasoNegato{10, "A.EMP", {}, "A.EMP"}, CasoNegato{19, "A.EMP", {}, "A.EMP"}));
+
+TEST(Manager, AssociaTieneIDatiDelLibrettoEChiude) {
+  Tavolo tavolo;
+  KR_EstrattiDiMappa1 form(tavolo.ambiente);
+  form.AlCaricamento();
+  Scegli(form, "A.EMP");
+  form.Premi(15);
+  EXPECT_TRUE(form.Chiusa);
+  const Sessione& s = tavolo.sessione;
+  EXPECT_EQ(s.EstrattoAssociato + "/" + s.CodiceComune + "/" + s.NomeComune + "/" + s.SiglaProvincia + "/" +
+                s.NomeProvincia + "/" + s.Foglio + "/" + s.Mappali + "/" + s.EstMedio,
+            "A.EMP/G224/PADOVA/PD/PADOVA/0123/35,36/5");
+}
+
+TEST(Manager, FormDiAltriSoloSeCiSono) {
+  Tavolo tavolo;
+  for (const bool ci : {false, true}) {
+    if (ci) tavolo.finestre.disponibili = {"KR_EDM", "TIPOL10_PROVVISORIO"};
+    tavolo.finestre.utente = [&](Modello& modello) {
+      auto& form = dynamic_cast<KR_EstrattiDiMappa1&>(modello);
+      for (const auto& pulsante : KR_EstrattiDiMappa1::Pulsanti())
+        if (pulsante.indice == 16 || pulsante.indice == 23) EXPECT_EQ(form.Abilitato(pulsante), ci);
+      if (!ci) return;
+      tavolo.disco.Metti(Cartella + "ESTRATTOPROVVISORIO.EMP", Testo({Zero}));
+      form.Premi(23);
+      EXPECT_EQ(form.File1.at(static_cast<std::size_t>(form.Indice)), "ESTRATTOPROVVISORIO.EMP");
+      form.Premi(16);
+      EXPECT_TRUE(form.Chiusa && tavolo.finestre.aperte.size() == 1) << "the archive once the manager is closed";
+    };
+    ApriEstrattiDiMappa(tavolo.ambiente);
+  }
+  EXPECT_EQ(tavolo.finestre.aperte, (Righe{"TIPOL10_PROVVISORIO", "KR_EDM"}));
+  EXPECT_EQ(tavolo.sessione.TipologiaCorrente, "1000");
+}
+
+TEST(Manager, StampaIlTestoMostratoEEsporta) {
+  Tavolo tavolo;
+  KR_EstrattiDiMappa1 form(tavolo.ambiente);
+  form.AlCaricamento();
+  Scegli(form, "B.EMP");
+  Righe stampate;
+  tavolo.finestre.utente = [&](Modello& modello) {
+    stampate = prova::Copia(dynamic_cast<KR_StampaGenerale&>(modello).List1);
+  };
+  form.Premi(18);
+  EXPECT_EQ(Testo(stampate), tavolo.File("B.EMP"));
+  tavolo.dialoghi.fileScelto = "C:\\DATI\\FUORI";
+  form.Premi(21);
+  EXPECT_EQ(tavolo.disco.Contenuto("C:\\DATI\\FUORI.EMP"), tavolo.File("B.EMP"));
+}
+
+TEST(Manager, IntestatariArchiviatiUnoPerFile) {
+  Tavolo tavolo;
+  KR_EstrattiDiMappa1 form(tavolo.ambiente);
+  form.AlCaricamento();
+  Scegli(form, "A.EMP");
+  form.Premi(22);
+  EXPECT_EQ(tavolo.disco.Contenuto("C:\\FIDUCIAL\\DITTA\\PD_G224_00123_1_2.DIT"), "6|DITTA|1|ROSSI|2|X|\r\n");
+  EXPECT_EQ(tavolo.File("A.EMP"), Con("6|DITTA|1|ROSSI|2|X|\r\n", ""));
+  EXPECT_EQ(tavolo.disco.Contenuto("C:\\USERS\\PROVA\\DOCUMENTS\\LIRMETO\\TEMP\\A.BAK"), Testo(Estratto));
+  EXPECT_EQ(tavolo.dialoghi.UltimoTesto(), "Intestatari archiviati ed eliminati dall'Estratto!");
+
+  tavolo.disco.Metti(Cartella + "A.EMP", Con("|ROSSI|2|", "|ROSSI|..\\2|"));
+  form.Premi(22);
+  EXPECT_EQ(tavolo.sessione.NumeroErrore, errore::NomeFileNonValido);
+  EXPECT_TRUE(Contiene(tavolo.File("A.EMP"), "6|DITTA|"));
+}
+
+TEST(Manager, ArchiviaParticelleDellEstrattoAssociato) {
+  Tavolo tavolo;
+  ArchiviaParticelle(tavolo.ambiente);
+  EXPECT_EQ(tavolo.dialoghi.UltimoTesto(), "Estratto non trovato!");
+  tavolo.sessione.EstrattoAssociato = "A.EMP";
+  ArchiviaParticelle(tavolo.ambiente);
+  EXPECT_EQ(tavolo.disco.Contenuto("C:\\FIDUCIAL\\PARTICELLE\\G224_00123_35_A.MAP"), Estratto[8] + "\r\n");
+}
+
+TEST(Manager, ImportareDicePortaEAssocia) {
+  Tavolo tavolo;
+  tavolo.disco.Metti("C:\\DATI\\N.EMP", Testo({Zero}));
+  KR_EstrattiDiMappa1 form(tavolo.ambiente);
+  form.AlCaricamento();
+  form.Lascia("C:\\dati\\n.emp");
+  EXPECT_EQ(tavolo.sessione.NumeroErrore, errore::FileNonTrovato) << "no raster beside it";
+  EXPECT_EQ(tavolo.File("N.EMP"), Testo({Zero}));
+  EXPECT_EQ(tavolo.sessione.EstrattoAssociato, "");
+  tavolo.disco.Metti("C:\\DATI\\N.PNG", "foto n");
+  for (const char* dato : {"C:\\DATI\\N.EMP", "C:\\DATI\\N.PNG"}) {
+    tavolo.sessione.EstrattoAssociato.clear();
+    tavolo.dialoghi.fileScelto = dato;
+    form.Premi(2);
+    EXPECT_EQ(tavolo.Detti().back(),
+              "Copia Estratto in Pregeo/" + std::string(dato).substr(8) + "\r\nCopiato nella cartella Estratti!");
+    EXPECT_EQ(tavolo.File("N.PNG"), "foto n");
+    EXPECT_EQ(tavolo.sessione.EstrattoAssociato, "N.EMP");
+    EXPECT_EQ(form.File1.at(static_cast<std::size_t>(form.Indice)), "N.EMP");
+  }
+  form.Lascia("C:\\DATI\\N.DXF");
+  EXPECT_EQ(tavolo.dialoghi.UltimoTesto(), "Ammessi file di Estratti: .EMP, .PNG, .ZIP");
+}
+
+// --- the sum
+
+TEST(FormSomma, SommaISceltiSottoIlNomeNuovo) {
+  Tavolo tavolo;
+  KR_EstrattiDiMappa1 manager(tavolo.ambiente);
+  manager.AlCaricamento();
+  Scegli(manager, "A.EMP");
+  tavolo.finestre.utente = [&](Modello& modello) {
+    auto& form = dynamic_cast<KR_SommaEstratti&>(modello);
+    EXPECT_EQ(form.File1, (Righe{"A.EMP", "B.EMP"}));
+    EXPECT_EQ(form.Grafica1().Archivio().Punti().size(), 6U);
+    form.Somma();
+    EXPECT_EQ(tavolo.dialoghi.UltimoTesto(), "Selezionare l'Estratto da Aggiungere");
+    form.Scegli(1, true);
+    form.Somma();
+    EXPECT_EQ(tavolo.dialoghi.UltimoTesto(), "Inserire il Nome dell'Estratto Risultante");
+    form.MostraSomma();
+    EXPECT_EQ(form.Grafica1().Archivio().Punti().size(), 7U) << "one more of B, the other is common";
+    form.NomeSomma = "..\\x";
+    form.Somma();
+    EXPECT_TRUE(!form.Chiusa && form.Creato.empty());
+    form.NomeSomma = "somma.emp";
+    form.Somma();
+    EXPECT_TRUE(form.Chiusa);
+  };
+  manager.Premi(3);
+  EXPECT_EQ(tavolo.File("SOMMA.EMP"),
+            Testo({"0|AUTOALLESTITO|0|0|0|0|0|0|0|0|", "8|1%|0|0|", "8|2%|10|0|", "8|3%|10|10|", "8|4%|77|7|",
+                   "8|5%|50|50|", "7|4|1%|2%|3%|1%|NC|35|35|50|", "7|4|1%|3%|2%|1%|NC|36|36|50|"}));
+  EXPECT_EQ(tavolo.File("SOMMA.PNG") + "/" + tavolo.File("SOMMA.JPG"), "foto/foto j");
+  EXPECT_EQ(manager.File1.at(static_cast<std::size_t>(manager.Indice)), "SOMMA.EMP");
+}
+
+TEST(FormSomma, UnNomeEsistenteSiChiedeEUnGuastoNonLasciaNulla) {
+  Tavolo tavolo;
+  tavolo.disco.Metti(Cartella + "ROTTO.EMP", "8|1%\r\n");
+  KR_SommaEstratti form(tavolo.ambiente, Cartella + "A.EMP");
+  form.AlCaricamento();
+  form.NomeSomma = "B";
+  form.Scegli(1, true);
+  tavolo.dialoghi.risposte = {Risposta::No};
+  const auto prima = tavolo.disco.file;
+  form.Somma();
+  EXPECT_EQ(tavolo.dialoghi.UltimoTesto(), "Estratto B esistente!\r\nSostituire??");
+  form.NomeSomma = "ALTRO";
+  form.Scegli(2, true);
+  form.Somma();
+  EXPECT_EQ(tavolo.sessione.NumeroErrore, errore::IndiceFuoriIntervallo);
+  EXPECT_EQ(tavolo.disco.file, prima);
+  EXPECT_FALSE(form.Chiusa);
+}
+
+} // namespace
+} // namespace lirmeto
