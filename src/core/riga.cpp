@@ -67,6 +67,10 @@ RigaDivisa SplitRiga(std::string_view riga) {
   return divisa;
 }
 
+bool CodiceLinea(std::string_view campo) {
+  return campo.size() == 2 && Contiene("NRV", campo.substr(0, 1)) && Contiene("CTP", campo.substr(1));
+}
+
 bool RigaGps(std::string_view riga) {
   return Parte(riga, '|', 2).find(',') != std::string_view::npos;
 }

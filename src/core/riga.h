@@ -49,6 +49,9 @@ struct RigaDivisa {
 // begins.
 [[nodiscard]] RigaDivisa SplitRiga(std::string_view riga);
 
+// Whether a field of a row 7 is a line code: N black, R red or V green, then C solid, T dashed or P dotted.
+[[nodiscard]] bool CodiceLinea(std::string_view campo);
+
 // Whether a row 1 or 2 is a GPS row: its field 2 holds a comma.
 [[nodiscard]] bool RigaGps(std::string_view riga);
 

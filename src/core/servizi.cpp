@@ -64,6 +64,13 @@ void CreaCartella(Ambiente& ambiente, std::string_view percorso) {
   if (!ambiente.disco.EsisteCartella(percorso)) ambiente.disco.CreaCartella(percorso);
 }
 
+void CreaPercorso(Ambiente& ambiente, std::string_view percorso) {
+  for (std::size_t fine = percorso.find('\\'); fine != std::string_view::npos;) {
+    fine = percorso.find('\\', fine + 1);
+    CreaCartella(ambiente, percorso.substr(0, fine));
+  }
+}
+
 void CreaCartelle(Ambiente& ambiente) {
   for (const auto& cartella : CartelleDiLavoro(ambiente.sessione))
     (void)Intrappola(ambiente, [&] { CreaCartella(ambiente, cartella); });

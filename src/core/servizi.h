@@ -16,6 +16,9 @@ inline constexpr std::string_view NonAncoraDisponibile = "Non ancora disponibile
 // Creates the folder when it is not there; its parent must be.
 void CreaCartella(Ambiente& ambiente, std::string_view percorso);
 
+// The same for a folder whose parents may be missing too.
+void CreaPercorso(Ambiente& ambiente, std::string_view percorso);
+
 // All folders of the program and of Pregeo's data, one level at a time, in
 // their order.
 void CreaCartelle(Ambiente& ambiente);

@@ -39,7 +39,13 @@ struct Sessione {
   std::string PropostaStralcio;  // rows of a separation for GeneraLibrettoConStralcio; no command fills it yet
 
   // The automated typology under way.
-  std::string TipologiaCorrente; // its code, field 6 of row 9; "1000": no extract is involved
+  std::string TipologiaCorrente;     // its code, field 6 of row 9; "1000": no extract is involved
+  std::string ParticelleScelte;      // chosen parcels, commas between
+  std::string RigheParticelleScelte; // their rows of the extract, lines at CR LF
+  std::string RigheEnteUrbano;       // those of them that hold "ENTE URBANO"
+  std::string RigheFabbRurale;       // those that hold "FABB RURALE"
+  std::string ParticellaMantenuta;   // the parcel that keeps its identifier
+  std::string PropostaTipologia;     // rows of the proposal made, lines at CR LF
 
   // The row list of the main window and the text of its position label, "3 /
   // 120".

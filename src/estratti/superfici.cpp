@@ -7,6 +7,19 @@
 
 namespace lirmeto {
 
+MisureAnello MisuraAnello(std::span<const double> nord, std::span<const double> est) {
+  MisureAnello misure;
+  for (std::size_t i = 0; i + 1 < nord.size(); ++i) {
+    const double versoEst = est[i + 1] - est[i];
+    const double versoNord = nord[i + 1] - nord[i];
+    misure.superficie += versoEst * (nord[i + 1] + nord[i]) / 2;
+    misure.perimetro += std::sqrt(versoEst * versoEst + versoNord * versoNord);
+    misure.differenzaEst += versoEst;
+  }
+  misure.superficie = std::fabs(misure.superficie);
+  return misure;
+}
+
 SuperficiAnelli::SuperficiAnelli(KR_Estratto& estratto) : estratto_(estratto), indice_(estratto.Punti.size(), '%') {
   vertici_.reserve(estratto.Punti.size());
   for (const auto riga : estratto.Punti) {
@@ -48,18 +61,11 @@ void SuperficiAnelli::SuperficieRigaSette(std::string_view riga) {
   nord.at(n + 1) = nord[1];
   est.at(n + 1) = est[1];
   if (n < 3) return;
-  double superficie = 0;
-  estratto_.PerimetroCalcolato = 0;
-  estratto_.DifferenzaEstCalcolata = 0;
   // The "NC" is a vertex wherever its place lay before: the ring is closed, so that its two terms cancel.
-  for (std::size_t i = 1; i <= n; ++i) {
-    const double versoEst = est.at(i + 1) - est.at(i);
-    const double versoNord = nord.at(i + 1) - nord.at(i);
-    superficie += versoEst * (nord.at(i + 1) + nord.at(i)) / 2;
-    estratto_.PerimetroCalcolato += std::sqrt(versoEst * versoEst + versoNord * versoNord);
-    estratto_.DifferenzaEstCalcolata += versoEst;
-  }
-  estratto_.SuperficieCalcolata = std::fabs(superficie);
+  const MisureAnello misure = MisuraAnello(std::span(nord).subspan(1, n + 1), std::span(est).subspan(1, n + 1));
+  estratto_.PerimetroCalcolato = misure.perimetro;
+  estratto_.DifferenzaEstCalcolata = misure.differenzaEst;
+  estratto_.SuperficieCalcolata = misure.superficie;
 }
 
 } // namespace lirmeto

@@ -62,11 +62,6 @@ PuntoGrafica PuntoDaRiga8(std::string_view riga) {
   return punto;
 }
 
-bool TokenDiClasse(std::string_view campo) {
-  constexpr std::string_view classi = "|NC|NT|NP|RC|RT|RP|VC|VT|VP|";
-  return campo.size() == 2 && Contiene(classi, campo);
-}
-
 // Fields of a row 7, the empty one behind its closing bar left out.
 std::vector<std::string_view> CampiRiga7(std::string_view riga) {
   auto campi = Dividi(riga, "|");
@@ -91,7 +86,7 @@ struct Anello {
   void Inizia(const std::vector<std::string_view>& riga) {
     constexpr std::size_t primo = 2;
     constexpr std::size_t quantiChiudono = 3;
-    const bool chiuso = riga.empty() || !TokenDiClasse(riga.back());
+    const bool chiuso = riga.empty() || !CodiceLinea(riga.back());
     const std::size_t fine = chiuso ? riga.size() - std::min(riga.size(), quantiChiudono) : riga.size();
     Accoda(campi, riga, primo, fine);
     Accoda(chiusura, riga, std::max(fine, primo), riga.size());
@@ -107,7 +102,7 @@ public:
   void Campo(std::string_view campo) {
     if (Valore(campo) != 0)
       Vertice(campo);
-    else if (TokenDiClasse(campo))
+    else if (CodiceLinea(campo))
       Token(campo);
   }
 
