@@ -10,6 +10,8 @@ std::span<const FamigliaCli> FamiglieCli() {
       ComandiGenerazione(), //
       ComandiMisurate(),    //
       ComandiPf(),          //
+      ComandiPolilinee(),   //
+      ComandiProposta(),    //
       ComandiEstratto(),    //
       ComandiFoglio(),      //
       ComandiDisegno(),     //

@@ -64,6 +64,9 @@ struct FamigliaCli {
 // Fiducial points: the report of distances, and one point or all of a comune.
 [[nodiscard]] FamigliaCli ComandiMisurate();
 [[nodiscard]] FamigliaCli ComandiPf();
+// Listings and polylines of CAD programs; the rows of an update proposal.
+[[nodiscard]] FamigliaCli ComandiPolilinee();
+[[nodiscard]] FamigliaCli ComandiProposta();
 // A drawing as the texts of other programs.
 [[nodiscard]] FamigliaCli ComandiDisegno();
 // Print models.
