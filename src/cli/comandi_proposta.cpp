@@ -22,9 +22,7 @@ std::string RigheDaElenco(Ambiente& ambiente, std::string_view elenco) {
   DisegnoCondiviso disegno;
   Tipol10 form(ambiente, disegno);
   form.GeneraLibrettoDaList();
-  std::string righe;
-  for (const auto riga : form.List1) righe.append(riga).append(FineRiga);
-  return righe;
+  return RigheUnite(form.List1);
 }
 
 std::string ComandoElenco(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
@@ -44,8 +42,7 @@ std::string RigaPerRiga(Ambiente& ambiente, const std::string& file,
                         std::vector<std::string> (*piega)(std::string_view)) {
   const std::string testo = CaricaFileIntero(ambiente, file);
   std::string uscita;
-  for (const auto riga : RigheDi(testo))
-    for (const auto& pezzo : piega(riga)) uscita.append(pezzo).append(FineRiga);
+  for (const auto riga : RigheDi(testo)) uscita += RigheUnite(piega(riga));
   return uscita;
 }
 

@@ -12,8 +12,8 @@ namespace {
 constexpr std::size_t PrimoNome = 2; // field of a row 7
 constexpr double AreaMassima08 = 20; // square metres
 
-std::vector<VerticePoligono> Vertici(const std::vector<std::string_view>& nomi, const PuntiPerNome& punti) {
-  std::vector<VerticePoligono> vertici;
+std::vector<PuntoPiano> Vertici(const std::vector<std::string_view>& nomi, const PuntiPerNome& punti) {
+  std::vector<PuntoPiano> vertici;
   vertici.reserve(nomi.size());
   for (const auto nome : nomi)
     if (const auto trovato = punti.find(nome); trovato != punti.end()) vertici.push_back(trovato->second);
@@ -25,7 +25,7 @@ void Critica(Ambiente& ambiente, std::string_view testo) {
 }
 
 // The area of the row, with what is to be said about it.
-double AreaContorno(Ambiente& ambiente, const std::vector<VerticePoligono>& vertici) {
+double AreaContorno(Ambiente& ambiente, const std::vector<PuntoPiano>& vertici) {
   if (vertici.size() >= MassimoVerticiPoligono) {
     Critica(ambiente, "Contorno di " + TestoIntero(static_cast<long long>(vertici.size())) +
                           " vertici: l'area non viene calcolata");
@@ -39,7 +39,7 @@ double AreaContorno(Ambiente& ambiente, const std::vector<VerticePoligono>& vert
 
 } // namespace
 
-double AreaPoligono(const std::vector<VerticePoligono>& vertici) {
+double AreaPoligono(const std::vector<PuntoPiano>& vertici) {
   constexpr std::size_t triangolo = 3;
   if (vertici.size() < triangolo) return 0;
   std::vector<double> nord;

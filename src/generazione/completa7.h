@@ -1,9 +1,9 @@
 #pragma once
 // The row 7 of a new contour, closed with its parcel and its area.
 
+#include <base/piano.h>
 #include <core/ambiente.h>
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -11,19 +11,14 @@
 
 namespace lirmeto {
 
-// Most vertices of a contour whose area is computed, the last repeating the first.
+// A contour of so many vertices, the last repeating the first, has no area computed.
 inline constexpr std::size_t MassimoVerticiPoligono = 501;
 
-struct VerticePoligono {
-  double nord = 0; // metres
-  double est = 0;
-};
-
 // Square metres, whatever the direction of travel; the contour closes by itself. 0 below three vertices.
-[[nodiscard]] double AreaPoligono(const std::vector<VerticePoligono>& vertici);
+[[nodiscard]] double AreaPoligono(const std::vector<PuntoPiano>& vertici);
 
 // Points by their names.
-using PuntiPerNome = std::unordered_map<std::string_view, VerticePoligono>;
+using PuntiPerNome = std::unordered_map<std::string_view, PuntoPiano>;
 
 // A row 7 of the new contour as its rows of ten names: every name gets "*", and the first row, behind the code, the
 // parcel with "+", the parcel and the area in whole square metres. A name that is no point adds no vertex.

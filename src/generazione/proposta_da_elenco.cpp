@@ -48,9 +48,7 @@ std::string RigheSegnate(const PolilineaCad& polilinea) {
   const auto nomi = Nomi(polilinea, "*");
   std::string testo;
   AggiungiRiga(testo, polilinea.strato->commento);
-  for (const auto& riga : ComponiRighe7({nomi.begin(), nomi.end()}, polilinea.strato->codice, {}))
-    AggiungiRiga(testo, riga);
-  return testo;
+  return testo += RigheUnite(ComponiRighe7({nomi.begin(), nomi.end()}, polilinea.strato->codice, {}));
 }
 
 // Rows 8 of the vertices, each unlike the one before it.
@@ -76,7 +74,7 @@ PuntiNumerati Numera(const ElencoCad& elenco) {
   for (const PuntoCad& punto : elenco.punti) {
     if (punto.numero <= punti.nomi.size()) continue;
     punti.nomi.push_back(Numero(punto.numero));
-    punti.perNome.emplace(punti.nomi.back(), VerticePoligono{Valore(punto.nord), Valore(punto.est)});
+    punti.perNome.emplace(punti.nomi.back(), PuntoPiano{Valore(punto.est), Valore(punto.nord)});
   }
   return punti;
 }
@@ -85,7 +83,7 @@ PuntiNumerati Numera(const ElencoCad& elenco) {
 void AggiungiAnello(std::string& testo, const PolilineaCad& polilinea, std::size_t numero) {
   const auto nomi = Nomi(polilinea, "%");
   const std::string coda = "X" + Numero(numero) + "|X" + Numero(numero) + "|1|";
-  for (const auto& riga : ComponiRighe7({nomi.begin(), nomi.end()}, "NC", coda)) AggiungiRiga(testo, riga);
+  testo += RigheUnite(ComponiRighe7({nomi.begin(), nomi.end()}, "NC", coda));
 }
 
 // A picture's name on a text that is none: meant so, the extract only has to have a file beside it.
@@ -109,8 +107,7 @@ std::string Tipol10::ComponiProposta(const ElencoCad& elenco) {
       (polilinea.strato->codice == "NC" ? testo : altreLinee) += RigheSegnate(polilinea);
       continue;
     }
-    for (const auto& riga : Genera7Completa(ambiente_, RigaIntera(polilinea), punti.perNome, particella))
-      AggiungiRiga(testo, riga);
+    testo += RigheUnite(Genera7Completa(ambiente_, RigaIntera(polilinea), punti.perNome, particella));
   }
   const ContornoMappale mappale = LeggiContornoMappale(ambiente_);
   return SistemaModestaEntita(SistemaProposta(testo, mappale, altreLinee), mappale);

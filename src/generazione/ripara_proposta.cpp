@@ -230,12 +230,10 @@ public:
   }
 
   std::string Testo() {
-    for (const auto riga : proposta_.punti) AggiungiRiga(testo_, riga);
-    for (const auto riga : proposta_.altre)
-      for (const auto& pezzo : Implodi_Proposta(riga)) AggiungiRiga(testo_, pezzo);
+    testo_ = RigheUnite(proposta_.punti);
+    for (const auto riga : proposta_.altre) testo_ += RigheUnite(Implodi_Proposta(riga));
     for (std::size_t i = 0; i < contorni_.size(); ++i) {
-      if (Anello(contorni_[i]))
-        for (const auto riga : proposta_.contorni[i].righe) AggiungiRiga(testo_, riga);
+      if (Anello(contorni_[i])) testo_ += RigheUnite(proposta_.contorni[i].righe);
       ScriviTratti(contorni_[i].nomi);
     }
     ScriviMappale();
@@ -279,7 +277,7 @@ private:
     Righe nomi = nomiMappale_.nomi;
     for (auto& nome : nomi)
       if (const auto nuovo = nuovi.find(posti_.Di(nome)); nuovo != nuovi.end()) nome = nuovo->second;
-    for (const auto& riga : ComponiRighe7(nomi, "NC", Unisci(nomiMappale_.coda, "|") + "|")) AggiungiRiga(testo_, riga);
+    testo_ += RigheUnite(ComponiRighe7(nomi, "NC", Unisci(nomiMappale_.coda, "|") + "|"));
   }
 
   const RigheProposta& proposta_;
@@ -322,13 +320,10 @@ std::string SistemaProposta(std::string_view testo, const ContornoMappale& mappa
   std::string contorni;
   for (const Contorno& contorno : righe.contorni)
     for (const auto riga : contorno.righe) AggiungiRiga(contorni, ConNomiCambiati(riga, cambi));
-  std::string uscita;
-  for (const auto riga : righe.punti) AggiungiRiga(uscita, riga);
-  uscita += contornoProposta;
+  std::string uscita = RigheUnite(righe.punti).append(contornoProposta);
   for (const auto riga : righe.altre) AggiungiRiga(uscita, ConNomiCambiati(riga, cambi));
   const std::string esplosi = Esplodi_Proposta(contorni);
-  for (const auto riga : RigheDi(esplosi))
-    for (const auto& pezzo : Implodi_Proposta(ConCodici(riga))) AggiungiRiga(uscita, pezzo);
+  for (const auto riga : RigheDi(esplosi)) uscita += RigheUnite(Implodi_Proposta(ConCodici(riga)));
   return uscita;
 }
 

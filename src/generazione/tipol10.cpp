@@ -73,7 +73,7 @@ void Tipol10::Carica() {
   const std::string cartella = CartellaTemp(ambiente_.sessione);
   if (disco.Esiste(FileTesto())) Text1 = disco.Leggi(FileTesto());
   for (const std::string& nome : disco.Elenca(cartella, {})) disco.Elimina(cartella + "\\" + nome);
-  Grafica1.Comincia({});
+  Grafica1.KR_Clear();
   if (ConEstratto()) DisegnaEstratto({});
 }
 
@@ -109,8 +109,7 @@ void Tipol10::Conferma() {
   Sessione& sessione = ambiente_.sessione;
   CreaPercorso(ambiente_, CartellaTemp(sessione));
   ambiente_.disco.Scrivi(FileTesto(), Text1);
-  sessione.PropostaTipologia.clear();
-  for (const auto riga : List1) sessione.PropostaTipologia.append(riga).append(FineRiga);
+  sessione.PropostaTipologia = RigheUnite(List1);
   sessione.EsitoForm = EsitoConfermato;
   Chiusa = true;
 }
@@ -131,7 +130,7 @@ void Tipol10::ButtonPlus2(int indice) {
 void Tipol10::ScegliStrumento(std::string_view strumento) {
   Grafica1.Strumento = strumento;
   Grafica1.NomeNuovoPunto.clear();
-  Grafica1.Passo = 0;
+  Grafica1.LasciaPresa();
 }
 
 void Tipol10::DopoIlClick() {

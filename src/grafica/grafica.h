@@ -93,6 +93,9 @@ public:
   void PuntatoreEntra(std::int16_t host);
   void PuntatoreEsce(std::int16_t host);
 
+  // A tool that takes two picks forgets the first.
+  void LasciaPresa() { mouse_.Lascia(); }
+
   // Index of the nearest point, the first of equal ones, in map coordinates. 0 when all are 100,000 metres away or
   // more.
   [[nodiscard]] std::size_t KR_IlPiuVicinoAlMouse(const PuntoPiano& posto) { return mouse_.PiuVicino(posto); }

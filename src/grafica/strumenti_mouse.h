@@ -55,6 +55,9 @@ public:
   // A click with a tool, whose name is in any case.
   [[nodiscard]] EsitoClic Clicca(const PuntoPiano& daCentro, std::string_view strumento);
 
+  // The first pick is forgotten.
+  void Lascia() { prima_.reset(); }
+
   // Index of the point meant, 0 in an empty store.
   [[nodiscard]] std::size_t PiuVicino(const PuntoPiano& posto);
   // The names of points less than 0.01 metres apart, pair by pair, each followed by a blank.

@@ -106,7 +106,7 @@ INSTANTIATE_TEST_SUITE_P(
     NomeCaso);
 
 struct CasoArea {
-  std::vector<VerticePoligono> vertici;
+  std::vector<PuntoPiano> vertici;
   double attesa;
 };
 

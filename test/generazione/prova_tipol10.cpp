@@ -229,7 +229,7 @@ TEST(Tipol10, ContornoDisegnatoSulEstratto) {
   const VistaGrafica vista = form.disegno.vista;
   const auto prendi = [&](const std::vector<std::pair<double, double>>& posti) {
     for (const auto& [est, nord] : posti)
-      form.form.Grafica1.MouseDown(est - vista.Xc, nord - vista.Yc, TastoMouse::Sinistro);
+      form.form.Grafica1.MouseDown({est - vista.Xc, nord - vista.Yc}, TastoMouse::Sinistro);
   };
   form.form.ButtonPlus2(5);
   prendi({{10, 10}, {110, 110}}); // their middle
@@ -251,8 +251,8 @@ TEST(Tipol10, INomiDeiPuntiNuovi) {
   form.form.Text3 = "5";
   form.form.ButtonPlus2(0);
   EXPECT_EQ(form.form.Grafica1.NomeNuovoPunto + " " + form.form.Text2, "15* 15*");
-  form.form.Grafica1.KR_AggiungiPuntoGraf({"a", 1, 1, 0, 0, "", 0, "", 0});
-  form.form.Grafica1.MouseDown(0, 0, TastoMouse::Sinistro);
+  form.form.Grafica1.KR_AggiungiPuntoGraf({.Nome = "a"});
+  form.form.Grafica1.MouseDown({0, 0}, TastoMouse::Sinistro);
   form.form.DopoIlClick();
   EXPECT_EQ(form.form.Grafica1.NomeNuovoPunto + " " + form.form.Text2, "20* 20*");
   form.form.ButtonPlus2(3);
