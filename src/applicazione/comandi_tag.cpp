@@ -6,6 +6,7 @@
 #include <core/apertura.h>
 #include <core/mostra_errore.h>
 #include <core/servizi.h>
+#include <core/zero_nove.h>
 #include <estratti/copia_estratto.h>
 #include <fiduciali/misurate.h>
 #include <generazione/misurate_disegno.h>
@@ -94,6 +95,12 @@ DopoComando LibrettoDaDisegno(Ambiente& ambiente) {
   return DopoComando::FinestraPrincipale;
 }
 
+// The comune chosen there is the viewer's: the session keeps that of row 0.
+DopoComando GestionePf(Ambiente& ambiente) {
+  if (ApriForm(ambiente, forma::ElcoPf)) DecoZeroNove(ambiente);
+  return DopoComando::Finisce;
+}
+
 struct ComandoConosciuto {
   std::string_view nome;
   DopoComando (*esegui)(Ambiente& ambiente);
@@ -114,6 +121,7 @@ constexpr std::array Conosciuti = {
                         CalcolaMisuratePF(ambiente);
                         return DopoComando::Finisce;
                       }},
+    ComandoConosciuto{"GESTIONE_PF", &GestionePf},
     ComandoConosciuto{"DA_PREGEO", [](Ambiente& ambiente) { return ApriDaPregeo(ambiente, 0); }},
     ComandoConosciuto{"DA_PREGEO_DXF", [](Ambiente& ambiente) { return ApriDaPregeo(ambiente, 1); }},
     ComandoConosciuto{"IMPORT-INST_TAF-MISURATE",

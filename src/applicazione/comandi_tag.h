@@ -19,8 +19,8 @@ enum class DopoComando { Finisce, FinestraPrincipale };
 [[nodiscard]] DopoComando ComandoTag1(Ambiente& ambiente);
 
 // Runs the command that ComandoTag names; any other text does nothing. One whose work is still to come says so.
-//   LIBRETTO_DA_DISEGNO, CONFIGURA_PREGEO, SELEZIONA_MISURATE, MISURATE_DA1_PF, INFO_MISURATE, DA_PREGEO,
-//   DA_PREGEO_DXF, IMPORT-INST_TAF-MISURATE
+//   LIBRETTO_DA_DISEGNO, CONFIGURA_PREGEO, SELEZIONA_MISURATE, MISURATE_DA1_PF, INFO_MISURATE, GESTIONE_PF,
+//   DA_PREGEO, DA_PREGEO_DXF, IMPORT-INST_TAF-MISURATE
 // The answer is whether the command wants the main window behind it.
 DopoComando EseguiComandoTag(Ambiente& ambiente);
 

@@ -2,6 +2,7 @@
 
 #include <estratti/completa_autoallestito.h>
 #include <estratti/estratti_di_mappa.h>
+#include <fiduciali/elco_pf.h>
 #include <fiduciali/importa_fiduciali.h>
 #include <fiduciali/seleziona_misurate.h>
 #include <generazione/libretto_da_disegno.h>
@@ -63,6 +64,7 @@ constexpr std::array ElencoForme = {
     Forma{forma::EstrattiDiMappa, &ApriEstrattiDiMappa},
     Forma{forma::CompletaAutoallestito, &ApriCompletaAutoallestito},
     Forma{forma::SelezionaMisurate, &Apri<KR_SelezionaMisurate>},
+    Forma{forma::ElcoPf, &Apri<KR_ElcoPf>},
 };
 
 } // namespace

@@ -21,6 +21,7 @@ inline constexpr std::string_view Disegno = "FormDisegno";
 inline constexpr std::string_view CodFis = "KR_CodFis";
 inline constexpr std::string_view Comuni8 = "KR_Comuni8";
 inline constexpr std::string_view ArchivioPossessori = "ArchivioPossessori";
+inline constexpr std::string_view ElcoPf = "KR_ElcoPf";
 inline constexpr std::string_view SelezionaMisurate = "KR_SelezionaMisurate";
 } // namespace forma
 

@@ -3,6 +3,8 @@
 #include <base/errore.h>
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <fiduciali/elco_pf_file.h>
+#include <fiduciali/misurate.h>
 #include <fiduciali/misurate_pf.h>
 #include <fiduciali/taf.h>
 #include <generazione/misurate_disegno.h>
@@ -31,6 +33,32 @@ std::string ComandoPf(Ambiente& ambiente, const std::vector<std::string>& argome
   return AUtf8("north=" + trovato->nord + "\neast=" + trovato->est + "\n");
 }
 
+// The points of a comune by its code; without a TAF there are none to show.
+TabellaPF Tabella(Ambiente& ambiente, const std::string& comune) {
+  constexpr std::size_t provincia = 2; // letters in front of the name of its archive
+  const std::string codice = Maiuscolo(Taglia(comune));
+  const std::string percorso = PercorsoTafDelComune(ambiente.sessione, codice);
+  if (percorso.empty() || !ambiente.disco.Esiste(percorso))
+    throw Errore(errore::FileNonTrovato, "Manca la TAF del comune \"" + comune + "\"");
+  TabellaPF tabella{codice, codice, TrovaArchivioMisurate(ambiente, codice).substr(0, provincia), {}};
+  CaricaPunti(ambiente, tabella);
+  return tabella;
+}
+
+std::string ComandoPfElenco(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
+  return TestoTabella(Tabella(ambiente, argomenti[0]));
+}
+
+// With the distances measured, where the archive of the province is there.
+std::string ComandoPfDxf(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
+  constexpr int misurate = 6;
+  const TabellaPF tabella = Tabella(ambiente, argomenti[0]);
+  KR_ElcoPFGrafica form(ambiente, tabella);
+  form.AlCaricamento();
+  form.Esegui(misurate);
+  return TestoDxfPF(form.Punti, form.Segmenti);
+}
+
 constexpr ArgomentoCli ArgomentiMisurate[] = {
     {"FILE", GenereArgomento::File, "libretto, o disegno .LXC"},
     {"--disegno", GenereArgomento::Bandiera, "FILE è un disegno: le distanze sono quelle fra i suoi punti"}};
@@ -38,6 +66,13 @@ constexpr ArgomentoCli ArgomentiPf[] = {{"NOME", GenereArgomento::Testo, "come P
 
 constexpr std::array<ComandoCli, 1> Misurate = {{
     {"misurate", "le distanze fra i punti fiduciali a confronto con gli archivi", ArgomentiMisurate, ComandoMisurate},
+}};
+
+constexpr ArgomentoCli UnComune[] = {{"COMUNE", GenereArgomento::Testo, "codice del comune, come G224"}};
+
+constexpr std::array<ComandoCli, 2> DelComune = {{
+    {"elenco", "la tabella dei punti di un comune, una riga per punto", UnComune, ComandoPfElenco},
+    {"dxf", "i punti di un comune e le distanze misurate come DXF", UnComune, ComandoPfDxf},
 }};
 
 constexpr ComandoCli UnPunto = {"", "le coordinate di un punto fiduciale", ArgomentiPf, ComandoPf};
@@ -49,7 +84,7 @@ FamigliaCli ComandiMisurate() {
 }
 
 FamigliaCli ComandiPf() {
-  return {"pf", "le coordinate di un punto fiduciale, o tutti quelli di un comune", {}, &UnPunto};
+  return {"pf", "le coordinate di un punto fiduciale, o tutti quelli di un comune", DelComune, &UnPunto};
 }
 
 } // namespace lirmeto

@@ -138,6 +138,7 @@ struct Sessione {
 inline constexpr int ModoEditorLibretto = 381;
 inline constexpr int ModoEditorStampa = 382;
 inline constexpr int ModoEditorCensuario = 383;
+inline constexpr int ModoEditorRaggio = 601; // what Imputa asks for: the radius round a click
 inline constexpr std::int16_t EsitoConfermato = 1;
 inline constexpr std::int16_t EsitoAnnullato = -1;
 

@@ -31,15 +31,16 @@ inline constexpr std::int16_t Punteggiato = 2;
 } // namespace stile
 
 struct PuntoGrafica {
-  std::string Nome;        // its last or first character gives the class: "…T" a toponym, " …" a free name
-  double X = 0;            // east, metres
-  double Y = 0;            // north, metres
-  double Z = 0;            // height, metres
-  std::int16_t Colore = 0; // 0 to 15
-  std::string Testo;       // of a toponym
-  double Angolo = 0;       // degrees, counterclockwise
-  std::string Font;        // face name
-  double Dimensione = 0;   // text size, points
+  std::string Nome;             // its last or first character gives the class: "…T" a toponym, " …" a free name
+  double X = 0;                 // east, metres
+  double Y = 0;                 // north, metres
+  double Z = 0;                 // height, metres
+  std::int16_t Colore = 0;      // 0 to 15
+  std::string Testo;            // of a toponym
+  double Angolo = 0;            // degrees, counterclockwise
+  std::string Font;             // face name
+  double Dimensione = 0;        // text size, points
+  std::int16_t ColoreNome = -1; // of the name where it is not the mark's; below 0: the same
   [[nodiscard]] PuntoPiano Posto() const { return {X, Y}; }
   bool operator==(const PuntoGrafica&) const = default;
 };

@@ -1,4 +1,5 @@
 #include <grafica/esportazioni.h>
+#include <grafica/scrittore_dxf.h>
 
 #include <base/errore.h>
 #include <base/numeri.h>
@@ -15,36 +16,6 @@ constexpr std::array<std::string_view, 12> Strati = {"LINEE_SCHEMA", "LINEE_TRIA
                                                      "LINEE_RT",     "LINEE_RP",        "LINEE_NC",       "LINEE_NP",
                                                      "LINEE_NT",     "PUNTI_Q",         "PUNTI_D",        "PUNTI_HPS"};
 
-// Group codes and their values, a line each.
-class ScrittoreDxf {
-public:
-  explicit ScrittoreDxf(std::size_t byte) { testo_.reserve(byte); }
-
-  void Riga(std::string_view testo) {
-    testo_ += testo;
-    testo_ += FineRiga;
-  }
-  void Gruppo(std::string_view codice, std::string_view valore) {
-    Riga(codice);
-    Riga(valore);
-  }
-  void Entita(std::string_view genere, std::string_view strato) {
-    Gruppo(" 0", genere);
-    Gruppo(" 8", strato);
-  }
-  void Numero(std::string_view codice, double valore) { Gruppo(codice, TestoPieno(valore)); }
-  void Colore(const std::int16_t colore) { Gruppo(" 62", TestoIntero(colore)); }
-  void Posto(double x, double y) {
-    Numero(" 10", x);
-    Numero(" 20", y);
-  }
-
-  [[nodiscard]] std::string Prendi() { return std::move(testo_); }
-
-private:
-  std::string testo_;
-};
-
 void ScriviStrati(ScrittoreDxf& dxf, const PuntoGrafica& primo) {
   for (const auto strato : Strati) {
     dxf.Entita("POINT", strato);
@@ -59,16 +30,14 @@ void ScriviPunto(ScrittoreDxf& dxf, const PuntoGrafica& punto) {
   dxf.Entita("TEXT", "PUNTI_N");
   dxf.Posto(punto.X, punto.Y);
   dxf.Colore(punto.Colore);
-  dxf.Gruppo(" 40", "1");
-  dxf.Gruppo(" 1", Taglia(SuUnaRiga(punto.Nome)));
+  dxf.Nome(punto.Nome);
 }
 
 void ScriviLinea(ScrittoreDxf& dxf, const LineaGrafica& linea, std::string_view strato) {
   dxf.Entita("LINE", strato);
   dxf.Colore(linea.Colore);
   dxf.Posto(linea.X1, linea.Y1);
-  dxf.Numero(" 11", linea.X2);
-  dxf.Numero(" 21", linea.Y2);
+  dxf.Fine(linea.X2, linea.Y2);
 }
 
 } // namespace
@@ -90,8 +59,7 @@ std::string TestoDXF(const ArchivioGrafica& archivio, bool nomiSpenti) {
   constexpr std::size_t bytePunto = 200;
   constexpr std::size_t byteLinea = 140;
   ScrittoreDxf dxf((archivio.Punti().size() + Strati.size()) * bytePunto + archivio.Linee().size() * byteLinea);
-  dxf.Gruppo(" 0", "SECTION");
-  dxf.Gruppo(" 2", "ENTITIES");
+  dxf.ApriEntita();
   ScriviStrati(dxf, archivio.Punti().front());
   for (const PuntoGrafica& punto : archivio.Punti())
     if (nomiSpenti || punto.Nome.starts_with(' ')) ScriviPunto(dxf, punto);

@@ -65,7 +65,7 @@ void Grafica::KR_RidisegnaGrafica() {
 }
 
 Operazioni Grafica::Dipingi(double rapporto) {
-  disegno_.vista.Rapporto = rapporto;
+  disegno_.vista.MettiRapporto(rapporto);
   disegno_.vista.MettiAltezza();
   return ComponiOperazioni(Archivio(), disegno_.vista);
 }
@@ -112,6 +112,7 @@ void Grafica::AggiungiPuntoNuovo(const PuntoPiano& posto) {
 
 void Grafica::PuntatoreEntra(std::int16_t host) {
   ambiente_.sessione.HostGrafica = host;
+  if (Rotella) return disegno_.gancio.Installa(Rotella);
   disegno_.gancio.Installa([this](bool avanti) { avanti ? KR_ZoomPiu() : KR_ZoomMeno(); });
 }
 

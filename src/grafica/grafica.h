@@ -49,6 +49,8 @@ public:
   std::optional<LineaGrafica> Evidenza;
   // The surface it is shown on, if any; it must take itself away before it goes.
   SuperficieGrafica* Picture1 = nullptr;
+  // What a step of the wheel does where the form has a zoom of its own, forward or back.
+  std::function<void(bool avanti)> Rotella;
 
   [[nodiscard]] const ArchivioGrafica& Archivio() const { return disegno_.archivio; }
   [[nodiscard]] VistaGrafica& Vista() { return disegno_.vista; }

@@ -47,12 +47,12 @@ private:
   }
 
   void Cerchi() {
-    constexpr double partiDellaVista = 400; // the radius is this part of the view's height
+    constexpr double partiDellaVista = 400; // the radius is this part of the view's height, or of its width
+    const double raggio = (vista_.PerLarghezza ? vista_.Larghezza() : vista_.Zoom) / partiDellaVista;
     lista_.cerchi.reserve(archivio_.Punti().size());
     for (const PuntoGrafica& punto : archivio_.Punti())
       if (Dentro(punto) && !Libero(punto) && !Toponimo(punto))
-        lista_.cerchi.push_back(
-            {punto.X - vista_.Xc, punto.Y - vista_.Yc, vista_.Zoom / partiDellaVista, punto.Colore});
+        lista_.cerchi.push_back({punto.X - vista_.Xc, punto.Y - vista_.Yc, raggio, punto.Colore});
   }
 
   void Testi() {
@@ -69,7 +69,7 @@ private:
 
   void Testo(const PuntoGrafica& punto, std::string_view testo) {
     lista_.testi.push_back({punto.X - vista_.Xc, punto.Y - vista_.Yc, testo, punto.Font, punto.Dimensione,
-                            DecimiDiGrado(punto.Angolo), punto.Colore});
+                            DecimiDiGrado(punto.Angolo), punto.ColoreNome < 0 ? punto.Colore : punto.ColoreNome});
   }
 
   const ArchivioGrafica& archivio_;

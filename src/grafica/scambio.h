@@ -13,8 +13,9 @@ namespace lirmeto {
 //   "L",X1,Y1,Z1,X2,Y2,Z2,colour,style + 1,layer
 class ScrittoreScambio {
 public:
-  void Punto(const PuntoGrafica& punto);
+  void Punto(const PuntoGrafica& punto, std::string_view strato = "PUNTI");
   void Linea(const LineaGrafica& linea);
+  void Linea(const LineaGrafica& linea, std::string_view strato);
   [[nodiscard]] const std::string& Testo() const { return testo_; }
 
 private:

@@ -25,8 +25,8 @@ constexpr std::array<FlagSalvato, 4> Flag = {{{"PROPOSTASINO", &VistaGrafica::Ch
                                               {"TOPONIMISINO", &VistaGrafica::Check3},
                                               {"PFSINO", &VistaGrafica::Check4}}};
 
-constexpr double Margine = 3;           // metres on each side of the extent
-constexpr double AltezzaIniziale = 640; // metres, of a view that has no height
+constexpr double Margine = 3;          // metres on each side of the extent
+constexpr double MisuraIniziale = 640; // metres, of a view that has no height, or no width
 
 } // namespace
 
@@ -64,8 +64,13 @@ void VistaGrafica::Sposta(const PuntoPiano& quota) {
   Yc += Zoom * quota.nord;
 }
 
+void VistaGrafica::MettiRapporto(double rapporto) {
+  if (PerLarghezza) Zoom *= Rapporto / rapporto;
+  Rapporto = rapporto;
+}
+
 void VistaGrafica::MettiAltezza() {
-  if (!(Zoom > 0) || std::isinf(Zoom)) Zoom = AltezzaIniziale;
+  if (!(Zoom > 0) || std::isinf(Zoom)) Zoom = MisuraIniziale / (PerLarghezza ? Rapporto : 1);
 }
 
 void LeggiFlag(const Impostazioni& impostazioni, VistaGrafica& vista) {

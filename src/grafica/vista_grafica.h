@@ -20,6 +20,8 @@ struct VistaGrafica {
   double Yc = 0;
   double Zoom = 0;     // height of the view
   double Rapporto = 1; // width over height of the surface
+  // The width, and not the height, is what stays when the surface changes its shape, and what marks are a share of.
+  bool PerLarghezza = false;
   // Display flags, kept per user under "CONFIGURA_GRAFICA1".
   bool Check1 = false; // PROPOSTASINO: the updated extract is painted over the original one
   bool Check2 = false; // NOMISINO: the names of points are not painted
@@ -33,7 +35,10 @@ struct VistaGrafica {
   void Inquadra(const ArchivioGrafica& archivio);
   // Moves the centre by such a share of the height.
   void Sposta(const PuntoPiano& quota);
-  // A view that has no height gets one.
+  // The shape of the surface.
+  void MettiRapporto(double rapporto);
+  [[nodiscard]] double Larghezza() const { return Zoom * Rapporto; }
+  // A view that has no height, or no width where that is what it keeps, gets one.
   void MettiAltezza();
 };
 

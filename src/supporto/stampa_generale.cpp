@@ -249,4 +249,12 @@ void MostraStampaGenerale(Ambiente& ambiente, ListaRighe righe, const std::strin
   ambiente.sessione.NomeBaseStampa.clear();
 }
 
+void StampaConFile(Ambiente& ambiente, ListaRighe righe, std::string_view csv, const std::string& nomeBase) {
+  std::string testo;
+  for (const auto riga : righe) testo.append(riga).append(FineRiga);
+  ambiente.disco.Scrivi(nomeBase + ".CSV", csv);
+  ambiente.disco.Scrivi(nomeBase + ".TXT", testo);
+  MostraStampaGenerale(ambiente, std::move(righe), nomeBase);
+}
+
 } // namespace lirmeto

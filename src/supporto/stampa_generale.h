@@ -89,4 +89,7 @@ private:
 // Shows a report. `nomeBase` is the path, without extension, of its .TXT and .CSV files, empty where it has none.
 void MostraStampaGenerale(Ambiente& ambiente, ListaRighe righe, const std::string& nomeBase = {});
 
+// Writes a report's .TXT file, its lines, and the .CSV file that goes with it, and shows it.
+void StampaConFile(Ambiente& ambiente, ListaRighe righe, std::string_view csv, const std::string& nomeBase);
+
 } // namespace lirmeto

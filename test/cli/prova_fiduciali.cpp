@@ -41,7 +41,12 @@ TEST_F(ProvaFiduciali, UnPuntoOUnComune) {
   for (const CasoPf& caso :
        {CasoPf{{"pf", "PF01/0010/G224"}, 0, "north=10.500\neast=-20.25\n"},
         CasoPf{{"pf", "PF09/0010/G224"}, 1, "Punto fiduciale non trovato"},
-        CasoPf{{"pf"}, 2, "Manca il NOME del comando pf."}, CasoPf{{"pf", "PF01/0010/G224", "altro"}, 2, "altro"}}) {
+        CasoPf{{"pf"}, 2, "Manca il NOME del comando pf."}, CasoPf{{"pf", "PF01/0010/G224", "altro"}, 2, "altro"},
+        CasoPf{{"pf", "elenco", "g224"}, 0, "PF01/0010/G224\t\t09\t10.500\t-20.25\t\t\t\t\t\r\n"},
+        CasoPf{{"pf", "dxf", "G224"}, 0, " 8\r\nPunti\r\n 10\r\n-20.25\r\n 20\r\n10.5\r\n"},
+        CasoPf{{"pf", "elenco"}, 2, "Manca il COMUNE del comando pf elenco."},
+        CasoPf{{"pf", "dxf", "L736"}, 1, "Manca la TAF del comune \"L736\""},
+        CasoPf{{"pf", "dxf", "..\\X"}, 1, "Manca la TAF"}}) {
     const Esito esito = Lancia(caso.parole);
     EXPECT_EQ(esito.codice, caso.codice) << caso.detto;
     EXPECT_NE((esito.uscita + esito.errori).find(caso.detto), std::string::npos) << esito.uscita << esito.errori;

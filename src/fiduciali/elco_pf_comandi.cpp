@@ -1,0 +1,135 @@
+// The commands of the plane of the fiducial points, and what they write.
+
+#include <fiduciali/elco_pf_grafica.h>
+
+#include <fiduciali/elco_pf_file.h>
+
+#include <base/testo.h>
+#include <core/mostra_errore.h>
+#include <supporto/stampa_generale.h>
+
+#include <array>
+
+namespace lirmeto {
+
+namespace {
+
+constexpr double Passo = 0.2; // of the width, by which the view moves
+
+constexpr std::array<VocePF, 15> Voci = {{
+    {5, "zoom_tutto", "Tutto", "Mostra tutti i punti"},
+    {3, "zoom_piu", "Ingrandisci", "Ingrandisce (rotella avanti)"},
+    {4, "zoom_meno", "Riduci", "Riduce (rotella indietro)"},
+    {1, "sinistra", "Sinistra", "Sposta la vista a sinistra"},
+    {2, "destra", "Destra", "Sposta la vista a destra"},
+    {11, "zoom_finestra", "Finestra", "Ingrandisce il riquadro che si traccia"},
+    {9, "ridisegna", "Ridisegna", "Ridisegna i punti"},
+    {6, "misurate", "Misurate", "Disegna le distanze misurate della provincia"},
+    {13, "estratti", "Estratto", "Aggiunge i punti fiduciali di un estratto di mappa"},
+    {12, "copia", "Copia", "Copia l'immagine negli appunti"},
+    {7, "scambio", "Nel disegno", "Copia i punti nel disegno e chiude il visualizzatore"},
+    {8, "elenco", "Stampa punti", "Stampa i punti selezionati"},
+    {14, "dxf", "DXF", "Salva i punti in DXF"},
+    {15, "stampa", "Stampa", "Stampa il disegno"},
+    {0, "chiudi", "Chiudi", "Chiude il disegno dei punti"},
+}};
+
+constexpr std::array<VoceSelezionePF, 7> VociSelezione = {{
+    {SelezionePF::Tutti, "Tutti", "Seleziona tutti i punti"},
+    {SelezionePF::Nessuno, "Nessuno", "Toglie la selezione"},
+    {SelezionePF::Inverti, "Inverti", "Inverte la selezione"},
+    {SelezionePF::Foglio, "Foglio", "Seleziona i punti del foglio su cui si fa clic"},
+    {SelezionePF::Intorno, "Intorno", "Seleziona i punti intorno a un clic, entro un raggio"},
+    {SelezionePF::GaussBoaga, "Gauss-Boaga", "Seleziona i punti in coordinate Gauss-Boaga"},
+    {SelezionePF::FuoriUso, "Fuori uso", "Seleziona i punti non utilizzabili secondo la descrizione"},
+}};
+
+} // namespace
+
+std::span<const VocePF> VociElcoPF() {
+  return Voci;
+}
+
+std::span<const VoceSelezionePF> VociSelezionePF() {
+  return VociSelezione;
+}
+
+void KR_ElcoPFGrafica::Esegui(int indice) {
+  ambiente_.sessione.PuntoErrore = "KR_ElcoPFGrafica";
+  (void)Intrappola(ambiente_, [&] { EsegueComando(indice); });
+}
+
+void KR_ElcoPFGrafica::EsegueComando(int indice) {
+  switch (indice) {
+  case 0:
+    Chiusa = true;
+    return;
+  case 1:
+    return Sposta(-Passo);
+  case 2:
+    return Sposta(Passo);
+  case 3:
+    return subZoomElcoPF(1);
+  case 4:
+    return subZoomElcoPF(2);
+  case 5:
+    return ZoomTutto();
+  case 6:
+    return MettiDistanzeMisurate(ArchivioDellaProvincia());
+  case 7:
+    CopiaInFilePF();
+    Chiusa = TuttoChiuso = true;
+    return;
+  case 8:
+    return Stampa();
+  case 9:
+  case 10:
+    return RiDisegnaPF();
+  case 11:
+    return Arma(StrumentoPF::ZoomFinestra);
+  case 12:
+    return CopiaSchermo();
+  case 13:
+    return AssociamiEstratto();
+  case 14:
+    return ElcoPF_SalvaDXF();
+  case 15:
+    return AnteprimaStampapf();
+  default:
+    return;
+  }
+}
+
+void KR_ElcoPFGrafica::CopiaSchermo() {
+  if (grafica_.Picture1 == nullptr) return;
+  grafica_.Picture1->CopiaRaster();
+  ambiente_.dialoghi.Messaggio("Contenuto Schermo copiato negli Appunti!", "Copia Schermo");
+}
+
+void KR_ElcoPFGrafica::Stampa() {
+  StampaConFile(ambiente_, RigheStampaPF(Punti, tabella_), TestoStampaPF(Punti, tabella_),
+                ambiente_.sessione.CartellaProgramma + "\\temp\\Stampa_Fiduciali");
+}
+
+// The order to the sibling program is spelled as that program reads it.
+void KR_ElcoPFGrafica::CopiaInFilePF() {
+  const std::string cartella = ambiente_.sessione.CartellaDocumenti + "\\Forvale\\TEMP\\";
+  ambiente_.disco.Scrivi(cartella + "CopiaInFile.txt", TestoScambioPF(Punti, Segmenti));
+  ambiente_.disco.Scrivi(cartella + "EseguiIncollaDaFile.TXT", "EseguiIncolaDaFile" + std::string(FineRiga));
+  ambiente_.dialoghi.Messaggio("PF copiati!", "Copia PF in Disegno");
+}
+
+void KR_ElcoPFGrafica::ElcoPF_SalvaDXF() {
+  const std::string file = ambiente_.sessione.CartellaProgramma + "\\GraficaPF.DXF";
+  ambiente_.disco.Scrivi(file, TestoDxfPF(Punti, Segmenti));
+  ambiente_.dialoghi.Messaggio("Salvato il file " + file, "Salva in DXF");
+  if (ambiente_.dialoghi.Chiedi("Aprire il file DXF ?", "Apertura file DXF ", Bottoni::SiNo) == Risposta::Si)
+    ambiente_.processi.ApriDocumento(file);
+}
+
+void KR_ElcoPFGrafica::AnteprimaStampapf() {
+  constexpr int stampaConProgramma = 5; // of the drawing's toolbar
+  grafica_.Toolbar(stampaConProgramma);
+}
+
+} // namespace lirmeto
