@@ -1,0 +1,163 @@
+#include <verifiche/atto.h>
+
+#include <base/numeri.h>
+#include <base/testo.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace lirmeto {
+
+namespace {
+
+constexpr std::size_t Colonne = 70;
+constexpr std::array<std::size_t, 13> Barre = {2, 4, 10, 14, 17, 23, 33, 36, 39, 45, 49, 52, 70}; // from 1
+constexpr std::string_view Intestazione = "6|Dati per aggiornare il D.B. Censuario dell'Ufficio Tecnico Erariale|";
+constexpr double SenzaClasse = 200; // from this code on a quality has no class
+
+// Fields of a data row, by their place between the bars.
+namespace campo {
+constexpr std::size_t Operazione = 1;
+constexpr std::size_t Particella = 2;
+constexpr std::size_t Lettera = 4;
+constexpr std::size_t Temporaneo = 5;
+constexpr std::size_t Area = 6;
+constexpr std::size_t Qualita = 10;
+constexpr std::size_t Classe = 11;
+} // namespace campo
+
+bool RigaConteggio(std::string_view riga) {
+  return riga.starts_with("6|51FTP|") || riga.starts_with("6|3SPC |") || riga.starts_with("6|M31FU|");
+}
+
+struct SezioneCensuaria {
+  std::size_t riga = 0; // of its count row
+  std::string nome;
+  std::size_t dichiarate = 0;
+  std::vector<std::size_t> righe; // of its data
+};
+
+class Censuario {
+public:
+  Censuario(const Atto& atto, Raccolta& raccolta) : atto_(atto), raccolta_(raccolta) {
+    if (atto.intorno.qualita == nullptr) return;
+    for (const std::string& voce : *atto.intorno.qualita) qualita_.insert(std::string_view(voce).substr(0, 3));
+  }
+
+  void Verifica() {
+    for (std::size_t i = 0; i < atto_.righe.Quante(); ++i)
+      if (atto_.righe[i].forma == Forma::Censuario && atto_.righe[i].sezione == Sezione::Misure) Riga(i);
+    for (const SezioneCensuaria& sezione : sezioni_) VerificaSezione(sezione);
+  }
+
+private:
+  [[nodiscard]] std::string_view Campo(std::size_t riga, std::size_t indice) const {
+    return Taglia(Parte(atto_.righe.Testo(riga), '|', indice));
+  }
+
+  void Riga(std::size_t i) {
+    const std::string_view riga = atto_.righe.Testo(i);
+    if (riga.size() != Colonne)
+      return raccolta_.Riga(RegolaDi("M001"), i, 0, {TestoIntero(static_cast<long long>(riga.size()))});
+    if (riga == Intestazione) return;
+    if (RigaConteggio(riga)) {
+      const double conta = std::max(0.0, Valore(Campo(i, 2)));
+      sezioni_.push_back({i, std::string(Campo(i, 1)), static_cast<std::size_t>(conta), {}});
+      return;
+    }
+    Dati(i);
+  }
+
+  void Dati(std::size_t i) {
+    const std::string_view riga = atto_.righe.Testo(i);
+    const auto storta = std::find_if(Barre.begin(), Barre.end(), [&](std::size_t c) { return riga[c - 1] != '|'; });
+    if (sezioni_.empty()) raccolta_.Riga(RegolaDi("M011"), i, 0);
+    if (!sezioni_.empty()) sezioni_.back().righe.push_back(i);
+    if (storta != Barre.end())
+      return raccolta_.Riga(RegolaDi("M002"), i, 0, {TestoIntero(static_cast<long long>(*storta))});
+    VerificaQualita(i);
+    if (Campo(i, campo::Operazione) == "C") VerificaCostituita(i);
+    if (Campo(i, campo::Operazione) == "O") VerificaOriginaria(i);
+  }
+
+  void VerificaQualita(std::size_t i) {
+    const std::string_view codice = Campo(i, campo::Qualita);
+    if (codice.empty() || codice == "000") return;
+    if (!qualita_.empty() && !qualita_.contains(codice)) raccolta_.Riga(RegolaDi("M007"), i, campo::Qualita, {codice});
+    if (Valore(codice) >= SenzaClasse && !Campo(i, campo::Classe).empty())
+      raccolta_.Riga(RegolaDi("M008"), i, campo::Classe, {codice});
+  }
+
+  void VerificaCostituita(std::size_t i) {
+    const std::string_view nome = Campo(i, campo::Temporaneo);
+    if (!nome.empty() && !temporanei_.insert(nome).second)
+      raccolta_.Riga(RegolaDi("M010"), i, campo::Temporaneo, {nome});
+    const std::string_view lettera = Campo(i, campo::Lettera);
+    if (lettera.size() != 1) return;
+    if (lettera.front() != attesa_) raccolta_.Riga(RegolaDi("M005"), i, campo::Lettera, {lettera});
+    attesa_ = static_cast<char>(lettera.front() + 1);
+  }
+
+  void VerificaOriginaria(std::size_t i) {
+    const auto& estratto = atto_.intorno.estratto;
+    const std::string_view nome = Campo(i, campo::Particella);
+    if (estratto && estratto->intestato && !estratto->HaParticella(nome))
+      raccolta_.Riga(RegolaDi("M009"), i, campo::Particella, {nome});
+  }
+
+  void VerificaSezione(const SezioneCensuaria& sezione) {
+    if (sezione.dichiarate != sezione.righe.size()) {
+      const std::string giuste = Formatta(static_cast<double>(sezione.righe.size()), "000");
+      std::string rimedio(atto_.righe.Testo(sezione.riga));
+      constexpr std::size_t conteggio = 8; // columns 9 to 11
+      if (giuste.size() == 3) rimedio.replace(conteggio, giuste.size(), giuste);
+      raccolta_.Riga(RegolaDi("M003"), sezione.riga, 2,
+                     {sezione.nome, TestoIntero(static_cast<long long>(sezione.dichiarate)),
+                      TestoIntero(static_cast<long long>(sezione.righe.size()))},
+                     giuste.size() == 3 ? rimedio : std::string{});
+    }
+    VerificaRisposte(sezione);
+    VerificaAree(sezione);
+  }
+
+  void VerificaRisposte(const SezioneCensuaria& sezione) {
+    std::unordered_set<std::string_view> risposte;
+    for (const std::size_t i : sezione.righe)
+      if (Campo(i, campo::Operazione) == "S" || Campo(i, campo::Operazione) == "V")
+        risposte.insert(Campo(i, campo::Particella));
+    for (const std::size_t i : sezione.righe)
+      if (Campo(i, campo::Operazione) == "O" && !risposte.contains(Campo(i, campo::Particella)))
+        raccolta_.Riga(RegolaDi("M006"), i, campo::Particella, {Campo(i, campo::Particella)});
+  }
+
+  void VerificaAree(const SezioneCensuaria& sezione) {
+    double originarie = 0;
+    double nuove = 0;
+    for (const std::size_t i : sezione.righe) {
+      const std::string_view operazione = Campo(i, campo::Operazione);
+      if (operazione == "O") originarie += Valore(Campo(i, campo::Area));
+      if (operazione == "C" || operazione == "V") nuove += Valore(Campo(i, campo::Area));
+    }
+    if (nuove > 0 && nuove != originarie)
+      raccolta_.Riga(RegolaDi("M004"), sezione.riga, 0,
+                     {sezione.nome, Formatta(nuove, "0"), Formatta(originarie, "0")});
+  }
+
+  const Atto& atto_;
+  Raccolta& raccolta_;
+  std::unordered_set<std::string_view> qualita_; // codes
+  std::unordered_set<std::string_view> temporanei_;
+  std::vector<SezioneCensuaria> sezioni_;
+  char attesa_ = 'a'; // the next letter: they go on from one section to the next
+};
+
+} // namespace
+
+void VerificaCensuario(const Atto& atto, Raccolta& raccolta) {
+  Censuario(atto, raccolta).Verifica();
+}
+
+} // namespace lirmeto

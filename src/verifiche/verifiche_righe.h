@@ -1,0 +1,23 @@
+#pragma once
+// The checks of a row by itself.
+
+#include <verifiche/riga_letta.h>
+#include <verifiche/segnalazione.h>
+
+#include <string_view>
+
+namespace lirmeto {
+
+struct RigaDaVerificare {
+  std::string_view riga;
+  const Campi& campi;
+  const RigaLetta& letta;
+};
+
+// Findings about "row 0": the caller knows where the row stands.
+void VerificaRiga(const RigaDaVerificare& riga, Raccolta& raccolta);
+
+// The row with another text in one field.
+[[nodiscard]] std::string ConCampo(std::string_view riga, std::size_t campo, std::string_view testo);
+
+} // namespace lirmeto
