@@ -7,6 +7,7 @@ namespace lirmeto {
 std::span<const FamigliaCli> FamiglieCli() {
   static const std::array famiglie = {
       ComandiLibretto(),    //
+      ComandiVerifiche(),   //
       ComandiGenerazione(), //
       ComandiMisurate(),    //
       ComandiPf(),          //

@@ -37,6 +37,8 @@ struct ComandoCli {
   std::span<const ArgomentoCli> argomenti;
   // Takes the arguments in order.
   std::string (*esegui)(Ambiente& ambiente, const std::vector<std::string>& argomenti);
+  // Exit code that goes with a result; none: 0.
+  int (*codice)(std::string_view risultato) = nullptr;
 };
 
 struct FamigliaCli {
@@ -51,6 +53,8 @@ struct FamigliaCli {
 
 // Rows, header, save, reorder, comuni.
 [[nodiscard]] FamigliaCli ComandiLibretto();
+// The checks of libretti and extracts, and their table.
+[[nodiscard]] FamigliaCli ComandiVerifiche();
 // Map extracts.
 [[nodiscard]] FamigliaCli ComandiEstratto();
 // Whole cadastral sheets.

@@ -133,8 +133,9 @@ private:
 };
 
 int Consegna(Giro& giro, const Opzioni& opzioni, const std::string& risultato, const Canali& canali) {
-  if (opzioni.uscita) return giro.Scrivi(*opzioni.uscita, risultato) ? Fatto : ErroreMostrato;
-  if (Stampa(canali.uscita, risultato)) return Fatto;
+  const int fatto = opzioni.comando->codice == nullptr ? Fatto : opzioni.comando->codice(risultato);
+  if (opzioni.uscita) return giro.Scrivi(*opzioni.uscita, risultato) ? fatto : ErroreMostrato;
+  if (Stampa(canali.uscita, risultato)) return fatto;
   Stampa(canali.errori, RigaMessaggio(TitoloProgramma, "Impossibile scrivere sull'uscita standard."));
   return ErroreMostrato;
 }

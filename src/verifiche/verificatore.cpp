@@ -23,10 +23,12 @@ bool Prima(const Segnalazione& a, const Segnalazione& b) {
 
 // The names as the archives have them, of all rows: a name that is no fiducial point's finds nothing.
 Verificatore::Chiave Verificatore::ChiaveAdesso() const {
+  constexpr std::size_t lungoFiduciale = 14;
   Chiave chiave;
   if (righe_.Quante() > 0) chiave.zero = righe_.Testo(0);
   const NomiPunti& nomi = righe_.Nomi();
   for (Punto punto = 0; punto < nomi.Quanti(); ++punto) {
+    if (nomi.Nome(punto).size() != lungoFiduciale) continue;
     std::string nome = Maiuscolo(nomi.Nome(punto));
     if (NomePuntoFiduciale(nome)) chiave.fiduciali.push_back(std::move(nome));
   }

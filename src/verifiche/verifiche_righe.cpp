@@ -131,7 +131,7 @@ void VerificaBattutaConZenit(const RigaDaVerificare& r, Raccolta& raccolta) {
   if (QuantiCampi(r.campi) == CampiBattuta || ENumero(CampoTagliato(r, 5))) {
     VerificaAltezza(r, 5, raccolta);
     VerificaNota(r, 6, raccolta);
-  } else {
+  } else if (Valore(CampoTagliato(r, 4)) != 0) { // a direction alone needs no height
     Di(raccolta, RegolaDi("L010"), 5);
   }
 }
