@@ -3,7 +3,7 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
-#include <estratti/campi.h>
+#include <verifiche/riga_letta.h>
 
 #include <algorithm>
 #include <cmath>
@@ -74,7 +74,7 @@ void LettoreAnelli::Riga(std::string_view riga, std::size_t indice) {
   if (genere != 7 && genere != 8) return;
   const Campi campi(riga);
   if (genere == 8 && campi.Quanti() > 3) {
-    punti.posti.insert_or_assign(std::string(campi[1]), Posto{Valore(campi[3]), Valore(campi[2])});
+    punti.posti.insert_or_assign(std::string(campi[1]), Posto{Misura(campi[3]), Misura(campi[2])});
     return;
   }
   if (genere != 7 || campi.Quanti() < 3) return;

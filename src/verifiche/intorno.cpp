@@ -41,7 +41,7 @@ void LeggiTaf(const Ambiente& ambiente, const std::vector<std::string>& fiducial
     for (const auto riga : RigheDi(*testo)) {
       const RecordTaf record = DecodificaRigaTAF(riga);
       if (std::binary_search(fiduciali.begin(), fiduciali.end(), record.nome))
-        intorno.taf.try_emplace(record.nome, Posto{record.x, record.y});
+        intorno.taf.try_emplace(record.nome, Posto{Misura(record.est), Misura(record.nord)});
     }
   }
 }
@@ -78,7 +78,7 @@ void LeggiMisurate(Ambiente& ambiente, const std::vector<std::string>& fiduciali
                         std::binary_search(fiduciali.begin(), fiduciali.end(), b);
     if (!nostri || riga.size() <= inizioDistanza) continue;
     Somma& somma = somme[std::minmax(std::string(a), std::string(b))];
-    somma.totale += Valore(
+    somma.totale += Misura(
         riga.substr(inizioDistanza, riga.find(' ', riga.find_first_not_of(' ', inizioDistanza)) - inizioDistanza));
     ++somma.quante;
   }
@@ -89,7 +89,7 @@ void LeggiMisurate(Ambiente& ambiente, const std::vector<std::string>& fiduciali
 void LeggiQuota(const Ambiente& ambiente, Intorno& intorno) {
   const auto testo = TestoDi(ambiente, PercorsoQuotaMedia(ambiente.sessione));
   if (!testo) return;
-  if (const auto quota = QuotaMediaCon(*testo, ambiente.sessione.CodiceComune)) intorno.quotaComune = Valore(*quota);
+  if (const auto quota = QuotaMediaCon(*testo, ambiente.sessione.CodiceComune)) intorno.quotaComune = Misura(*quota);
 }
 
 void LeggiEstrattoAssociato(const Ambiente& ambiente, Intorno& intorno) {

@@ -11,7 +11,7 @@ namespace lirmeto {
 
 namespace {
 
-bool Misura(const RigaLetta& letta) {
+bool DiMisura(const RigaLetta& letta) {
   return letta.sezione == Sezione::Misure;
 }
 
@@ -48,7 +48,7 @@ void Rete::Raccogli(const RigheLette& righe) {
   coordinate_.clear();
   for (std::size_t i = 0; i < righe.Quante(); ++i) {
     const RigaLetta& letta = righe[i];
-    if (!Misura(letta)) continue;
+    if (!DiMisura(letta)) continue;
     const auto& n = letta.numeri;
     if (letta.forma == Forma::Stazione) {
       stazioni_.push_back({i, letta.nome, false, stime_.size(), stime_.size(), false, {}, 0, 0});
@@ -67,7 +67,7 @@ void Rete::RaccogliGps(const RigheLette& righe) {
   Geocentrica base;
   for (std::size_t i = 0; i < righe.Quante(); ++i) {
     const RigaLetta& letta = righe[i];
-    if (!Misura(letta) || (letta.forma != Forma::BaseGps && letta.forma != Forma::VettoreGps)) continue;
+    if (!DiMisura(letta) || (letta.forma != Forma::BaseGps && letta.forma != Forma::VettoreGps)) continue;
     const Geocentrica valori{letta.numeri[0], letta.numeri[1], letta.numeri[2]};
     if (letta.forma == Forma::BaseGps) {
       base = valori;
@@ -214,7 +214,7 @@ void Rete::Squadri(const RigheLette& righe) {
   const RigaLetta* base = nullptr;
   for (std::size_t i = 0; i < righe.Quante(); ++i) {
     const RigaLetta& letta = righe[i];
-    if (!Misura(letta)) continue;
+    if (!DiMisura(letta)) continue;
     if (letta.genere == 4) base = letta.forma == Forma::Squadro ? &letta : nullptr;
     if (letta.forma != Forma::Offset || base == nullptr) continue;
     if (!Nota(base->punti[0]) || !Nota(base->punti[1])) continue;
@@ -258,7 +258,10 @@ void Rete::Calcola(const RigheLette& righe) {
   punti_.assign(righe.Nomi().Quanti(), {});
   Raccogli(righe);
   Collega();
-  if (!stazioni_.empty()) Radia(stazioni_.front());
+  if (!stazioni_.empty()) {
+    Radia(stazioni_.front());
+    punti_[stazioni_.front().punto].propria = !stazioni_.front().gps;
+  }
   Svolgi();
   const auto posto = [](const Stazionamento& s) { return s.posto; };
   if (!std::all_of(stazioni_.begin(), stazioni_.end(), posto) || stazioni_.empty()) {

@@ -53,7 +53,7 @@ struct PuntoRete {
   Origine origine = Origine::Ignota;
   Posto posto;
   std::size_t riga = 0; // that gave its first place
-  bool propria = false; // of a station that found its place by itself, from three known points or more
+  bool propria = false; // of the first station, and of one that found its place by itself, from three known points
 };
 
 class Rete {

@@ -30,8 +30,7 @@ bool LettereOCifre(std::string_view testo) {
 
 // A number whose decimal sign may be a comma: the row is told of that elsewhere.
 double NumeroDi(std::string_view campo) {
-  if (campo.find(',') == std::string_view::npos) return Valore(campo);
-  return Valore(Sostituisci(campo, ",", "."));
+  return campo.find(',') == std::string_view::npos ? Misura(campo) : Misura(Sostituisci(campo, ",", "."));
 }
 
 std::int8_t GenereDi(std::string_view riga) {
@@ -52,7 +51,7 @@ void LeggiStazione(const Campi& campi, RigaLetta& letta) {
     letta.forma = Forma::BaseGps;
     const Terna terna = LeggiTerna(campo);
     std::copy_n(terna.valori.begin(), 3, letta.numeri.begin());
-    letta.numeri[3] = Valore(CampoSe(campi, 3));
+    letta.numeri[3] = Misura(CampoSe(campi, 3));
     return;
   }
   letta.forma = Forma::Stazione;
@@ -190,10 +189,15 @@ std::size_t QuantiCampi(const Campi& campi) {
   return quanti > 0 && campi[quanti - 1].empty() ? quanti - 1 : quanti;
 }
 
+double Misura(std::string_view testo) {
+  constexpr double limite = 1e12;
+  return std::clamp(Valore(testo), -limite, limite);
+}
+
 Terna LeggiTerna(std::string_view campo) {
   Terna terna;
   for (const auto parte : Dividi(campo, ",")) {
-    if (terna.quanti < terna.valori.size()) terna.valori.at(terna.quanti) = Valore(parte);
+    if (terna.quanti < terna.valori.size()) terna.valori.at(terna.quanti) = Misura(parte);
     ++terna.quanti;
   }
   return terna;

@@ -90,6 +90,9 @@ struct RigaLetta {
   return indice < campi.Quanti() ? campi[indice] : std::string_view{};
 }
 
+// The value of a text, no farther from 0 than any measure or area can be: what is computed with it stays a number.
+[[nodiscard]] double Misura(std::string_view testo);
+
 // The values between commas; those that are missing are 0, those beyond the sixth are left out. `quanti` is how many
 // there are.
 struct Terna {

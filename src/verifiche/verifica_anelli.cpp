@@ -47,7 +47,7 @@ void VerificaAnelli(const std::vector<AnelloLetto>& anelli, const PuntiEstratto&
   const Aree aree(anelli, punti);
   for (const AnelloLetto& anello : anelli) {
     VerificaVertici(anello, punti, raccolta);
-    const double scritta = Valore(anello.superficie);
+    const double scritta = Misura(anello.superficie);
     const double calcolata = aree.Di(anello);
     if (scritta == 0) {
       raccolta.Riga(RegolaDi("E007"), anello.riga, 0, {anello.nome});
@@ -74,7 +74,7 @@ void VerificaProposta(const Atto& atto, Raccolta& raccolta) {
   const auto somma = [&](std::size_t da, std::size_t a) {
     double totale = 0;
     for (std::size_t i = da; i < a; ++i)
-      if (!lettore.anelli[i].nome.ends_with('-')) totale += Valore(lettore.anelli[i].superficie);
+      if (!lettore.anelli[i].nome.ends_with('-')) totale += Misura(lettore.anelli[i].superficie);
     return totale;
   };
   const double prima = somma(0, originali);

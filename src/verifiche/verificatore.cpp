@@ -21,14 +21,16 @@ bool Prima(const Segnalazione& a, const Segnalazione& b) {
 
 } // namespace
 
-// The names as the archives have them, of all rows: a name that is no fiducial point's finds nothing.
+// Of the names only those that rows have now: one that stood in a row before finds nothing.
 Verificatore::Chiave Verificatore::ChiaveAdesso() const {
-  constexpr std::size_t lungoFiduciale = 14;
   Chiave chiave;
   if (righe_.Quante() > 0) chiave.zero = righe_.Testo(0);
   const NomiPunti& nomi = righe_.Nomi();
-  for (Punto punto = 0; punto < nomi.Quanti(); ++punto) {
-    if (nomi.Nome(punto).size() != lungoFiduciale) continue;
+  std::vector<bool> preso(nomi.Quanti());
+  for (std::size_t i = 0; i < righe_.Quante(); ++i) {
+    const Punto punto = righe_[i].nome;
+    if (punto == SenzaPunto || !nomi.Fiduciale(punto) || preso[punto]) continue;
+    preso[punto] = true;
     std::string nome = Maiuscolo(nomi.Nome(punto));
     if (NomePuntoFiduciale(nome)) chiave.fiduciali.push_back(std::move(nome));
   }

@@ -64,7 +64,7 @@ private:
       return raccolta_.Riga(RegolaDi("M001"), i, 0, {TestoIntero(static_cast<long long>(riga.size()))});
     if (riga == Intestazione) return;
     if (RigaConteggio(riga)) {
-      const double conta = std::max(0.0, Valore(Campo(i, 2)));
+      const double conta = std::max(0.0, Misura(Campo(i, 2)));
       sezioni_.push_back({i, std::string(Campo(i, 1)), static_cast<std::size_t>(conta), {}});
       return;
     }
@@ -138,8 +138,8 @@ private:
     double nuove = 0;
     for (const std::size_t i : sezione.righe) {
       const std::string_view operazione = Campo(i, campo::Operazione);
-      if (operazione == "O") originarie += Valore(Campo(i, campo::Area));
-      if (operazione == "C" || operazione == "V") nuove += Valore(Campo(i, campo::Area));
+      if (operazione == "O") originarie += Misura(Campo(i, campo::Area));
+      if (operazione == "C" || operazione == "V") nuove += Misura(Campo(i, campo::Area));
     }
     if (nuove > 0 && nuove != originarie)
       raccolta_.Riga(RegolaDi("M004"), sezione.riga, 0,

@@ -104,7 +104,7 @@ void VerificaTecnico(const Atto& atto, Raccolta& raccolta) {
 void VerificaQuota(const Atto& atto, Raccolta& raccolta) {
   const std::string_view quota = Valore9(atto, 1);
   const auto& comune = atto.intorno.quotaComune;
-  if (!comune || std::fabs(Valore(quota) - *comune) <= DifferenzaQuota) return;
+  if (!comune || std::fabs(Misura(quota) - *comune) <= DifferenzaQuota) return;
   raccolta.Riga(RegolaDi("T011"), RigaNove, 1, {quota.empty() ? "0" : quota, Formatta(*comune, "0")});
 }
 
@@ -119,7 +119,7 @@ void VerificaEst(const Atto& atto, Raccolta& raccolta) {
   if (minimo > massimo) return;
   const double medio = (minimo + massimo) / 2;
   const std::string_view scritto = Valore9(atto, CampoEstMedio);
-  if (std::fabs(Valore(scritto) - medio) <= DifferenzaEst) return;
+  if (std::fabs(Misura(scritto) - medio) <= DifferenzaEst) return;
   const std::string giusto = Formatta(medio, "0");
   raccolta.Riga(RegolaDi("T012"), RigaNove, CampoEstMedio, {scritto.empty() ? "0" : scritto, giusto},
                 ConCampo(atto.righe.Testo(RigaNove), CampoEstMedio, giusto));
