@@ -3,6 +3,7 @@
 #include <base/errore.h>
 #include <base/testo.h>
 #include <core/descrizione_riga.h>
+#include <core/riga.h>
 
 #include <algorithm>
 #include <vector>

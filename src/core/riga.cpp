@@ -112,12 +112,4 @@ std::string TogliMarcatoriNota(std::string_view nota) {
   return std::string(Taglia(pulita));
 }
 
-std::string InUnCampo(std::string_view testo) {
-  std::string campo(testo);
-  std::replace_if(
-      campo.begin(), campo.end(),
-      [](char lettera) { return lettera == '|' || static_cast<unsigned char>(lettera) < ' '; }, ' ');
-  return campo;
-}
-
 } // namespace lirmeto

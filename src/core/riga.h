@@ -77,9 +77,6 @@ struct RigaDivisa {
 // "<8Q>", trimmed.
 [[nodiscard]] std::string TogliMarcatoriNota(std::string_view nota);
 
-// The text as one field of a row: what would end the field or the row becomes a blank.
-[[nodiscard]] std::string InUnCampo(std::string_view testo);
-
 // Literal rows and marks.
 inline constexpr std::string_view RigaProposta = "6|ESTRATTO DI MAPPA|";
 inline constexpr std::string_view InizioRelazione = "***** Relazione  Tecnica *****";

@@ -5,6 +5,7 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/campi_riga.h>
 #include <fiduciali/taf.h>
 
 #include <algorithm>

@@ -4,6 +4,7 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/campi_riga.h>
 
 #include <algorithm>
 #include <array>
@@ -264,13 +265,6 @@ void VerificaChiusura(const RigaDaVerificare& r, Raccolta& raccolta) {
 }
 
 } // namespace
-
-std::string ConCampo(std::string_view riga, std::size_t campo, std::string_view testo) {
-  auto parti = Dividi(riga, "|");
-  if (campo >= parti.size()) return std::string(riga);
-  parti[campo] = testo;
-  return Unisci(parti, "|");
-}
 
 void VerificaRiga(const RigaDaVerificare& riga, Raccolta& raccolta) {
   VerificaPerGenere(riga, raccolta);

@@ -17,7 +17,4 @@ struct RigaDaVerificare {
 // Findings about "row 0": the caller knows where the row stands.
 void VerificaRiga(const RigaDaVerificare& riga, Raccolta& raccolta);
 
-// The row with another text in one field.
-[[nodiscard]] std::string ConCampo(std::string_view riga, std::size_t campo, std::string_view testo);
-
 } // namespace lirmeto

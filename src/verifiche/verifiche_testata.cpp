@@ -3,6 +3,7 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/campi_riga.h>
 #include <core/riga.h>
 
 #include <algorithm>
