@@ -116,7 +116,7 @@ bool KR_LibrettoOriginale::Carica(const std::string& comandoAvvio) {
     return false;
   CaricaElenco();
   // What a command or an .LXB brought in is on no disk yet.
-  if (!Contiene(comandoAvvio, "|") && !FinisceConSenzaCaso(comandoAvvio, Lxb)) RicordaIntatto();
+  if (!Contiene(comandoAvvio, "|") && !FinisceConSenzaCaso(comandoAvvio, Lxb)) Prova([&] { RicordaIntatto(); });
   return true;
 }
 

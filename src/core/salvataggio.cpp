@@ -225,7 +225,7 @@ std::uint64_t ImprontaElenco(const Sessione& sessione) {
   Impronta impronta;
   for (const auto riga : elenco.Righe()) {
     if (Taglia(riga).empty()) continue;
-    impronta.Aggiungi(Taglia(DaPulire(riga) ? RigaPulita(riga) : std::string(riga)));
+    DaPulire(riga) ? impronta.Aggiungi(Taglia(RigaPulita(riga))) : impronta.Aggiungi(Taglia(riga));
     impronta.Aggiungi(FineRiga);
   }
   return ConValori(impronta, sessione);

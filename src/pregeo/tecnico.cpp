@@ -25,13 +25,15 @@ std::string Linea(std::initializer_list<std::string_view> valori) {
   return linea + std::string(FineRiga);
 }
 
+// The mark of seconds in the instruments ("Stazione 1\"") is no loss: that value is not read back.
 bool PerdeSegni(const Sessione& sessione) {
-  const auto valori = {
-      &sessione.Tecnico,          &sessione.Qualifica,     &sessione.Provincia, &sessione.Strumentazione,
-      &sessione.NumeroIscrizione, &sessione.CodiceFiscale, &sessione.Cognome,   &sessione.Nome,
-      &sessione.Recapito};
+  const auto valori = {sessione.Tecnico,          sessione.Qualifica,
+                       sessione.Provincia,        Sostituisci(sessione.Strumentazione, "\"", ""),
+                       sessione.NumeroIscrizione, sessione.CodiceFiscale,
+                       sessione.Cognome,          sessione.Nome,
+                       sessione.Recapito};
   return std::any_of(valori.begin(), valori.end(),
-                     [](const std::string* valore) { return valore->find_first_of(Separatori) != std::string::npos; });
+                     [](const std::string& valore) { return valore.find_first_of(Separatori) != std::string::npos; });
 }
 
 // The two precisions are constants here, not those of row 9.

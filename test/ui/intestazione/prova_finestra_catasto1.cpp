@@ -153,10 +153,10 @@ TEST(FinestraCatasto1, ElenchiTecniciECodiceFiscale) {
   EXPECT_EQ(strumenti.count(), quanti);
   mano.Clicca(0); // the code is wrong and the answer is No
   EXPECT_TRUE(finestra.isVisible());
+  EXPECT_EQ(tavolo.banco.dialoghi.UltimoTesto(), "Probabile Codice Fiscale non Corretto!\r\nContinuare?");
   tavolo.banco.dialoghi.risposte = {Risposta::Si};
   QTest::keyClick(&mano.Casella(casella::Recapito), Qt::Key_Return);
   EXPECT_FALSE(finestra.isVisible());
-  EXPECT_EQ(tavolo.banco.dialoghi.UltimoTesto(), "Probabile Codice Fiscale non Corretto!\r\nContinuare?");
 }
 
 } // namespace
