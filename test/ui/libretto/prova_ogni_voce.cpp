@@ -161,7 +161,7 @@ TEST(OgniVoce, DeiPulsantiFaCioCheDice) {
       {4, "file"},
       {5, "messaggio"},
       {6, "programma C:\\Program Files (x86)\\Gondella\\Dervola.exe"},
-      {10, "finestra Intestazione del Libretto - Righe 0 e 9, righe, selezione, file"},
+      {10, "finestra Intestazione del Libretto - Righe 0 e 9, file"},
       {11, "messaggio"},
       {14, "finestra Riordino Righe"},
       {15, "programma desktop"},
