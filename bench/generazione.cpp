@@ -8,9 +8,9 @@
 #include <generazione/libretto_da_disegno.h>
 
 #include <base/numeri.h>
+#include <base/piano.h>
 #include <base/testo.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 
 #include <benchmark/benchmark.h>
 
