@@ -1,7 +1,7 @@
 #include <applicazione/autore.h>
 
 #include <applicazione/avvio.h>
-#include <core/servizi.h>
+#include <core/cartelle.h>
 
 namespace lirmeto {
 

@@ -1,7 +1,7 @@
 #include <applicazione/avvio.h>
 
+#include <core/cartelle.h>
 #include <core/mostra_errore.h>
-#include <core/servizi.h>
 #include <core/zero_nove.h>
 #include <pregeo/pregeo_ini.h>
 

@@ -2,7 +2,7 @@
 // The commands of the main window as tables: what stands on it, under which
 // caption, and what each entry does.
 
-#include <core/servizi.h> // NonAncoraDisponibile: what a disabled entry says when the pointer stands on it
+#include <core/apri_form.h> // NonAncoraDisponibile: what a disabled entry says when the pointer stands on it
 
 #include <span>
 #include <string_view>
@@ -54,7 +54,7 @@ enum class Comando {
   GraficaPregeo,
   EstrattiDiMappa,
   CompletaAutoallestito,
-  MostraRigheScartate, // of the last reorder
+  MostraRigheScartate, // of the last command
   TutteLeOpzioni,
   NessunaOpzione,
   Disegno,       // any drawing file in a window of its own

@@ -6,10 +6,11 @@
 #include <applicazione/comandi_libretto.h>
 #include <applicazione/comandi_tag.h>
 #include <core/apertura.h>
+#include <core/apri_form.h>
 #include <core/comandi_righe.h>
+#include <core/programmi.h>
 #include <core/righe_scartate.h>
 #include <core/salvataggio.h>
-#include <core/servizi.h>
 #include <core/zero_nove.h>
 #include <fiduciali/misurate_pf.h>
 #include <pregeo/collegamenti.h>

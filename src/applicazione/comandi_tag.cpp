@@ -4,8 +4,8 @@
 #include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <core/apri_form.h>
 #include <core/mostra_errore.h>
-#include <core/servizi.h>
 #include <core/zero_nove.h>
 #include <estratti/copia_estratto.h>
 #include <fiduciali/misurate.h>

@@ -37,7 +37,7 @@ public:
   std::string CasellaIscrizione;
   std::string CasellaCodiceFiscale;
   std::vector<Opzione> Opzioni;
-  std::string AvvisoScartate; // in the status line: rows that the last reorder dropped
+  std::string AvvisoScartate; // in the status line: rows that the last command dropped
   Carattere CarattereElenco;
   bool PannelloStrumenti = false; // the tools panel is visible
   bool Finita = false;            // the session has ended: the window closes

@@ -40,4 +40,15 @@ std::string DescrizioneErrore(int numero) {
   return trovata == Descrizioni.end() ? "Errore definito dall'applicazione" : std::string(trovata->second);
 }
 
+Errore Errore::DellaRiga(std::size_t numero, std::string_view riga) const {
+  constexpr std::size_t mostrati = 200; // characters; the report is a box
+  Errore conRiga = *this;
+  if (conRiga.riga_.empty()) {
+    conRiga.riga_ = std::to_string(numero) + ": ";
+    conRiga.riga_ += riga.substr(0, mostrati);
+    if (riga.size() > mostrati) conRiga.riga_ += "...";
+  }
+  return conRiga;
+}
+
 } // namespace lirmeto

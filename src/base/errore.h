@@ -2,6 +2,7 @@
 // The one exception that the logic throws: a classic error number and its
 // description in Italian.
 
+#include <cstddef>
 #include <exception>
 #include <string>
 #include <string_view>
@@ -41,13 +42,29 @@ public:
   // \"A/B\"".
   Errore(int numero, std::string descrizione) : numero_(numero), descrizione_(std::move(descrizione)) {}
 
+  // The same error, raised for a row: its number, from 1, and its text. The row told first stays.
+  [[nodiscard]] Errore DellaRiga(std::size_t numero, std::string_view riga) const;
+
   [[nodiscard]] int Numero() const { return numero_; }
   [[nodiscard]] const std::string& Descrizione() const { return descrizione_; }
+  // "12: 7|3|1%|2%|"; empty for an error of no row.
+  [[nodiscard]] const std::string& Riga() const { return riga_; }
   [[nodiscard]] const char* what() const noexcept override { return descrizione_.c_str(); }
 
 private:
   int numero_;
   std::string descrizione_;
+  std::string riga_;
 };
+
+// Runs what a row is read or made with; an error comes out with the row. `numero` is asked for then alone.
+template <typename Numero, typename Comando>
+auto AllaRiga(const Numero& numero, std::string_view riga, const Comando& comando) {
+  try {
+    return comando();
+  } catch (const Errore& errore) {
+    throw errore.DellaRiga(numero(), riga);
+  }
+}
 
 } // namespace lirmeto

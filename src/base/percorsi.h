@@ -1,5 +1,7 @@
 #pragma once
-// Paths as texts: what can be said of them without a disk.
+// Paths as texts.
+
+#include <base/macchina.h>
 
 #include <string>
 #include <string_view>
@@ -12,5 +14,15 @@ namespace lirmeto {
 
 // The path with another extension there, or with one where it had none: ".TXT".
 [[nodiscard]] std::string ConEstensione(std::string_view percorso, std::string_view estensione);
+
+// A text taken from data as one component of a path: throws Errore 52 when it
+// holds "\", "/" or ":" or is "..".
+[[nodiscard]] std::string ComponenteFile(std::string_view nome);
+
+// A path in capitals, as what comes from a command line is taken; as it was given where the capitals lead elsewhere.
+[[nodiscard]] std::string PercorsoInCapitali(const Disco& disco, std::string_view percorso);
+
+// Last component of a path.
+[[nodiscard]] std::string_view NomeDaPercorso(std::string_view percorso);
 
 } // namespace lirmeto

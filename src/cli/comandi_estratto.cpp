@@ -4,7 +4,7 @@
 
 #include <base/errore.h>
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/lettura.h>
 #include <estratti/autoallestito.h>
 #include <estratti/da_cxf.h>
 #include <estratti/dati_estratto.h>

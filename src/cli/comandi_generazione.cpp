@@ -4,7 +4,6 @@
 #include <base/testo.h>
 #include <core/apertura.h>
 #include <core/salvataggio.h>
-#include <core/servizi.h>
 #include <generazione/libretto_da_disegno.h>
 
 #include <array>

@@ -3,8 +3,8 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/apertura.h>
-#include <core/libretto_in_classi.h>
 #include <core/riga.h>
+#include <core/riordino.h>
 #include <core/salvataggio.h>
 
 #include <array>
@@ -94,8 +94,7 @@ std::string ComandoSalva(Ambiente& ambiente, const std::vector<std::string>& arg
 std::string ComandoRiordina(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
   ApriEdElenca(ambiente, argomenti[0]);
   AggiornaLibrettoMisure(ambiente);
-  RicomponiLibretto(ambiente, EsplodiLibretto(ambiente));
-  CaricaLibrettoInList1(ambiente);
+  subRiordinoRighe(ambiente);
   AggiornaLibrettoMisure(ambiente);
   RendiScrivibili(ambiente);
   return TestoDaSalvare(std::move(ambiente.sessione.Libretto), ambiente.sessione);

@@ -2,7 +2,7 @@
 
 #include <base/testo.h>
 #include <core/apertura.h>
-#include <core/servizi.h>
+#include <core/lettura.h>
 #include <core/zero_nove.h>
 #include <piattaforma/disco_dischi.h>
 #include <supporto/modello_stampa.h>

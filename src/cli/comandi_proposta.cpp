@@ -2,8 +2,8 @@
 #include <cli/comandi.h>
 
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <generazione/polilinee_dxf.h>
 #include <generazione/proposta.h>
 #include <generazione/tipol10.h>

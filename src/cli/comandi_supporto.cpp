@@ -1,8 +1,8 @@
 #include <cli/comandi.h>
 
 #include <base/errore.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
-#include <core/servizi.h>
 #include <supporto/codice_fiscale.h>
 #include <supporto/zip.h>
 

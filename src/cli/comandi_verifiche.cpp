@@ -9,7 +9,7 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/apertura.h>
-#include <core/servizi.h>
+#include <core/lettura.h>
 #include <verifiche/tabella_verifiche.h>
 #include <verifiche/verifica_anelli.h>
 #include <verifiche/verificatore.h>

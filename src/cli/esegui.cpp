@@ -8,6 +8,7 @@
 #include <base/testo.h>
 #include <core/ambiente.h>
 #include <core/mostra_errore.h>
+#include <core/righe_scartate.h>
 #include <core/sessione.h>
 #include <piattaforma/disco_dischi.h>
 #include <piattaforma/file_ospite.h>
@@ -103,6 +104,7 @@ public:
       risultato = opzioni.comando->esegui(ambiente, ArgomentiPerIlComando(opzioni));
     });
     if (!riuscito || RapportoMostrato()) return std::nullopt;
+    if (const std::string avviso = AvvisoRigheScartate(sessione_); !avviso.empty()) dialoghi_.Messaggio(avviso);
     return risultato;
   }
 

@@ -4,9 +4,9 @@
 #include <base/numeri.h>
 #include <base/percorsi.h>
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/lxb.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <core/zero_nove.h>
 
 #include <algorithm>

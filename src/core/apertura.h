@@ -19,6 +19,7 @@ struct ContenutoPdf {
   std::optional<std::string> estratto; // identifier of the associated extract, upper case; none
                                        // without a section 3000
   std::string ditta;                   // the owners, lines at CR LF
+  std::vector<std::string> scartate;   // pieces that are no section, and sections of other numbers
 };
 
 // A section of a .PDF of an act: a view into its bytes.
@@ -27,12 +28,12 @@ struct SezionePdf {
   std::string_view contenuto;
 };
 
-// The sections in the order of the file, those of numbers that nobody knows too. A piece without "]|" is broken and
-// passed over; one that nothing closes ends with the file.
+// The sections in the order of the file, those of numbers that nobody knows too; a piece without "]|" is broken and
+// has number 0. One that nothing closes ends with the file.
 [[nodiscard]] std::vector<SezionePdf> DividiSezioniPdf(std::string_view byte);
 
 // A section is "[TAG" number "]|" content "[/TAG"; its rows stand between
-// "<nr>". Numbers: 1000, 2000, 3000, 4000, 5000; any other is passed over. The
+// "<nr>". Numbers: 1000, 2000, 3000, 4000, 5000; any other is left out. The
 // last row of a section counts also when no "<nr>" closes it.
 //   [TAG1000]|0|...|<nr>9|...|<nr>[/TAG1000]
 [[nodiscard]] ContenutoPdf LeggiSezioniPdf(std::string_view byte);

@@ -2,7 +2,7 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/lettura.h>
 
 namespace lirmeto {
 

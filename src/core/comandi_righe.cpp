@@ -2,12 +2,14 @@
 
 #include <base/errore.h>
 #include <base/numeri.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <core/apri_form.h>
+#include <core/lettura.h>
 #include <core/riga.h>
 #include <core/riordino.h>
 #include <core/salvataggio.h>
-#include <core/servizi.h>
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,7 @@
 #include <core/lista_righe.h>
 
 #include <algorithm>
+#include <functional>
 
 namespace lirmeto {
 
@@ -58,6 +59,23 @@ void ListaRighe::CambiaTratto(std::size_t inizio, std::size_t quante, std::span<
   const auto da = righe_.begin() + static_cast<std::ptrdiff_t>(inizio);
   const auto posto = righe_.erase(da, da + static_cast<std::ptrdiff_t>(quante));
   righe_.insert(posto, righe.begin(), righe.end());
+}
+
+ListaRighe ListaRighe::Compatta() const {
+  ListaRighe compatta;
+  for (const auto riga : righe_) compatta.Aggiungi(riga);
+  return compatta;
+}
+
+std::size_t ListaRighe::NumeroDiRiga(std::size_t indice) const {
+  const std::string_view riga = righe_[Controlla(indice)];
+  for (const TestoCondiviso& testo : testi_) {
+    const char* const inizio = testo->data();
+    const bool dentro = !std::less<>{}(riga.data(), inizio) && std::less<>{}(riga.data(), inizio + testo->size());
+    if (!dentro || (riga.data() != inizio && riga.data()[-1] != '\n')) continue;
+    return static_cast<std::size_t>(std::count(inizio, riga.data(), '\n')) + 1;
+  }
+  return indice + 1;
 }
 
 } // namespace lirmeto

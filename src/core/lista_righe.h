@@ -64,6 +64,12 @@ public:
   // Rows of texts that the list keeps in place of so many others.
   void CambiaTratto(std::size_t inizio, std::size_t quante, std::span<const std::string_view> righe);
 
+  // Number of a row, from 1, in the file that it was read from; in the list where it has no line of a file.
+  [[nodiscard]] std::size_t NumeroDiRiga(std::size_t indice) const;
+
+  // A list of the same rows that keeps them alone and not the whole texts they were found in.
+  [[nodiscard]] ListaRighe Compatta() const;
+
   // The same rows in the same order, whatever texts they lie in.
   [[nodiscard]] bool operator==(const ListaRighe& altra) const { return righe_ == altra.righe_; }
 

@@ -33,6 +33,7 @@ void UnisciLxb(Ambiente& ambiente, std::string_view sostitute) {
     const Genere dopo = i + 1 < righe.size() ? GenereDi(righe[i + 1]) : Genere::Altro;
     classi[ClasseSostituta(righe[i], GenereDi(righe[i]), dopo)].Aggiungi(righe[i]);
   }
+  if (!classi[ClasseRighe::Nessuna].empty()) ambiente.sessione.RigheScartate = classi[ClasseRighe::Nessuna].Compatta();
   RicomponiLibretto(ambiente, std::move(classi));
 }
 

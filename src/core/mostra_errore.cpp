@@ -12,6 +12,7 @@ namespace {
 void Annota(Sessione& sessione, const Errore& errore) {
   sessione.NumeroErrore = errore.Numero();
   sessione.TestoErrore = errore.Descrizione();
+  if (!errore.Riga().empty()) sessione.TestoErrore += std::string(FineRiga) + "Riga " + errore.Riga();
 }
 
 std::string CorpoRapporto(const Sessione& sessione) {

@@ -4,10 +4,11 @@
 #include <base/numeri.h>
 #include <base/percorsi.h>
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 
 #include <algorithm>
+#include <array>
 
 namespace lirmeto {
 
@@ -16,12 +17,14 @@ namespace lirmeto {
 //   the last row of a section         counts also when no "<nr>" closes it
 //   "9|" of an owners' row            is taken off its beginning only
 //   a file without a section 3000     no extract is looked for and no message is shown
-//   a piece without "]|"              is broken and passed over
+//   a piece without "]|"              is broken; it is left out and told, as a section of another number is
 //   no section 1000 and no 2000       error 5: there is no libretto in it
 
 namespace {
 
 using Righe = std::vector<std::string_view>;
+
+constexpr std::array<double, 5> Numeri = {1000, 2000, 3000, 4000, 5000};
 
 Righe RigheSezione(std::string_view contenuto) {
   Righe righe = Dividi(contenuto, "<nr>");
@@ -57,6 +60,8 @@ void LeggiSezione(ContenutoPdf& pdf, const SezionePdf& sezione) {
   if (numero == 3000) LeggiEstratto(pdf, contenuto);
   if (numero == 4000) pdf.ditta = LeggiDitta(contenuto);
   if (numero == 5000) pdf.dati3000.emplace_back(contenuto);
+  if (std::find(Numeri.begin(), Numeri.end(), numero) == Numeri.end())
+    pdf.scartate.push_back("[TAG" + TestoPieno(numero) + "]|" + std::string(contenuto));
 }
 
 std::string ComponiLibretto(const ContenutoPdf& pdf) {
@@ -83,7 +88,9 @@ std::vector<SezionePdf> DividiSezioniPdf(std::string_view byte) {
   for (std::size_t i = 1; i < pezzi.size(); ++i) {
     const std::string_view pezzo = pezzi[i].substr(0, pezzi[i].find("[/TAG"));
     const std::size_t inizio = pezzo.find("]|");
-    if (inizio != std::string_view::npos)
+    if (inizio == std::string_view::npos)
+      sezioni.push_back({0, pezzo});
+    else
       sezioni.push_back({Valore(pezzo.substr(0, inizio)), pezzo.substr(inizio + 2)});
   }
   return sezioni;
@@ -119,6 +126,8 @@ void EsplodiPDF(Ambiente& ambiente, std::string_view percorso) {
   sessione.Libretto = ComponiLibretto(pdf);
   sessione.Ditta = pdf.ditta;
   sessione.EstrattoAssociato = estratto;
+  sessione.RigheScartate.clear();
+  for (const std::string& pezzo : pdf.scartate) sessione.RigheScartate.Aggiungi(pezzo);
 }
 
 } // namespace lirmeto

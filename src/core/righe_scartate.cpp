@@ -9,8 +9,8 @@ namespace lirmeto {
 std::string AvvisoRigheScartate(const Sessione& sessione) {
   const std::size_t quante = sessione.RigheScartate.size();
   if (quante == 0) return {};
-  if (quante == 1) return "Il riordino ha scartato 1 riga senza classe";
-  return "Il riordino ha scartato " + TestoIntero(static_cast<long long>(quante)) + " righe senza classe";
+  if (quante == 1) return "Scartata 1 riga senza classe";
+  return "Scartate " + TestoIntero(static_cast<long long>(quante)) + " righe senza classe";
 }
 
 void FormRigheScartate::Copia() {

@@ -1,5 +1,5 @@
 #pragma once
-// The rows that the last reorder dropped, shown to the user.
+// The rows that the last command dropped, shown to the user: a reorder, an .LXB, a .PDF, an extract that was saved.
 
 #include <base/dialoghi.h>
 #include <core/ambiente.h>

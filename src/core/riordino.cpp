@@ -1,23 +1,12 @@
 #include <core/riordino.h>
 
 #include <core/apertura.h>
+#include <core/apri_form.h>
 #include <core/libretto_in_classi.h>
-#include <core/servizi.h>
 
 #include <utility>
 
 namespace lirmeto {
-
-namespace {
-
-// The rows without the whole text they were found in.
-ListaRighe Copiate(const ListaRighe& righe) {
-  ListaRighe copiate;
-  for (const auto riga : righe) copiate.Aggiungi(riga);
-  return copiate;
-}
-
-} // namespace
 
 const std::array<FormRiordinoRighe::Classe, 13>& FormRiordinoRighe::Classi() {
   using C = ClasseRighe;
@@ -53,7 +42,7 @@ void FormRiordinoRighe::AllAttivazione() {
 void FormRiordinoRighe::Conferma() {
   RicomponiLibretto(ambiente_, Righe);
   CaricaLibrettoInList1(ambiente_);
-  ambiente_.sessione.RigheScartate = Copiate(Righe[ClasseRighe::Nessuna]);
+  ambiente_.sessione.RigheScartate = Righe[ClasseRighe::Nessuna].Compatta();
   ambiente_.sessione.PuntoErrore = "Decozero_127";
   ambiente_.sessione.EsitoForm = EsitoConfermato;
   Chiusa = true;
@@ -87,7 +76,7 @@ void FormRiordinoRighe::DoppioClick(std::size_t classe, std::size_t riga) {
 
 void subRiordinoRighe(Ambiente& ambiente) {
   RigheInClassi righe = EsplodiLibretto(ambiente);
-  const ListaRighe scartate = Copiate(righe[ClasseRighe::Nessuna]);
+  const ListaRighe scartate = righe[ClasseRighe::Nessuna].Compatta();
   RicomponiLibretto(ambiente, std::move(righe));
   CaricaLibrettoInList1(ambiente);
   ambiente.sessione.RigheScartate = scartate;

@@ -2,10 +2,10 @@
 
 #include <base/avanzamento.h>
 #include <base/numeri.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/mostra_errore.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 
 #include <cstdint>
 #include <utility>
@@ -130,6 +130,11 @@ bool ProvaASalvare(Ambiente& ambiente) {
 }
 
 } // namespace
+
+void AggiungiRigaLibretto(Sessione& sessione, std::string_view riga) {
+  sessione.Libretto += Taglia(riga);
+  sessione.Libretto += FineRiga;
+}
 
 void AggiornaLibrettoMisure(Ambiente& ambiente) {
   Sessione& sessione = ambiente.sessione;

@@ -8,6 +8,9 @@
 
 namespace lirmeto {
 
+// Libretto + trimmed row + CR LF.
+void AggiungiRigaLibretto(Sessione& sessione, std::string_view riga);
+
 // Row list to Libretto: a row equal to the one before it (in any case) goes,
 // "<P!>" is taken off and an empty note "||" becomes
 // "|NOTE:|" in all rows but those of kind 0 and 9; the list takes the same

@@ -51,7 +51,7 @@ struct Sessione {
   // 120".
   ElencoRighe List1;
   std::string EtichettaPosizione;
-  ListaRighe RigheScartate; // rows of no class that the last reorder dropped
+  ListaRighe RigheScartate; // rows of no class that the last command dropped
 
   // Reports and documents.
   std::string NomeBaseStampa;   // path, without extension, of the current report's .TXT and .CSV; empty for none

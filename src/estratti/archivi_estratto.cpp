@@ -1,8 +1,9 @@
 #include <estratti/archivi_estratto.h>
 
+#include <base/percorsi.h>
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <estratti/campi.h>
 #include <estratti/kr_estratto.h>
 

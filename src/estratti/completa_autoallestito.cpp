@@ -3,9 +3,9 @@
 #include <base/errore.h>
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/mostra_errore.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <core/tabelle.h>
 #include <estratti/campi.h>
 #include <estratti/dati_estratto.h>

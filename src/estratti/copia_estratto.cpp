@@ -2,7 +2,7 @@
 
 #include <base/percorsi.h>
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/cartelle.h>
 #include <estratti/kr_estratto.h>
 #include <supporto/zip.h>
 

@@ -3,10 +3,10 @@
 #include <base/avanzamento.h>
 #include <base/estremi.h>
 #include <base/numeri.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/mostra_errore.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <estratti/campi.h>
 
 #include <algorithm>
@@ -17,7 +17,8 @@ namespace lirmeto {
 // How an extract is read, where it could be done in more than one way:
 //
 //   a file that is not there            nothing is read or said; a save then fails on the missing row 0
-//   a row that no list wants            dropped without a word, and gone at the next save: meant so
+//   a row that no list wants            stands in Scartate and is gone at the next save: an extract holds what Pregeo
+//                                       reads, and nothing else
 //   a continuation with no ring before  dropped like those
 //   no vertices at all                  the mean east is 0
 //   a date that is none                 its parts by their numeric values
@@ -71,7 +72,10 @@ void AggiungiInquadramento(ListaRighe& lista, std::string_view riga) {
 
 void AggiungiRiga(Sessione& sessione, KR_Estratto& estratto, std::string_view riga) {
   const Lista lista = ListaDiRiga(riga);
-  if (lista == nullptr) return;
+  if (lista == nullptr) {
+    if (!Taglia(riga).empty()) estratto.Scartate.Aggiungi(riga);
+    return;
+  }
   if (lista == &KR_Estratto::INQUADRAMENTO) {
     AggiungiInquadramento(estratto.INQUADRAMENTO, riga);
     return;
@@ -97,7 +101,7 @@ void LeggiRighe(Ambiente& ambiente, KR_Estratto& estratto, std::string&& testo) 
     if (i == 0)
       estratto.ZERO.AggiungiVista(righe[i]);
     else
-      AggiungiRiga(ambiente.sessione, estratto, righe[i]);
+      AllaRiga([i] { return i + 1; }, righe[i], [&] { AggiungiRiga(ambiente.sessione, estratto, righe[i]); });
   }
 }
 
@@ -118,12 +122,15 @@ void UnisciAnelli(KR_Estratto& estratto) {
   std::vector<std::string> riporto;
   for (std::size_t i = estratto.List1.size(); i > 0; --i) {
     const std::string_view riga = estratto.List1[i - 1];
-    if (Valore(Campo(riga, 1)) == 0) {
-      riporto.push_back(Sostituisci(Sostituisci(riga, "7|0|", ""), "NC|", ""));
-      continue;
-    }
-    estratto.SETTE.Aggiungi(RigaSette(riga, riporto));
-    riporto.clear();
+    AllaRiga([&] { return estratto.List1.NumeroDiRiga(i - 1); }, riga,
+             [&] {
+               if (Valore(Campo(riga, 1)) == 0) {
+                 riporto.push_back(Sostituisci(Sostituisci(riga, "7|0|", ""), "NC|", ""));
+                 return;
+               }
+               estratto.SETTE.Aggiungi(RigaSette(riga, riporto));
+               riporto.clear();
+             });
   }
 }
 
@@ -149,7 +156,7 @@ void UnisciLinee(ListaRighe& linee) {
       unite.emplace_back(riga);
       continue;
     }
-    if (unite.empty()) throw Errore(errore::IndiceFuoriIntervallo);
+    if (unite.empty()) throw Errore(errore::IndiceFuoriIntervallo).DellaRiga(linee.NumeroDiRiga(0), riga);
     unite.back() += riga.substr(std::min(LunghezzaTestaContinuazione, riga.size()));
   }
   linee.clear();
@@ -166,10 +173,8 @@ std::string MesiDa(std::string_view data, const Data& oggi) {
   return TestoPieno(oggi.anno * mesiAnno + oggi.mese - (pezzo(4, 4) * mesiAnno + pezzo(2, 2)));
 }
 
-void LeggiTestata(Ambiente& ambiente, const KR_Estratto& estratto, const std::string& percorso) {
+void PrendiCampiRigaZero(Ambiente& ambiente) {
   Sessione& sessione = ambiente.sessione;
-  sessione.EstrattoFile = percorso;
-  sessione.EstrattoRigaZero = estratto.ZERO[0];
   const Campi campi(sessione.EstrattoRigaZero);
   sessione.EstrattoComune = campi[3];
   sessione.EstrattoFoglio = campi[4];
@@ -179,11 +184,19 @@ void LeggiTestata(Ambiente& ambiente, const KR_Estratto& estratto, const std::st
   sessione.EstrattoMesi = MesiDa(sessione.EstrattoData, ambiente.orologio.Oggi());
 }
 
+void LeggiTestata(Ambiente& ambiente, const KR_Estratto& estratto, const std::string& percorso) {
+  Sessione& sessione = ambiente.sessione;
+  sessione.EstrattoFile = percorso;
+  sessione.EstrattoRigaZero = estratto.ZERO[0];
+  AllaRiga([] { return std::size_t{1}; }, sessione.EstrattoRigaZero, [&] { PrendiCampiRigaZero(ambiente); });
+}
+
 // Middle of the easts, whole metres: it tells where the sheet lies.
 std::string EstMedio(const ListaRighe& punti) {
   constexpr std::size_t posizioneEst = 3;
   Estremi est;
-  for (const auto riga : punti) est.Vedi(Valore(Campo(riga, posizioneEst)));
+  for (std::size_t i = 0; i < punti.size(); ++i)
+    AllaRiga([&] { return punti.NumeroDiRiga(i); }, punti[i], [&] { est.Vedi(Valore(Campo(punti[i], posizioneEst))); });
   return std::string(Taglia(Formatta(est.Media(), "###########0")));
 }
 

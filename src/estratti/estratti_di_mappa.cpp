@@ -2,10 +2,10 @@
 
 #include <base/errore.h>
 #include <base/testo.h>
+#include <core/apri_form.h>
 #include <core/mostra_errore.h>
 #include <core/nomi_forme.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <core/tabelle.h>
 #include <estratti/dati_estratto.h>
 #include <estratti/estratti_esempio.h>

@@ -1,7 +1,7 @@
 #include <estratti/estratti_esempio.h>
 
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/cartelle.h>
 #include <estratti/anelli_interi.h>
 #include <estratti/kr_estratto.h>
 

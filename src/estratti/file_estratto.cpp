@@ -1,8 +1,8 @@
 #include <estratti/file_estratto.h>
 
 #include <base/errore.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
-#include <core/servizi.h>
 #include <estratti/kr_estratto.h>
 
 namespace lirmeto {

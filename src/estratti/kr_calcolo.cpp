@@ -2,9 +2,9 @@
 
 #include <base/errore.h>
 #include <base/numeri.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <estratti/campi.h>
 
 #include <array>

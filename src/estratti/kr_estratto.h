@@ -46,6 +46,7 @@ struct KR_Estratto {
   ListaRighe PFCART;
   ListaRighe ALTRO;         // "6|SCALAORIGINARIA|"
   ListaRighe INQUADRAMENTO; // the row, then its fields from position 2 to the last
+  ListaRighe Scartate;      // rows of no list, which a save leaves out and tells
 
   // Vertices of the ring whose surface was computed last, from 1; the place behind the last one repeats the first. What
   // a ring leaves stays for the next.
@@ -78,7 +79,7 @@ bool EsplodiEstratto(Ambiente& ambiente, KR_Estratto& estratto, std::string_view
 // for a ring of more than 500 fields, 6 for a surface that is no number.
 [[nodiscard]] std::string TestoEstratto(Ambiente& ambiente, KR_Estratto& estratto);
 
-// Writes the lists to EstrattoFile and empties them. An error ends it with the report and leaves the file as it was.
+// Writes the lists to EstrattoFile and empties them; the rows left out become the session's RigheScartate. An error ends it with the report and leaves the file as it was.
 // Whether it was written.
 bool SalvaEstratto(Ambiente& ambiente, KR_Estratto& estratto);
 

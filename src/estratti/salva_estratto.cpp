@@ -312,6 +312,7 @@ bool SalvaEstratto(Ambiente& ambiente, KR_Estratto& estratto) {
   return Intrappola(ambiente, [&] {
     const std::string testo = TestoEstratto(ambiente, estratto);
     ambiente.disco.Scrivi(ambiente.sessione.EstrattoFile, testo);
+    if (!estratto.Scartate.empty()) ambiente.sessione.RigheScartate = estratto.Scartate;
     estratto.Scarica();
   });
 }

@@ -3,7 +3,6 @@
 #include <base/errore.h>
 #include <base/testo.h>
 #include <core/mostra_errore.h>
-#include <core/servizi.h>
 #include <estratti/file_estratto.h>
 #include <estratti/kr_estratto.h>
 #include <estratti/unione_estratti.h>

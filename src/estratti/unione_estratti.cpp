@@ -1,9 +1,9 @@
 #include <estratti/unione_estratti.h>
 
 #include <base/numeri.h>
+#include <base/piano.h>
 #include <base/testo.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <estratti/anelli_interi.h>
 #include <estratti/campi.h>
 #include <estratti/rinumerazione.h>
@@ -142,7 +142,7 @@ private:
 
   [[nodiscard]] std::uint32_t NelQuadretto(std::uint32_t posto, const PuntoSommato& punto) const {
     while (posto != Nessuno &&
-           DistanzaPiana(punti_[posto].nord, punti_[posto].est, punto.nord, punto.est) >= DistanzaComune)
+           DistanzaPiana({punti_[posto].est, punti_[posto].nord}, {punto.est, punto.nord}) >= DistanzaComune)
       posto = seguenti_[posto];
     return posto;
   }

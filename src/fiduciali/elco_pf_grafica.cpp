@@ -3,9 +3,10 @@
 #include <fiduciali/elco_pf_file.h>
 
 #include <base/numeri.h>
+#include <base/piano.h>
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/mostra_errore.h>
-#include <core/servizi.h>
 #include <estratti/kr_estratto.h>
 #include <fiduciali/misurate.h>
 #include <supporto/imputa.h>
@@ -200,7 +201,7 @@ std::string KR_ElcoPFGrafica::Leggenda(double x, double y) const {
 const PuntoPF* KR_ElcoPFGrafica::PiuVicino(double x, double y, double entro) const {
   const PuntoPF* vicino = nullptr;
   for (const PuntoPF& punto : Punti) {
-    const double distanza = DistanzaPiana(punto.est, punto.nord, x, y);
+    const double distanza = DistanzaPiana({punto.est, punto.nord}, {x, y});
     if (distanza >= entro) continue;
     entro = distanza;
     vicino = &punto;
@@ -274,7 +275,7 @@ void KR_ElcoPFGrafica::SelezionaFoglio(double x, double y) {
 
 void KR_ElcoPFGrafica::SelezionaIntorno(double x, double y, double raggio) {
   for (PuntoPF& punto : Punti)
-    if (DistanzaPiana(punto.est, punto.nord, x, y) < raggio) punto.selezionato = selezione::Si;
+    if (DistanzaPiana({punto.est, punto.nord}, {x, y}) < raggio) punto.selezionato = selezione::Si;
   RiDisegnaPF();
 }
 

@@ -2,8 +2,9 @@
 
 #include <base/avanzamento.h>
 #include <base/testo.h>
+#include <core/cartelle.h>
+#include <core/lettura.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <core/zero_nove.h>
 #include <fiduciali/taf.h>
 #include <pregeo/gondella.h>

@@ -4,9 +4,10 @@
 
 #include <base/errore.h>
 #include <base/numeri.h>
+#include <base/piano.h>
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <fiduciali/misurate.h>
 #include <fiduciali/taf.h>
 
@@ -105,8 +106,10 @@ public:
     const std::string* a = Prima(primo);
     const std::string* b = Prima(secondo);
     if (a == nullptr || b == nullptr) return std::nullopt;
-    const auto numero = [](const std::string* voce, std::size_t campo) { return Valore(Parte(*voce, '|', campo)); };
-    return DistanzaPiana(numero(a, 1), numero(a, 2), numero(b, 1), numero(b, 2));
+    const auto posto = [](const std::string& voce) {
+      return PuntoPiano{Valore(Parte(voce, '|', 1)), Valore(Parte(voce, '|', 2))};
+    };
+    return DistanzaPiana(posto(*a), posto(*b));
   }
 
 private:
@@ -217,7 +220,7 @@ public:
   [[nodiscard]] double Distanza(const std::string& primo, const std::string& secondo) const {
     const PuntoMisurato& a = *punti_.at(primo);
     const PuntoMisurato& b = *punti_.at(secondo);
-    return DistanzaPiana(a.X, a.Y, b.X, b.Y);
+    return DistanzaPiana({a.X, a.Y}, {b.X, b.Y});
   }
 
 private:

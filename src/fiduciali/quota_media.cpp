@@ -1,8 +1,8 @@
 #include <fiduciali/quota_media.h>
 
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 
 namespace lirmeto {
 

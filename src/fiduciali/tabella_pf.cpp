@@ -2,8 +2,8 @@
 
 #include <base/avanzamento.h>
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 
 #include <algorithm>
 

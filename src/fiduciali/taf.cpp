@@ -2,8 +2,8 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 
 #include <algorithm>
 #include <map>

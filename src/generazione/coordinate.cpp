@@ -8,7 +8,6 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 
 #include <algorithm>
 #include <array>
@@ -125,7 +124,8 @@ void MettiCoordinate(Generazione& g) {
 void CompletaRigaNove(Generazione& g) {
   Estremi est;
   for (std::size_t i = 1; i < g.righe.size(); ++i)
-    if (const auto questo = EstDi(g.righe[i])) est.Vedi(*questo);
+    if (const auto questo = AllaRiga([i] { return i + 1; }, g.righe[i], [&] { return EstDi(g.righe[i]); }))
+      est.Vedi(*questo);
   if (est.Vuoti()) return;
   g.righe[1] = RigaNoveCon(g.righe[1], est.Media(), g.ambiente.sessione.VersionePregeo);
 }

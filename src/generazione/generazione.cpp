@@ -3,7 +3,6 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 
 #include <algorithm>
 
@@ -43,10 +42,12 @@ std::string ConNota(std::string_view riga, std::size_t campo, const std::string&
 }
 
 void MettiNote(Generazione& g) {
-  for (std::string& riga : g.gps) {
+  for (std::size_t i = 0; i < g.gps.size(); ++i) {
+    std::string& riga = g.gps[i];
     if (!RigaMisura(riga)) continue;
     if (const PuntoDisegno* punto = g.tabelle.Trova(Parte(riga, '|', 1)))
-      riga = ConNota(riga, GenereDi(riga) == Genere::Stazione ? 4 : 6, punto->Nota);
+      riga = AllaRiga([i] { return i + 1; }, riga,
+                      [&] { return ConNota(riga, GenereDi(riga) == Genere::Stazione ? 4 : 6, punto->Nota); });
   }
 }
 
@@ -131,6 +132,7 @@ void MettiTestata(Generazione& g) {
   g.rapporto.emplace_back(g.opzioni.OrientaAzimut       ? "Calcola Tutti Azimut"
                           : g.opzioni.OrientaPrecedente ? "Azzera su Stazione Precedente"
                                                         : "Orienta su Lib.Misure");
+  for (const std::string& riga : g.tabelle.Scartate) g.rapporto.push_back("Riga del disegno non letta: " + riga);
 }
 
 void TogliUgualiVicine(Generazione& g) {

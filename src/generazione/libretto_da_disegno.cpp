@@ -5,13 +5,13 @@
 
 #include <base/numeri.h>
 #include <base/percorsi.h>
+#include <base/piano.h>
 #include <base/testo.h>
 #include <core/apertura.h>
-#include <core/libretto_in_classi.h>
 #include <core/mostra_errore.h>
 #include <core/riga.h>
+#include <core/riordino.h>
 #include <core/salvataggio.h>
-#include <core/servizi.h>
 #include <supporto/stampa_generale.h>
 
 #include <algorithm>
@@ -282,8 +282,7 @@ void LibrettoDaDisegno::MostraRapporto(const std::vector<std::string>& rapporto)
 }
 
 void LibrettoDaDisegno::RiordinaEdElenca() {
-  RicomponiLibretto(ambiente_, EsplodiLibretto(ambiente_));
-  CaricaLibrettoInList1(ambiente_);
+  subRiordinoRighe(ambiente_);
   ambiente_.sessione.PuntoErrore = "Decozero_128";
   ElencoRighe& elenco = ambiente_.sessione.List1;
   for (std::size_t i = 0; i < elenco.Quante(); ++i) {

@@ -114,7 +114,7 @@ void AggiungiRighe7(std::vector<std::string>& righe, std::string_view testa, std
 } // namespace
 
 bool Continuazione(std::string_view riga) {
-  return GenereRiga(riga) == 7 && Parte(riga, '|', 1) == "0";
+  return GenereDi(riga) == Genere::Contorno && Parte(riga, '|', 1) == "0";
 }
 
 std::string Esplodi_Proposta(std::string_view testo) {
@@ -126,7 +126,7 @@ std::string Esplodi_Proposta(std::string_view testo) {
     const std::string_view riga = righe[i - 1];
     if (Continuazione(riga)) continue;
     const auto continuazioni = std::span(righe).subspan(i, fine - i);
-    const bool testa = GenereRiga(riga) == 7;
+    const bool testa = GenereDi(riga) == Genere::Contorno;
     if (!testa)
       for (auto orfana = continuazioni.rbegin(); orfana != continuazioni.rend(); ++orfana)
         AggiungiRiga(esplosa, *orfana);
@@ -142,7 +142,7 @@ std::string Esplodi_Proposta(std::string_view testo) {
 
 std::vector<std::string> Implodi_Proposta(std::string_view riga) {
   const Campi campi = Dividi(riga, "|");
-  if (GenereRiga(riga) != 7 || campi.size() <= PrimoNome ||
+  if (GenereDi(riga) != Genere::Contorno || campi.size() <= PrimoNome ||
       std::none_of(campi.begin() + PrimoNome, campi.end(), ChiudeTratto))
     return {std::string(riga)};
   const ContornoAperto contorno = LeggiTratti(campi);
@@ -157,8 +157,8 @@ std::vector<std::string> Implodi_Proposta(std::string_view riga) {
 
 std::vector<std::string> SpezzaRiga7(std::string_view riga) {
   const Campi campi = CampiRiga(riga);
-  if (GenereRiga(riga) != 7 || campi.size() <= PrimoNome + 1 + NomiPerRiga7 || !CodiceLinea(campi.back()) ||
-      !riga.ends_with('|'))
+  if (GenereDi(riga) != Genere::Contorno || campi.size() <= PrimoNome + 1 + NomiPerRiga7 ||
+      !CodiceLinea(campi.back()) || !riga.ends_with('|'))
     return {std::string(riga)};
   const std::vector<std::string_view> nomi(campi.begin() + PrimoNome, campi.end() - 1);
   if (!Continuazione(riga)) return ComponiRighe7(nomi, campi.back(), {});

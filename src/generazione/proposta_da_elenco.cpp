@@ -4,7 +4,7 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/cartelle.h>
 #include <estratti/kr_estratto.h>
 #include <generazione/completa7.h>
 #include <generazione/proposta.h>

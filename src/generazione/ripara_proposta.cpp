@@ -61,12 +61,12 @@ public:
 
 private:
   void Riga(std::string_view riga) {
-    const double genere = GenereRiga(riga);
-    if (genere == 7) return Riga7(riga);
+    const Genere genere = GenereDi(riga);
+    if (genere == Genere::Contorno) return Riga7(riga);
     Chiudi();
-    if (genere == 8)
+    if (genere == Genere::Coordinate)
       righe.punti.push_back(riga);
-    else if (genere == 6)
+    else if (genere == Genere::Libera)
       aperto_.commento = riga;
     else if (!Taglia(riga).empty())
       righe.altre.push_back(riga);

@@ -165,7 +165,9 @@ void MettiSquadri(Generazione& g) {
   g.rapporto.emplace_back("Carica Squadri dal Disegno");
   if (!g.opzioni.MantieniRighe4) {
     Squadri squadri(g);
-    for (const ContornoDisegno& contorno : g.tabelle.Contorni) squadri.Contorno(contorno);
+    const auto& contorni = g.tabelle.Contorni;
+    for (std::size_t i = 0; i < contorni.size(); ++i)
+      AllaRiga([i] { return i + 1; }, contorni[i].Punti, [&] { squadri.Contorno(contorni[i]); });
     return;
   }
   g.rapporto.emplace_back("Mantiene Righe 4-5 del Libretto");

@@ -1,8 +1,9 @@
 #include <generazione/tabelle_disegno.h>
 
 #include <base/numeri.h>
+#include <base/piano.h>
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/lettura.h>
 
 #include <algorithm>
 #include <cmath>
@@ -47,9 +48,15 @@ ContornoDisegno LeggiContorno(const Campi& campi) {
 
 void LeggiRecord(std::string_view riga, TabelleDisegno& tabelle) {
   const Campi campi = Dividi(riga, ",");
-  if (campi[0] == "P") tabelle.Aggiungi(LeggiPunto(campi));
-  if (campi[0] == "L") tabelle.Aggiungi(LeggiLinea(campi));
-  if (campi[0] == "7") tabelle.Contorni.push_back(LeggiContorno(campi));
+  const std::string_view genere = campi.size() > 1 ? campi[0] : std::string_view{};
+  if (genere == "P")
+    tabelle.Aggiungi(LeggiPunto(campi));
+  else if (genere == "L")
+    tabelle.Aggiungi(LeggiLinea(campi));
+  else if (genere == "7")
+    tabelle.Contorni.push_back(LeggiContorno(campi));
+  else
+    tabelle.Scartate.emplace_back(riga);
 }
 
 // "            100 -             101", the names in their order.
@@ -84,7 +91,7 @@ TabelleDisegno LeggiDisegno(std::string_view testo) {
   tabelle.Riserva(static_cast<std::size_t>(
       std::count_if(righe.begin(), righe.end(), [](std::string_view riga) { return riga.starts_with("P,"); })));
   for (const auto riga : righe)
-    if (Contiene(riga, ",")) LeggiRecord(riga, tabelle);
+    if (!Taglia(riga).empty()) LeggiRecord(riga, tabelle);
   return tabelle;
 }
 

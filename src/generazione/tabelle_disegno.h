@@ -42,6 +42,7 @@ struct ContornoDisegno {
 class TabelleDisegno {
 public:
   std::vector<ContornoDisegno> Contorni;
+  std::vector<std::string> Scartate; // lines that are no record
 
   [[nodiscard]] const std::vector<PuntoDisegno>& Punti() const { return punti_; }
   [[nodiscard]] const std::vector<LineaDisegno>& Linee() const { return linee_; }
@@ -64,7 +65,7 @@ private:
 };
 
 // The text of a .LXC: a record a line, fields at commas, a missing one empty; a line without a comma and a record of
-// another kind are passed over.
+// another kind go to Scartate, blank lines nowhere.
 //   P,name,X,Y,Z,note,h       L,x1,y1,z1,x2,y2,z2       7,|a|b|RC|,type,comment
 [[nodiscard]] TabelleDisegno LeggiDisegno(std::string_view testo);
 

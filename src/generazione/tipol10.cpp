@@ -2,10 +2,12 @@
 
 #include <base/errore.h>
 #include <base/numeri.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
+#include <core/cartelle.h>
+#include <core/lettura.h>
 #include <core/mostra_errore.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <estratti/kr_estratto.h>
 #include <generazione/polilinee_dxf.h>
 

@@ -2,8 +2,8 @@
 
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <core/lettura.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 
 #include <memory>
 #include <utility>

@@ -2,7 +2,7 @@
 
 #include <base/testo.h>
 #include <core/mostra_errore.h>
-#include <core/servizi.h>
+#include <core/programmi.h>
 #include <grafica/grafica.h>
 
 #include <array>

@@ -1,7 +1,6 @@
 #include <grafica/form_disegno.h>
 
 #include <core/mostra_errore.h>
-#include <core/servizi.h>
 
 namespace lirmeto {
 

@@ -134,20 +134,21 @@ private:
   std::int16_t stile_ = stile::Continuo;
 };
 
-// Puts the rings of a list into the store, each as soon as it is whole.
+// Puts the rings of a list into the store, each as soon as it is whole. An error names the row that began the ring.
 class Anelli {
 public:
-  Anelli(ArchivioGrafica& archivio, std::string& punto, bool sottoProposta)
-      : archivio_(archivio), punto_(punto), sottoProposta_(sottoProposta) {}
+  Anelli(const ListaRighe& righe, ArchivioGrafica& archivio, std::string& punto, bool sottoProposta)
+      : righe_(righe), archivio_(archivio), punto_(punto), sottoProposta_(sottoProposta) {}
 
-  void Riga(std::string_view riga) {
-    const auto campi = CampiRiga7(riga);
+  void Riga(std::size_t indice) {
+    const auto campi = CampiRiga7(righe_[indice]);
     if (campi.size() > 1 && campi[1] == "0") return Accoda(anello_.campi, campi, 2, campi.size());
     if (campi.size() > 3 && campi[3] == "PV") return;
     if (!anello_.campi.empty()) Disegna();
     anello_.campi.clear();
     anello_.chiusura.clear();
     anello_.Inizia(campi);
+    testa_ = indice;
   }
 
   // The last ring counts when it has vertices.
@@ -158,6 +159,10 @@ public:
 
 private:
   void Disegna() {
+    AllaRiga([&] { return righe_.NumeroDiRiga(testa_); }, righe_[testa_], [&] { DisegnaAnello(); });
+  }
+
+  void DisegnaAnello() {
     const std::string intero = anello_.campi + anello_.chiusura + "|";
     const auto campi = Dividi(anello_.campi, "|");
     Cammino cammino(archivio_, punto_, Contiene(intero, "+") ? 2 : 1, sottoProposta_);
@@ -165,10 +170,12 @@ private:
     DisegnaNomeParticella(intero, cammino.Colore(), archivio_);
   }
 
+  const ListaRighe& righe_;
   ArchivioGrafica& archivio_;
   std::string& punto_;
   bool sottoProposta_;
   Anello anello_;
+  std::size_t testa_ = 0; // row that began it
 };
 
 } // namespace
@@ -185,9 +192,9 @@ void DisegnaRighe(const ListaRighe& righe, bool sottoProposta, ArchivioGrafica& 
   archivio.Riserva(archivio.Punti().size() + diGenere(Genere::Coordinate) + diGenere(Genere::Contorno), 0);
   for (const auto riga : righe)
     if (GenereDi(riga) == Genere::Coordinate) archivio.Aggiungi(PuntoDaRiga8(riga));
-  Anelli anelli(archivio, punto, sottoProposta);
-  for (const auto riga : righe)
-    if (GenereDi(riga) == Genere::Contorno) anelli.Riga(riga);
+  Anelli anelli(righe, archivio, punto, sottoProposta);
+  for (std::size_t i = 0; i < righe.size(); ++i)
+    if (GenereDi(righe[i]) == Genere::Contorno) anelli.Riga(i);
   anelli.Fine();
 }
 

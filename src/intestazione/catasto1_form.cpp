@@ -2,10 +2,11 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/apri_form.h>
+#include <core/lettura.h>
 #include <core/mostra_errore.h>
 #include <core/nomi_forme.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <core/zero_nove.h>
 #include <intestazione/catasto1_righe.h>
 #include <pregeo/catasto1_file.h>

@@ -4,7 +4,7 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/lettura.h>
 #include <core/zero_nove.h>
 #include <estratti/dati_estratto.h>
 #include <fiduciali/quota_media.h>

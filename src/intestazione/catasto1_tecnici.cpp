@@ -2,8 +2,8 @@
 
 #include <intestazione/catasto1_form.h>
 
+#include <base/percorsi.h>
 #include <base/testo.h>
-#include <core/servizi.h>
 #include <pregeo/tecnico.h>
 
 namespace lirmeto {

@@ -3,7 +3,7 @@
 #include <intestazione/catasto1_form.h>
 
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/lettura.h>
 #include <core/zero_nove.h>
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include <pregeo/gondella.h>
 
 #include <base/errore.h>
-#include <core/servizi.h>
+#include <core/programmi.h>
 
 namespace lirmeto {
 

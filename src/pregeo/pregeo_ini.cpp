@@ -1,8 +1,8 @@
 #include <pregeo/pregeo_ini.h>
 
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <core/tabelle.h>
 #include <core/zero_nove.h>
 #include <pregeo/pregeo_ini_scrittura.h>

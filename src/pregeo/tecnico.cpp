@@ -1,8 +1,9 @@
 #include <pregeo/tecnico.h>
 
 #include <base/numeri.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/lettura.h>
 #include <pregeo/pregeo_ini.h>
 
 #include <algorithm>

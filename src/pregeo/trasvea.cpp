@@ -1,6 +1,6 @@
 #include <pregeo/trasvea.h>
 
-#include <core/servizi.h>
+#include <core/lettura.h>
 #include <pregeo/gondella.h>
 
 namespace lirmeto {

@@ -1,9 +1,9 @@
 #include <proposte/file_particella.h>
 
 #include <base/errore.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <proposte/derivazioni.h>
 
 #include <algorithm>

@@ -1,10 +1,12 @@
 #include <proposte/kr_edm.h>
 
 #include <base/numeri.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
+#include <core/apri_form.h>
+#include <core/lettura.h>
 #include <core/mostra_errore.h>
 #include <core/riga_censuaria.h>
-#include <core/servizi.h>
 #include <core/zero_nove.h>
 #include <estratti/kr_estratto.h>
 #include <pregeo/aree_proposta.h>

@@ -1,9 +1,9 @@
 #include <proposte/memo.h>
 
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/riga.h>
 #include <core/riga_censuaria.h>
-#include <core/servizi.h>
 #include <core/zero_nove.h>
 
 namespace lirmeto {

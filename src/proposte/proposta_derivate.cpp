@@ -2,10 +2,10 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/mostra_errore.h>
 #include <core/riga.h>
 #include <core/riga_censuaria.h>
-#include <core/servizi.h>
 #include <pregeo/aree_proposta.h>
 #include <proposte/derivazioni.h>
 #include <proposte/lettere.h>

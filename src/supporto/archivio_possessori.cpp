@@ -2,9 +2,9 @@
 
 #include <base/errore.h>
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/mostra_errore.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 
 #include <algorithm>
 

@@ -3,7 +3,8 @@
 #include <base/errore.h>
 #include <base/numeri.h>
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/cartelle.h>
+#include <core/lettura.h>
 
 #include <algorithm>
 #include <optional>

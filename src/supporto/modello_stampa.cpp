@@ -1,8 +1,9 @@
 #include <supporto/modello_stampa.h>
 
 #include <base/errore.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/lettura.h>
 
 #include <array>
 

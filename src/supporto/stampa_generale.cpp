@@ -1,10 +1,11 @@
 #include <supporto/stampa_generale.h>
 
 #include <base/errore.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/carattere.h>
 #include <core/mostra_errore.h>
-#include <core/servizi.h>
+#include <core/programmi.h>
 #include <core/zero_nove.h>
 #include <supporto/editor_gen.h>
 #include <supporto/modello_stampa.h>

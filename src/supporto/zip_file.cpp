@@ -1,7 +1,7 @@
 #include <supporto/zip_file.h>
 
 #include <base/errore.h>
-#include <core/servizi.h>
+#include <base/percorsi.h>
 
 #include <algorithm>
 #include <memory>

@@ -11,8 +11,8 @@
 #include <ui/libretto/finestra_principale.h>
 
 #include <applicazione/avvio.h>
+#include <core/cartelle.h>
 #include <core/mostra_errore.h>
-#include <core/servizi.h>
 #include <piattaforma/orologi.h>
 #include <piattaforma/processi_linux.h>
 #include <piattaforma/trova_dischi.h>

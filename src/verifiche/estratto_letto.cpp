@@ -70,14 +70,14 @@ bool EstrattoLetto::HaParticella(std::string_view nome) const {
 }
 
 void LettoreAnelli::Riga(std::string_view riga, std::size_t indice) {
-  const double genere = GenereRiga(riga);
-  if (genere != 7 && genere != 8) return;
+  const Genere genere = GenereDi(riga);
+  if (genere != Genere::Contorno && genere != Genere::Coordinate) return;
   const Campi campi(riga);
-  if (genere == 8 && campi.Quanti() > 3) {
+  if (genere == Genere::Coordinate && campi.Quanti() > 3) {
     punti.posti.insert_or_assign(std::string(campi[1]), Posto{Misura(campi[3]), Misura(campi[2])});
     return;
   }
-  if (genere != 7 || campi.Quanti() < 3) return;
+  if (genere != Genere::Contorno || campi.Quanti() < 3) return;
   const bool testa = Valore(campi[1]) != 0;
   if (ELinea(campi)) {
     if (testa || linee.empty()) linee.emplace_back();

@@ -33,7 +33,7 @@ double NumeroDi(std::string_view campo) {
   return campo.find(',') == std::string_view::npos ? Misura(campo) : Misura(Sostituisci(campo, ",", "."));
 }
 
-std::int8_t NumeroGenere(std::string_view riga) {
+std::int8_t GenereNoto(std::string_view riga) {
   const double valore = GenereRiga(riga);
   if (valore != std::floor(valore) || valore < 0 || valore > 9) return -1;
   if (valore == 0 && !riga.starts_with("0|")) return -1;
@@ -232,7 +232,7 @@ bool CodiceDiLinea(std::string_view codice) {
 
 RigaLetta LeggiRiga(std::string_view riga, const Campi& campi, NomiPunti& nomi) {
   RigaLetta letta;
-  letta.genere = NumeroGenere(riga);
+  letta.genere = GenereNoto(riga);
   letta.impronta = std::hash<std::string_view>{}(riga);
   const bool conNome =
       letta.genere == 1 || letta.genere == 2 || letta.genere == 4 || letta.genere == 5 || letta.genere == 8;

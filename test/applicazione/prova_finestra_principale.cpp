@@ -366,7 +366,7 @@ TEST(Scartate, LAvvisoRestaFinoAlProssimoCambiamento) {
   sala.disco.Metti("C:\\ACT.DAT", Testo({Zero, Nove, "8|1|1|1|", "6|una|due|tre|", "6|x|y|z|w|"}));
   sala.finestra.Avvia("C:\\ACT.DAT");
   sala.finestra.Esegui(Comando::RiordinoRighe);
-  EXPECT_EQ(sala.finestra.AvvisoScartate, "Il riordino ha scartato 2 righe senza classe");
+  EXPECT_EQ(sala.finestra.AvvisoScartate, "Scartate 2 righe senza classe");
   sala.finestra.Esegui(Comando::SelezionaStazioni);
   sala.finestre.utente = [&](Modello& modello) {
     auto& form = dynamic_cast<FormRigheScartate&>(modello);

@@ -130,6 +130,7 @@ TEST(Lxb, SostituisceSoloLeMisure) {
             Testo({Zero, Nove, "6|commento|", "3|2|200|300|", "2|21|1,2,3|c|", "6|prima di gps|", "2|22|1,1,1|c|",
                    "1|200|1.6|N|", "2|20|10.0|100.0|5.0|1.5|N|", "4|A|B|1|", "6|sopra il contorno|", "7|2|1|2|NC|",
                    "8|1|2|3|"}));
+  EXPECT_EQ(prova::Copia(banco.sessione.RigheScartate), (Righe{"6|persa|", "8|9|9|9|"}));
 }
 
 TEST(Lxb, VuotoNonCambiaESenzaDatSiUnisceAllaSessione) {
@@ -168,6 +169,7 @@ TEST(Pdf, SezioniDelLibretto) {
   EXPECT_EQ(banco.sessione.NomeFileLibretto, "C:\\ATTO.TXT");
   EXPECT_EQ(banco.sessione.EstrattoAssociato, "BBB.EMP");
   EXPECT_EQ(banco.sessione.Ditta, "Rossi 9 Mario\r\nvia 9");
+  EXPECT_EQ(prova::Copia(banco.sessione.RigheScartate), (Righe{"[TAG777]|ignota|"}));
   EXPECT_TRUE(banco.dialoghi.detti.empty());
 }
 

@@ -2,10 +2,12 @@
 
 #include <base/errore.h>
 #include <base/percorsi.h>
+#include <base/piano.h>
 #include <base/testo.h>
+#include <core/cartelle.h>
 #include <core/elenco_righe.h>
 #include <core/mostra_errore.h>
-#include <core/servizi.h>
+#include <core/programmi.h>
 
 #include <gtest/gtest.h>
 
@@ -31,6 +33,9 @@ TEST(MostraErrore, OgniGuastoHaIlSuoRapporto) {
   };
   EXPECT_EQ(rapporto([] { throw Errore(53); }),
             "Si è verificato questo errore : 53\r\nImpossibile trovare il file\r\nNella Routine qui"_w);
+  EXPECT_TRUE(
+      Contiene(rapporto([] { AllaRiga([] { return 3U; }, "7|x|", [] { throw Errore(9).DellaRiga(2, "7|y|"); }); }),
+               "intervallo\r\nRiga 2: 7|y|\r\nNella"));
   EXPECT_EQ(rapporto([] { throw Errore(32755); }), "");
   EXPECT_EQ(banco.sessione.NumeroErrore, 32755);
   EXPECT_TRUE(Contiene(rapporto([] { throw std::bad_alloc(); }), " : 7\r\n"));
@@ -76,7 +81,7 @@ TEST(Servizi, NomiDaiDatiNonEsconoDallaCartella) {
   EXPECT_EQ(NomeDaPercorso("b.dat"), "b.dat");
   EXPECT_EQ(ConEstensione("C:\\A.LXC\\R.1.LXC", ".TXT") + ConEstensione("C:\\A.LXC\\R", ".TXT"),
             "C:\\A.LXC\\R.1.TXTC:\\A.LXC\\R.TXT");
-  EXPECT_DOUBLE_EQ(DistanzaPiana(1, 1, 4, 5), 5);
+  EXPECT_DOUBLE_EQ(DistanzaPiana({1, 1}, {4, 5}), 5);
 }
 
 TEST(ElencoRighe, IlCursoreRestaSullaSuaRiga) {

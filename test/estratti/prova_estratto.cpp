@@ -69,6 +69,7 @@ TEST(Estratto, IlSalvataggioOrdinaRinumeraERovescia) {
   EXPECT_EQ(Salvate(banco, Mista), MistaSalvata);
   EXPECT_TRUE(banco.dialoghi.detti.empty());
   EXPECT_EQ(banco.sessione.PuntoErrore, "SalvaEstratto1");
+  EXPECT_EQ(prova::Copia(banco.sessione.RigheScartate), (Righe{"6|SCONOSCIUTA|1|", "5|1|2|", "testo"}));
   // The hole stood behind its parcel in the file, hence before it in SETTE: only now it is taken off.
   Righe ancora = Salvate(banco, MistaSalvata);
   EXPECT_EQ(ancora[9], "7|5|1%|3%|2%|4%|1%|NC|35|35|5000|");

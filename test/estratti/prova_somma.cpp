@@ -3,9 +3,9 @@
 
 #include <base/errore.h>
 #include <base/numeri.h>
+#include <base/piano.h>
 #include <base/testo.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <estratti/autoallestito.h>
 #include <estratti/kr_estratto.h>
 #include <estratti/unione_estratti.h>
@@ -170,7 +170,7 @@ std::string ComeSiRacconta(const Righe& primo, const Righe& secondo) {
     for (auto& riga : *lista) SpostaRiga(riga, n);
   for (const auto& a : uno.otto)
     for (auto& b : due.otto) {
-      if (b.empty() || DistanzaPiana(Metri(a, 2), Metri(a, 3), Metri(b, 2), Metri(b, 3)) >= 0.001) continue;
+      if (b.empty() || DistanzaPiana({Metri(a, 3), Metri(a, 2)}, {Metri(b, 3), Metri(b, 2)}) >= 0.001) continue;
       for (auto& riga : due.sette) TraBarre(riga, std::string(Parte(b, '|', 1)), std::string(Parte(a, '|', 1)));
       b.clear();
     }

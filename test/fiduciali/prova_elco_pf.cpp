@@ -2,7 +2,7 @@
 
 #include <base/errore.h>
 #include <base/testo.h>
-#include <core/servizi.h>
+#include <core/cartelle.h>
 #include <fiduciali/elco_pf.h>
 #include <fiduciali/elco_pf_grafica.h>
 #include <fiduciali/elco_pf_griglia.h>

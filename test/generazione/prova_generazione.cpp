@@ -147,6 +147,14 @@ TEST(Misure, OrientamentoMarcheEArrotondamento) {
   }
 }
 
+TEST(Disegno, CioCheNonSiLeggeSiDiceNelRapporto) {
+  Disegno d;
+  d.Genera({"P,100,0,0,10,A,1", "nota a mano", "", "Q,1,2", "P,101,9,9,10,B,1", "L,0,0,0,9,9,0"}, {"MOSTRA_REPORT=1"});
+  EXPECT_EQ(std::count(d.rapporto.begin(), d.rapporto.end(), "Riga del disegno non letta: nota a mano") +
+                std::count(d.rapporto.begin(), d.rapporto.end(), "Riga del disegno non letta: Q,1,2"),
+            2);
+}
+
 TEST(Misure, OrientamentoDelLibrettoEsistente) {
   Disegno d;
   const Righe vecchie = {"1|100|CHIODO|",      "2|200|33.5|100|X|", "1|100|CHIODO|", "2|999|0|1|X|",

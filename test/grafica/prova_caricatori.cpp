@@ -185,6 +185,17 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoGuasto{"A.EMP", "8|1T|1|1|angolo|\n8|2T|1|1|1e400|\n", 0}, CasoGuasto{"A.CSV", "\n\n \n", 0},
                     CasoGuasto{"A.PDF", "2000]|8|1|1|1|", 0}, CasoGuasto{"A.SUR", std::string("8|\0|7||||", 9), 0}));
 
+// The row that began the ring, as it stands in the file: blank rows and those left out count.
+TEST_F(Caricatori, LErroreDiceLaRiga) {
+  grafica.Vista().Check4 = true;
+  try {
+    Carica("A.EMP", "0|\n8|PF01/1/A|0|0|\n\n7|2|1%|2%|NC|5|5|100|\n7|0|3%|NC|\n");
+    FAIL();
+  } catch (const Errore& errore) {
+    EXPECT_EQ(errore.Riga(), "4: 7|2|1%|2%|NC|5|5|100|");
+  }
+}
+
 // Wherever a file is cut it loads, or says why not.
 TEST_F(Caricatori, UnFileTagliatoOvunque) {
   const std::string pdf = "%PDF[TAG2000]|8|1|0|1|<nr>8|2|0|2|<nr>7|2|1|2|NC|7|7|4|<nr>7|0|1|2|NC|[/TAG][TAG4000]|9|X";

@@ -1,9 +1,10 @@
 #include "banco.h"
 
 #include <base/errore.h>
+#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/apertura.h>
-#include <core/servizi.h>
+#include <core/cartelle.h>
 
 #include <algorithm>
 

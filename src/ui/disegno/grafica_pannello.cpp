@@ -8,7 +8,6 @@
 #include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/mostra_errore.h>
-#include <core/servizi.h>
 #include <grafica/comandi_grafica.h>
 
 #include <QAction>

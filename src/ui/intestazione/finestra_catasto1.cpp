@@ -3,8 +3,8 @@
 #include <ui/comune/aspetto.h>
 #include <ui/comune/testo_qt.h>
 
+#include <core/apri_form.h>
 #include <core/nomi_forme.h>
-#include <core/servizi.h>
 
 #include <QAbstractItemView>
 #include <QCheckBox>

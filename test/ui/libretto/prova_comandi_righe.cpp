@@ -105,7 +105,7 @@ TEST(ComandiRighe, LeRigheScartateSiLeggonoInBasso) {
   EXPECT_FALSE(avviso.isVisible());
   QTest::keyClick(&*tavolo.finestra, Qt::Key_F5);
   ASSERT_TRUE(avviso.isVisible());
-  EXPECT_EQ(avviso.text(), QStringLiteral("Il riordino ha scartato 1 riga senza classe"));
+  EXPECT_EQ(avviso.text(), QStringLiteral("Scartata 1 riga senza classe"));
   NellaProssimaFinestra([&](QWidget& finestra) {
     EXPECT_EQ(finestra.findChild<QListView*>()->model()->index(0, 0).data().toString(), QStringLiteral("6|a|b|c|"));
     finestra.findChild<QPushButton*>(QStringLiteral("Copia"))->click();

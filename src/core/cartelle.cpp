@@ -1,12 +1,9 @@
-#include <core/servizi.h>
+#include <core/cartelle.h>
 
-#include <base/errore.h>
-#include <base/testo.h>
 #include <core/mostra_errore.h>
 
-#include <algorithm>
 #include <array>
-#include <cmath>
+#include <string_view>
 
 namespace lirmeto {
 
@@ -92,72 +89,6 @@ void CartelleSpeciali(Ambiente& ambiente) {
   sessione.CartellaWindows = cartelle.windows;
   sessione.CartellaTemp = cartelle.temporanea;
   sessione.CartellaProgrammi = cartelle.programmi;
-}
-
-void AttendiProgramma(Ambiente& ambiente, const std::string& programma, const std::vector<std::string>& argomenti) {
-  ambiente.sessione.PuntoErrore = "3105";
-  ambiente.processi.AvviaEAttendi(programma, argomenti);
-}
-
-void TerminaProcesso(Ambiente& ambiente, std::string_view immagine) {
-  std::vector<long> processi = ambiente.processi.Elenca(immagine);
-  // This process goes last, so that the others are gone by then.
-  std::stable_partition(processi.begin(), processi.end(),
-                        [&](long processo) { return processo != ambiente.processi.QuestoProcesso(); });
-  int ultimo = 0;
-  for (const long processo : processi) ultimo = ambiente.processi.Termina(processo);
-  // The message says that the program was ended and is shown when the last end
-  // failed: that sense is meant so.
-  if (ultimo != 0)
-    ambiente.dialoghi.Messaggio("Il programma " + std::string(immagine) + std::string(" è stato terminato!"_w));
-}
-
-void TerminaPregeo(Ambiente& ambiente) {
-  for (const std::string_view immagine : {"pregeo.exe", "fire.exe", "elab.exe", "moduli.exe"})
-    TerminaProcesso(ambiente, immagine);
-}
-
-std::string CaricaFileIntero(Ambiente& ambiente, std::string_view percorso) {
-  ambiente.sessione.PuntoErrore = "cARICA fILE iNTERO";
-  return ambiente.disco.Esiste(percorso) ? ConFineRiga(ambiente.disco.Leggi(percorso)) : std::string{};
-}
-
-std::string CaricaFileBinario(Ambiente& ambiente, std::string_view percorso) {
-  return ambiente.disco.Leggi(percorso);
-}
-
-void AggiungiRigaLibretto(Sessione& sessione, std::string_view riga) {
-  sessione.Libretto += Taglia(riga);
-  sessione.Libretto += FineRiga;
-}
-
-double DistanzaPiana(double x1, double y1, double x2, double y2) {
-  return DistanzaPiana(PuntoPiano{x1, y1}, PuntoPiano{x2, y2});
-}
-
-bool ApriForm(Ambiente& ambiente, std::string_view nome) {
-  const bool disponibile = ambiente.finestre.Disponibile(nome);
-  if (disponibile)
-    ambiente.finestre.Apri(nome);
-  else
-    ambiente.dialoghi.Messaggio(NonAncoraDisponibile);
-  return disponibile;
-}
-
-std::string ComponenteFile(std::string_view nome) {
-  if (nome == ".." || nome.find_first_of("\\/:") != std::string_view::npos)
-    throw Errore(errore::NomeFileNonValido, "Nome di file non valido: \"" + std::string(nome) + "\"");
-  return std::string(nome);
-}
-
-std::string PercorsoInCapitali(const Disco& disco, std::string_view percorso) {
-  std::string alto = Maiuscolo(percorso);
-  return disco.StessoPosto(alto, percorso) ? alto : std::string(percorso);
-}
-
-std::string_view NomeDaPercorso(std::string_view percorso) {
-  const std::size_t barra = percorso.find_last_of("\\/");
-  return barra == std::string_view::npos ? percorso : percorso.substr(barra + 1);
 }
 
 } // namespace lirmeto

@@ -1,0 +1,32 @@
+#include <core/programmi.h>
+
+#include <base/testo.h>
+
+#include <algorithm>
+
+namespace lirmeto {
+
+void AttendiProgramma(Ambiente& ambiente, const std::string& programma, const std::vector<std::string>& argomenti) {
+  ambiente.sessione.PuntoErrore = "3105";
+  ambiente.processi.AvviaEAttendi(programma, argomenti);
+}
+
+void TerminaProcesso(Ambiente& ambiente, std::string_view immagine) {
+  std::vector<long> processi = ambiente.processi.Elenca(immagine);
+  // This process goes last, so that the others are gone by then.
+  std::stable_partition(processi.begin(), processi.end(),
+                        [&](long processo) { return processo != ambiente.processi.QuestoProcesso(); });
+  int ultimo = 0;
+  for (const long processo : processi) ultimo = ambiente.processi.Termina(processo);
+  // The message says that the program was ended and is shown when the last end
+  // failed: that sense is meant so.
+  if (ultimo != 0)
+    ambiente.dialoghi.Messaggio("Il programma " + std::string(immagine) + std::string(" è stato terminato!"_w));
+}
+
+void TerminaPregeo(Ambiente& ambiente) {
+  for (const std::string_view immagine : {"pregeo.exe", "fire.exe", "elab.exe", "moduli.exe"})
+    TerminaProcesso(ambiente, immagine);
+}
+
+} // namespace lirmeto

@@ -1,0 +1,21 @@
+#pragma once
+// Other programs: started and waited for, ended.
+
+#include <core/ambiente.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lirmeto {
+
+// Starts a program of the suite and waits for its end without limit.
+void AttendiProgramma(Ambiente& ambiente, const std::string& programma, const std::vector<std::string>& argomenti);
+
+// Ends every process of that name; tells of it only if the last end failed.
+void TerminaProcesso(Ambiente& ambiente, std::string_view immagine);
+
+// Ends pregeo.exe, fire.exe, elab.exe, moduli.exe.
+void TerminaPregeo(Ambiente& ambiente);
+
+} // namespace lirmeto
