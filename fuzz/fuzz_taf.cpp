@@ -4,8 +4,12 @@
 
 #include <base/testo.h>
 #include <core/riga.h>
+#include <fiduciali/elco_pf_grafica.h>
+#include <fiduciali/elco_pf_griglia.h>
 #include <fiduciali/importa_fiduciali.h>
 #include <fiduciali/misurate.h>
+#include <fiduciali/misurate_pf.h>
+#include <fiduciali/relazioni_pf.h>
 #include <fiduciali/taf.h>
 #include <sostituti/banco.h>
 
@@ -60,6 +64,42 @@ void ProvaMisurate(prova::Banco& banco, const std::string& testo) {
   Pretendi(banco.disco.Contenuto(Lista) == "Provincia di : PD.DDD\r\n" + attese, "the report has the point's lines");
 }
 
+// One walk over the archive finds what a search for each pair would, and the report of all pairs comes out.
+void ProvaCoppie(prova::Banco& banco, const std::string& testo) {
+  const std::vector<std::string> nomi = {"PF", "PF0", Punto, Punto + "@", "PF02/0010/G224"};
+  const RelazioniPF relazioni(banco.dialoghi, nomi, testo);
+  for (std::size_t i = 0; i < nomi.size(); ++i)
+    for (std::size_t j = i + 1; j < nomi.size(); ++j) {
+      std::size_t attese = 0;
+      for (const auto riga : RigheDi(testo))
+        if (Contiene(riga, nomi[i]) && Contiene(riga, nomi[j])) ++attese;
+      Pretendi(relazioni.Righe(i, j).size() == attese, "a pair has the lines that hold both its names");
+    }
+  banco.sessione.Libretto = "8|" + Punto + "|\r\n8|" + nomi[3] + "|\r\n8|" + nomi[4] + "|\r\n";
+  Pretendi(MisurateDelLibretto(banco.ambiente).has_value(), "no archive stops the report");
+}
+
+// The table and the plane, each command of the view.
+void ProvaVisualizzatore(prova::Banco& banco) {
+  constexpr int ultimo = 15;
+  TabellaPF tabella{"G224", "", "PD", {}};
+  CaricaPunti(banco.ambiente, tabella);
+  KR_ElcoPfGriglia griglia(banco.ambiente, tabella);
+  griglia.Carica();
+  for (std::size_t colonna = 0; colonna < ColonnePF.size(); ++colonna) griglia.Ordina(colonna);
+  Pretendi(griglia.Viste.size() == tabella.punti.size(), "sorting loses no row");
+  KR_ElcoPFGrafica piano(banco.ambiente, tabella);
+  piano.AlCaricamento();
+  for (int comando = 0; comando <= ultimo; ++comando) piano.Esegui(comando);
+  for (const SegmentoPF& segmento : piano.Segmenti)
+    Pretendi(segmento.primo < segmento.secondo && segmento.secondo < piano.Punti.size(), "a segment has two points");
+  piano.Seleziona(SelezionePF::GaussBoaga);
+  piano.Seleziona(SelezionePF::Inverti);
+  piano.SelezionaFoglio(0, 0);
+  (void)piano.Leggenda(0, 0);
+  Pretendi(piano.Larghezza() > 0, "a view has a width");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quanti) {
@@ -71,5 +111,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t quan
   ProvaArchivio(banco, testo);
   ProvaForm(banco);
   ProvaMisurate(banco, testo);
+  ProvaCoppie(banco, testo);
+  ProvaVisualizzatore(banco);
   return 0;
 }

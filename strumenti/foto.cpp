@@ -11,6 +11,9 @@
 #include <ui/disegno/finestra_disegno.h>
 #include <ui/disegno/grafica_pannello.h>
 #include <ui/disegno/grafica_superficie.h>
+#include <ui/fiduciali/finestra_elco_pf.h>
+#include <ui/fiduciali/finestra_elco_pf_grafica.h>
+#include <ui/fiduciali/finestra_elco_pf_griglia.h>
 #include <ui/generazione/finestra_libretto_disegno.h>
 #include <ui/intestazione/finestra_catasto1.h>
 #include <ui/libretto/finestra_principale.h>
@@ -151,7 +154,7 @@ public:
     finestra.resize(1440, 900); // the platform's screen is smaller than any real one
     finestra.show();
     return Principale(finestra) && Ricerca(finestra) && Strumenti(finestra) && Editor() && Riordino() &&
-           ConfiguraPregeo() && Intestazione() && Stampa() && Comuni() && Scartate(finestra);
+           ConfiguraPregeo() && Intestazione() && Stampa() && Comuni() && Fiduciali() && Scartate(finestra);
   }
 
   [[nodiscard]] bool Disegno(const std::string& file) {
@@ -268,6 +271,31 @@ private:
     ui::FinestraCodFis finestra(form);
     finestra.show();
     return Salva(finestra, "comuni");
+  }
+
+  // The comuni with a TAF, the points of one, and those of a sheet selected on the plane with the distances measured.
+  bool Fiduciali() {
+    constexpr int misurate = 6;
+    KR_ElcoPf scelta(ambiente_);
+    scelta.AlCaricamento();
+    ui::FinestraElcoPf comuni(scelta);
+    comuni.show();
+    KR_ElcoPfGriglia griglia(ambiente_, {"G224", "PADOVA", "PD", {}});
+    griglia.Carica();
+    ui::FinestraElcoPfGriglia tabella(griglia);
+    tabella.resize(1180, 480);
+    tabella.show();
+    KR_ElcoPFGrafica piano(ambiente_, griglia.Tabella());
+    piano.AlCaricamento();
+    ui::FinestraElcoPfGrafica grafica(piano);
+    grafica.resize(1240, 680);
+    grafica.show();
+    QApplication::processEvents();
+    piano.Esegui(misurate);
+    if (!piano.Punti.empty()) piano.SelezionaFoglio(piano.Punti.front().est, piano.Punti.front().nord);
+    emit grafica.Superficie().Uscito();
+    return Salva(comuni, "fiduciali_comuni") && Salva(tabella, "fiduciali_tabella") &&
+           Salva(grafica, "fiduciali_piano");
   }
 
   // The rows of the libretto as a report.

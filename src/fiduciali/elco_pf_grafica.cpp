@@ -24,7 +24,7 @@ namespace lirmeto {
 //   the archive of the province          the code and ".DDD"; where that file is not, the last archive of the province
 //   the two points of a distance         the names in its two columns of 15 characters
 //   names with an end in "T"             are points of the TAF all the same, and not toponyms
-//   the extent of all points             has a margin of a twentieth on each side
+//   the extent of all points             has a margin of a tenth on each side
 //   the point under the mouse            the nearest within a hundredth of the view's width
 //   the radius round a click             is asked for before the click
 //   choosing an extract                  the libretto keeps its own
@@ -124,7 +124,7 @@ void KR_ElcoPFGrafica::MettiRapporto(double rapporto) {
 // is seen too. Meant so.
 void KR_ElcoPFGrafica::ZoomTutto() {
   constexpr std::size_t terzo = 2;
-  constexpr double margine = 1.1;
+  constexpr double margine = 1.2;
   constexpr double massimo = std::numeric_limits<double>::max();
   VistaGrafica& vista = grafica_.Vista();
   const PuntoPF inizio = Punti.size() > terzo ? Punti[terzo] : PuntoPF{};

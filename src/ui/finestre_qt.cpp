@@ -1,6 +1,9 @@
 #include <ui/finestre_qt.h>
 
 #include <ui/disegno/finestra_disegno.h>
+#include <ui/fiduciali/finestra_elco_pf.h>
+#include <ui/fiduciali/finestra_elco_pf_grafica.h>
+#include <ui/fiduciali/finestra_elco_pf_griglia.h>
 #include <ui/fiduciali/finestra_importa_fiduciali.h>
 #include <ui/fiduciali/finestra_seleziona_misurate.h>
 #include <ui/generazione/finestra_libretto_disegno.h>
@@ -13,6 +16,7 @@
 #include <ui/supporto/finestra_codfis.h>
 #include <ui/supporto/finestra_comuni.h>
 #include <ui/supporto/finestra_editor.h>
+#include <ui/supporto/finestra_imputa.h>
 #include <ui/supporto/finestra_possessori.h>
 #include <ui/supporto/finestra_stampa_generale.h>
 
@@ -53,6 +57,10 @@ constexpr std::array Mostratori = {
     &MostraSe<AssegnaDescrizione, FinestraAssegnaDescrizione>,
     &MostraSe<FormImportaFiduciali, FinestraImportaFiduciali>,
     &MostraSe<KR_SelezionaMisurate, FinestraSelezionaMisurate>,
+    &MostraSe<KR_ElcoPf, FinestraElcoPf>,
+    &MostraSe<KR_ElcoPfGriglia, FinestraElcoPfGriglia>,
+    &MostraSe<KR_ElcoPFGrafica, FinestraElcoPfGrafica>,
+    &MostraSe<Imputa, FinestraImputa>,
 };
 
 } // namespace

@@ -232,18 +232,18 @@ TEST(Avvio, UnComandoNonPreparaLaFinestra) {
 
 TEST(Strumenti, LaTagPassaDalloSmistamentoELeCaselleSeguono) {
   Banco banco;
-  banco.finestre.disponibili = {"FormConfiguraPregeo"};
+  banco.finestre.disponibili = {"FormConfiguraPregeo", "KR_ElcoPf"};
   KR_LibrettoOriginale finestra(banco.ambiente);
   finestra.Avvia("");
   for (const auto& strumento : Strumenti()) {
     banco.sessione.SiglaProvincia = strumento.tag;
     finestra.EseguiStrumento(strumento.tag);
     EXPECT_EQ(banco.sessione.ComandoTag, strumento.tag);
-    EXPECT_EQ(finestra.SiglaPulsanteProvincia, strumento.tag);
+    EXPECT_EQ(finestra.SiglaPulsanteProvincia, banco.sessione.SiglaProvincia);
   }
   finestra.Esegui(Comando::ArchiviaLibretti);
   EXPECT_EQ(banco.sessione.ComandoTag, "Silvarca");
-  EXPECT_EQ(banco.finestre.aperte, std::vector<std::string>{"FormConfiguraPregeo"});
+  EXPECT_EQ(banco.finestre.aperte, (std::vector<std::string>{"FormConfiguraPregeo", "KR_ElcoPf"}));
   EXPECT_TRUE(banco.dialoghi.detti.empty());
 }
 

@@ -143,9 +143,9 @@ TEST_P(Estensioni, DalTerzoPunto) {
 
 INSTANTIATE_TEST_SUITE_P(
     Casi, Estensioni,
-    testing::Values(CasoEstensione{{}, 0, 0, 640}, CasoEstensione{{Punto("a", 1000, 500)}, 500, 250, 1101},
-                    CasoEstensione{{Punto("a", 1000, 500), Punto("b", 1000, 500)}, 500, 250, 1101},
-                    CasoEstensione{{Punto("a", 10, 5), Punto("b", 30, 5), Punto("c", 20, 5)}, 20, 5, 23},
+    testing::Values(CasoEstensione{{}, 0, 0, 640}, CasoEstensione{{Punto("a", 1000, 500)}, 500, 250, 1201},
+                    CasoEstensione{{Punto("a", 1000, 500), Punto("b", 1000, 500)}, 500, 250, 1201},
+                    CasoEstensione{{Punto("a", 10, 5), Punto("b", 30, 5), Punto("c", 20, 5)}, 20, 5, 25},
                     CasoEstensione{{Punto("a", 7, 5), Punto("b", 7, 5), Punto("c", 7, 5)}, 7, 5, 640}));
 
 TEST_F(Vista, IComandiSpostanoEIngrandiscono) {

@@ -63,8 +63,8 @@ def cerca(progetto, nomi, modello, perche):
 
 
 def finestre(progetto):
-    """No toolkit header outside the windows, their tests and the tools."""
-    fuori = [n for n in progetto.sorgenti() if not n.startswith(("src/ui/", "test/ui/", "strumenti/"))]
+    """No toolkit header outside the windows, their tests and measures, and the tools."""
+    fuori = [n for n in progetto.sorgenti() if not n.startswith(("src/ui/", "test/ui/", "bench/ui/", "strumenti/"))]
     return cerca(progetto, fuori, r'#\s*include\s*[<"](Q[A-Z]|Qt[A-Z]?\w*/|gtk|wx/|X11/)\S*', "toolkit header outside ui/")
 
 

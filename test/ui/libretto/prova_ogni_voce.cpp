@@ -132,7 +132,7 @@ TEST(OgniVoce, DelMenuFaCioCheDice) {
       {"Gondella", "programma C:\\Program Files (x86)\\Gondella\\GondellaLibretti.exe"},
       {"Grafica Pregeo > DXF", "spenta"},
       {"Crea Collegamenti Pregeo", "collegamenti, messaggio"},
-      {"Info Misurate PF", "selezione, messaggio"},
+      {"Info Misurate PF", "messaggio"},
       {"Guarda un Disegno", "finestra Disegno"},
       {"Cerca Comune", "finestra Ricerca Comune"},
       {"Comuni per Provincia", "finestra Comuni per Provincia"},
