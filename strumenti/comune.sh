@@ -6,7 +6,7 @@ export DEBIAN_FRONTEND=noninteractive
 
 PACCHETTI_PROGRAMMA=(g++ cmake ninja-build ccache lld libcli11-dev qt6-base-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins
   fonts-liberation fonts-dejavu-core qt6-translations-l10n zlib1g-dev libarchive-dev
-  libcairo2-dev pkg-config)
+  libcairo2-dev pkg-config qt6-image-formats-plugins)
 PACCHETTI_PROVE=(libgtest-dev clang clang-format clang-tidy libclang-rt-14-dev python3 python3-ezdxf git zip unzip
   p7zip-full)
 

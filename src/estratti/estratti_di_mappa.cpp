@@ -67,7 +67,6 @@ void KR_EstrattiDiMappa1::AlCaricamento() {
   Aggiorna();
   const std::string& associato = ambiente_.sessione.EstrattoAssociato;
   if (Contiene(associato, ".")) SelezionaNome(std::string(Gambo(associato)) + ".EMP");
-  AnteprimaEstratto3();
 }
 
 void KR_EstrattiDiMappa1::SalvaPosto(const PosizioneForm& posto) {

@@ -1,6 +1,9 @@
 #include <ui/finestre_qt.h>
 
 #include <ui/disegno/finestra_disegno.h>
+#include <ui/estratti/finestra_completa.h>
+#include <ui/estratti/finestra_estratti.h>
+#include <ui/estratti/finestra_somma.h>
 #include <ui/fiduciali/finestra_elco_pf.h>
 #include <ui/fiduciali/finestra_elco_pf_grafica.h>
 #include <ui/fiduciali/finestra_elco_pf_griglia.h>
@@ -55,6 +58,9 @@ constexpr std::array Mostratori = {
     &MostraSe<ArchivioPossessori, FinestraPossessori>,
     &MostraSe<autore, FinestraAutore>,
     &MostraSe<AssegnaDescrizione, FinestraAssegnaDescrizione>,
+    &MostraSe<KR_EstrattiDiMappa1, FinestraEstratti>,
+    &MostraSe<KR_SommaEstratti, FinestraSomma>,
+    &MostraSe<CompletaAutoallestito, FinestraCompleta>,
     &MostraSe<FormImportaFiduciali, FinestraImportaFiduciali>,
     &MostraSe<KR_SelezionaMisurate, FinestraSelezionaMisurate>,
     &MostraSe<KR_ElcoPf, FinestraElcoPf>,

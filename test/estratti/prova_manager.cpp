@@ -72,6 +72,8 @@ TEST(Manager, SelezionareMostraTestoEtichetteEDisegno) {
   EXPECT_EQ(form.Indice, 0) << "that of the associated name";
   EXPECT_EQ(form.Titolo, "Gestione Estratti di Mappa - Estratto Associato = A.PNG - A.EMP");
   EXPECT_EQ(form.TestoFile, Testo(Estratto));
+  EXPECT_EQ(form.Anteprima, AnteprimaEstratto::Nessuna) << "the rest comes when the window is there";
+  form.AnteprimaEstratto3();
   EXPECT_EQ(form.Etichette.comune + "/" + form.Etichette.provincia, "G224 - PADOVA/PD - PADOVA");
   EXPECT_EQ(form.Etichette.foglio + "/" + form.Etichette.particelle, "00123/35,36");
   EXPECT_EQ(form.Etichette.rilascio + "/" + form.Etichette.scadenza,

@@ -101,6 +101,14 @@ bool CasellaTesto::Trova(const QString& testo, bool avanti) {
   return false;
 }
 
+std::size_t CasellaTesto::RigheCon(const QString& testo) const {
+  const QString tutto = document()->toRawText();
+  std::size_t righe = 0;
+  for (const QStringView riga : QStringView(tutto).tokenize(QChar(QChar::ParagraphSeparator)))
+    if (!testo.isEmpty() && riga.contains(testo, Qt::CaseInsensitive)) ++righe;
+  return righe;
+}
+
 void CasellaTesto::ControllaLettere(int posto, int aggiunte) {
   if (fidata_) return;
   QString estranee;

@@ -32,6 +32,9 @@ public:
   // when it is nowhere.
   bool Trova(const QString& testo, bool avanti);
 
+  // How many lines hold the text, in any case; none do an empty one.
+  [[nodiscard]] std::size_t RigheCon(const QString& testo) const;
+
 signals:
   // Text came in that Windows-1252 cannot hold and that would be saved as "?".
   void LettereNonAmmesse(const QString& lettere);

@@ -106,14 +106,8 @@ void FinestraEditor::CreaRicerca() {
   connect(ricerca_, &BarraRicerca::Successiva, this, [this] { Trova(true); });
   connect(ricerca_, &BarraRicerca::Precedente, this, [this] { Trova(false); });
   connect(ricerca_, &BarraRicerca::Chiusa, casella_, [this] { casella_->setFocus(); });
-  connect(ricerca_, &BarraRicerca::TestoCambiato, this, [this] {
-    const QString testo = ricerca_->Testo();
-    const QString tutto = casella_->document()->toRawText();
-    std::size_t righe = 0;
-    for (const QStringView riga : QStringView(tutto).tokenize(QChar(QChar::ParagraphSeparator)))
-      if (!testo.isEmpty() && riga.contains(testo, Qt::CaseInsensitive)) ++righe;
-    ricerca_->MostraEsito(0, righe);
-  });
+  connect(ricerca_, &BarraRicerca::TestoCambiato, this,
+          [this] { ricerca_->MostraEsito(0, casella_->RigheCon(ricerca_->Testo())); });
   connect(new QShortcut(QKeySequence(Qt::Key_F3), this), &QShortcut::activated, this, [this] { Trova(true); });
   connect(new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F3), this), &QShortcut::activated, this,
           [this] { Trova(false); });

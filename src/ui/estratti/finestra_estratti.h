@@ -1,0 +1,82 @@
+#pragma once
+// The window of the extract manager.
+
+#include <estratti/estratti_di_mappa.h>
+
+#include <QDialog>
+
+#include <functional>
+#include <vector>
+
+class QBoxLayout;
+class QButtonGroup;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QListView;
+class QStackedWidget;
+class QStringListModel;
+class QTimer;
+class QToolButton;
+
+namespace lirmeto::ui {
+
+class AnteprimaRaster;
+class GraficaPannello;
+class TestiEstratto;
+
+class FinestraEstratti : public QDialog {
+  Q_OBJECT
+public:
+  // The model must outlive the window.
+  explicit FinestraEstratti(KR_EstrattiDiMappa1& modello, QWidget* padre = nullptr);
+
+  void done(int esito) override;
+
+signals:
+  void FileLasciato(const QString& percorsoOspite);
+
+protected:
+  void dragEnterEvent(QDragEnterEvent* evento) override;
+  void dropEvent(QDropEvent* evento) override;
+
+private:
+  struct Voce {
+    const KR_EstrattiDiMappa1::Pulsante* pulsante;
+    QToolButton* bottone;
+  };
+
+  [[nodiscard]] QWidget* CreaBarra();
+  [[nodiscard]] QWidget* CreaElenco();
+  [[nodiscard]] QWidget* CreaCentro();
+  [[nodiscard]] QWidget* CreaDati();
+  [[nodiscard]] QToolButton* CreaBottone(int indice, Qt::ToolButtonStyle stile);
+  void AggiungiEtichette(QBoxLayout& colonna);
+  void AggiungiNomi(QBoxLayout& colonna);
+  QLineEdit* AggiungiCasella(QGridLayout& griglia, const QString& titolo, const QString& nome, std::string& valore);
+
+  void Fa(const std::function<void()>& azione);
+  void Seleziona(int riga);
+  void Mostra();
+  void MostraElenco();
+  void MostraEtichette();
+  void MostraAnteprima();
+  void MostraPulsanti();
+
+  KR_EstrattiDiMappa1& modello_;
+  QListView* elenco_;
+  QStringListModel* nomi_;
+  QButtonGroup* filtri_;
+  QStackedWidget* anteprima_;
+  GraficaPannello* disegno_;
+  AnteprimaRaster* raster_;
+  std::string rasterMostrato_; // path of what it shows
+  QToolButton* soloRaster_;    // shows the raster of the selected stem in place of the drawing
+  TestiEstratto* testi_;
+  std::vector<std::pair<std::string EtichetteEstratto::*, QLabel*>> etichette_;
+  QToolButton* completa_;
+  std::vector<Voce> voci_;
+  QTimer* dopo_; // the drawing of the file selected, once the list has stopped moving
+};
+
+} // namespace lirmeto::ui
