@@ -1,8 +1,10 @@
 // Costs of a map extract over its number of points. The last lines of each family give the fitted growth.
 #include "sostituti/banco.h"
 
+#include <estratti/da_cxf.h>
 #include <estratti/kr_estratto.h>
 #include <estratti/modifiche_estratto.h>
+#include <estratti/unione_estratti.h>
 
 #include <benchmark/benchmark.h>
 
@@ -67,6 +69,61 @@ void Pulisci(benchmark::State& stato) {
   stato.SetComplexityN(stato.range(0));
 }
 
+// What takes a parcel away: load, edit, the text of the save.
+void Elimina(benchmark::State& stato) {
+  prova::Banco banco;
+  banco.disco.Metti(Percorso, EstrattoDi(stato.range(0), false));
+  for (auto _ : stato) {
+    KR_Estratto estratto;
+    EsplodiEstratto(banco.ambiente, estratto, "X.EMP");
+    EliminaParticellaEstratto(estratto, "4");
+    benchmark::DoNotOptimize(TestoEstratto(banco.ambiente, estratto));
+  }
+  stato.SetComplexityN(stato.range(0));
+}
+
+// The same city sheet again and again: borders of eighteen vertices, right-aligned as in real files.
+std::string FoglioDi(std::int64_t bordi) {
+  constexpr std::int64_t diversi = 500;
+  std::mt19937 caso(1);
+  std::string foglio = "MAPPA\r\nG224_001200\r\n2000\r\n";
+  std::vector<std::string> vertici;
+  for (std::int64_t i = 0; i < diversi * 18; ++i)
+    vertici.push_back("    -" + std::to_string(1000 + caso() % 9000) + ".123\r\n    -" +
+                      std::to_string(1000 + caso() % 9000) + ".456\r\n");
+  for (std::int64_t b = 0; b < bordi; ++b) {
+    foglio += "BORDO\r\n" + std::to_string(b) + "\r\n  10\r\n";
+    for (int i = 0; i < 5; ++i) foglio += "       0.000\r\n";
+    foglio += "   0\r\n  18\r\n";
+    for (std::int64_t i = 0; i < 18; ++i) foglio += vertici[static_cast<std::size_t>(b % diversi * 18 + i)];
+  }
+  return foglio + "EOF\r\n";
+}
+
+// 10,000 borders are a city sheet twenty times over.
+void Cxf(benchmark::State& stato) {
+  prova::Banco banco;
+  const std::string percorso = "C:\\pregeo\\estratti\\F.CXF";
+  banco.disco.Metti(percorso, FoglioDi(stato.range(0)));
+  std::string superfici = "F 20240101\r\n";
+  for (std::int64_t b = 0; b < stato.range(0); ++b)
+    superfici += std::to_string(b) + std::string(12, ' ') + std::to_string(b + 1) + "\r\n";
+  banco.disco.Metti("C:\\pregeo\\estratti\\F.SUP", superfici);
+  for (auto _ : stato) benchmark::DoNotOptimize(EmpDaCxf(banco.ambiente, percorso));
+  stato.SetComplexityN(stato.range(0));
+}
+
+// Two extracts of as many points, half of which the two have in common.
+void Somma(benchmark::State& stato) {
+  const std::string primo = EstrattoDi(stato.range(0), false);
+  std::string secondo = EstrattoDi(stato.range(0), true);
+  std::size_t quanti = 0;
+  for (std::size_t i = secondo.find(".0654129576"); i != std::string::npos; i = secondo.find(".0654129576", i + 1))
+    if (++quanti % 2 == 0) secondo[i + 1] = '5';
+  for (auto _ : stato) benchmark::DoNotOptimize(UnisciEstratti(primo, secondo));
+  stato.SetComplexityN(stato.range(0));
+}
+
 BENCHMARK(Esplodi)->RangeMultiplier(10)->Range(PochiPunti, MoltiPunti)->Complexity()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(EsplodiESalva, ordinati, false)
     ->RangeMultiplier(10)
@@ -78,6 +135,10 @@ BENCHMARK_CAPTURE(EsplodiESalva, mescolati, true)
     ->Range(PochiPunti, MoltiPunti)
     ->Complexity()
     ->Unit(benchmark::kMillisecond);
+BENCHMARK(Elimina)->Arg(125'000)->Arg(1'250'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Pulisci)->Arg(125'000)->Arg(1'250'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Cxf)->RangeMultiplier(10)->Range(100, 100'000)->Complexity()->Unit(benchmark::kMillisecond);
+BENCHMARK(Somma)->RangeMultiplier(10)->Range(1'000, 1'000'000)->Complexity()->Unit(benchmark::kMillisecond);
 BENCHMARK(Pulisci)->RangeMultiplier(10)->Range(PochiPunti, MoltiPunti)->Complexity()->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -11,6 +11,9 @@
 #include <ui/disegno/finestra_disegno.h>
 #include <ui/disegno/grafica_pannello.h>
 #include <ui/disegno/grafica_superficie.h>
+#include <ui/estratti/finestra_completa.h>
+#include <ui/estratti/finestra_estratti.h>
+#include <ui/estratti/finestra_somma.h>
 #include <ui/fiduciali/finestra_elco_pf.h>
 #include <ui/fiduciali/finestra_elco_pf_grafica.h>
 #include <ui/fiduciali/finestra_elco_pf_griglia.h>
@@ -29,6 +32,7 @@
 #include <applicazione/forme.h>
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <estratti/kr_estratto.h>
 #include <piattaforma/disco_dischi.h>
 #include <piattaforma/orologi.h>
 #include <piattaforma/processi_linux.h>
@@ -38,8 +42,12 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QListView>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QTextStream>
+
+#include <functional>
+#include <map>
 
 namespace {
 
@@ -48,21 +56,29 @@ using namespace lirmeto;
 class DiscoInLettura final : public Disco {
 public:
   explicit DiscoInLettura(const Disco& disco) : disco_(disco) {}
-  [[nodiscard]] bool Esiste(std::string_view percorso) const override { return disco_.Esiste(percorso); }
+  [[nodiscard]] bool Esiste(std::string_view percorso) const override {
+    return scritti_.contains(percorso) || disco_.Esiste(percorso);
+  }
   [[nodiscard]] bool EsisteCartella(std::string_view percorso) const override {
     return disco_.EsisteCartella(percorso);
   }
   [[nodiscard]] bool StessoPosto(std::string_view percorso, std::string_view altro) const override {
     return disco_.StessoPosto(percorso, altro);
   }
-  [[nodiscard]] std::string Leggi(std::string_view percorso) const override { return disco_.Leggi(percorso); }
+  [[nodiscard]] std::string Leggi(std::string_view percorso) const override {
+    const auto scritto = scritti_.find(percorso);
+    return scritto == scritti_.end() ? disco_.Leggi(percorso) : scritto->second;
+  }
   [[nodiscard]] std::string LeggiInizio(std::string_view percorso, std::size_t byte) const override {
     return disco_.LeggiInizio(percorso, byte);
   }
   [[nodiscard]] std::vector<std::string> Elenca(std::string_view cartella, std::string_view estensione) const override {
     return disco_.Elenca(cartella, estensione);
   }
-  void Scrivi(std::string_view /*percorso*/, std::string_view /*contenuto*/) override {}
+  // What is written is kept for who reads it again, and goes nowhere.
+  void Scrivi(std::string_view percorso, std::string_view contenuto) override {
+    scritti_.insert_or_assign(std::string(percorso), std::string(contenuto));
+  }
   [[nodiscard]] Istante Modificato(std::string_view percorso) const override { return disco_.Modificato(percorso); }
   void CreaCartella(std::string_view /*percorso*/) override {}
   void Copia(std::string_view /*da*/, std::string_view /*a*/) override {}
@@ -70,6 +86,7 @@ public:
 
 private:
   const Disco& disco_;
+  std::map<std::string, std::string, std::less<>> scritti_;
 };
 
 class ProcessiFermi final : public Processi {
@@ -154,7 +171,8 @@ public:
     finestra.resize(1440, 900); // the platform's screen is smaller than any real one
     finestra.show();
     return Principale(finestra) && Ricerca(finestra) && Strumenti(finestra) && Editor() && Riordino() &&
-           ConfiguraPregeo() && Intestazione() && Stampa() && Comuni() && Fiduciali() && Scartate(finestra);
+           ConfiguraPregeo() && Intestazione() && Stampa() && Comuni() && Fiduciali() && Estratti() &&
+           Scartate(finestra);
   }
 
   [[nodiscard]] bool Disegno(const std::string& file) {
@@ -296,6 +314,51 @@ private:
     emit grafica.Superficie().Uscito();
     return Salva(comuni, "fiduciali_comuni") && Salva(tabella, "fiduciali_tabella") &&
            Salva(grafica, "fiduciali_piano");
+  }
+
+  // The manager over an extract with owners and over a raster; a sum of neighbours; an auto-assembled one.
+  bool Estratti() {
+    KR_EstrattiDiMappa1 form(ambiente_);
+    form.AlCaricamento();
+    ui::FinestraEstratti finestra(form);
+    finestra.resize(1260, 700);
+    finestra.show();
+    auto* file = finestra.findChild<QListView*>(QStringLiteral("File1"));
+    const auto scegli = [file](const char* nome) {
+      file->setCurrentIndex(
+          file->model()->match(file->model()->index(0, 0), Qt::DisplayRole, QLatin1String(nome)).value(0));
+    };
+    scegli("G224_008700_214.EMP");
+    if (!Salva(finestra, "estratti")) return false;
+    scegli("G224_008700_214.PNG");
+    if (!Salva(finestra, "estratti_raster")) return false;
+    return Somma() && Completa();
+  }
+
+  bool Somma() {
+    KR_SommaEstratti form(ambiente_, CartellaEstratti(ambiente_.sessione) + "\\G224_004500_101.EMP");
+    form.AlCaricamento();
+    form.NomeSomma = "SOMMA_101_104";
+    ui::FinestraSomma finestra(form);
+    finestra.resize(1080, 660);
+    finestra.show();
+    auto* file = finestra.findChild<QListWidget*>(QStringLiteral("File1"));
+    for (QListWidgetItem* voce : file->findItems(QStringLiteral("G224_004500_104.EMP"), Qt::MatchExactly))
+      voce->setCheckState(Qt::Checked);
+    finestra.findChild<QLineEdit*>(QStringLiteral("NomeSomma"))->setText(ui::AQString(form.NomeSomma));
+    return Salva(finestra, "estratti_somma");
+  }
+
+  bool Completa() {
+    CompletaAutoallestito form(ambiente_, "AUTOALLESTITO_0056.EMP");
+    form.AlCaricamento();
+    form.ScegliQualita(1);
+    form.Superficie = "455";
+    form.RicalcolaParticella();
+    ui::FinestraCompleta finestra(form);
+    finestra.resize(1000, 600);
+    finestra.show();
+    return Salva(finestra, "estratti_completa");
   }
 
   // The rows of the libretto as a report.
