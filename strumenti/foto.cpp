@@ -93,7 +93,10 @@ class ProcessiFermi final : public Processi {
 public:
   explicit ProcessiFermi(Processi& processi) : processi_(processi) {}
   [[nodiscard]] CartelleDiSistema Cartelle() override { return processi_.Cartelle(); }
-  void AvviaEAttendi(const std::string& /*programma*/, const std::vector<std::string>& /*argomenti*/) override {}
+  int AvviaEAttendi(const std::string& /*programma*/, const std::vector<std::string>& /*argomenti*/,
+                    const std::function<bool()>& /*attende*/) override {
+    return 0;
+  }
   void ApriDocumento(const std::string& /*percorso*/) override {}
   void ApriPagina(const std::string& /*indirizzo*/) override {}
   void ApriDocumentoCon(const std::string& /*programma*/, const std::string& /*percorso*/) override {}
@@ -135,6 +138,7 @@ public:
   void ScegliStampante() override {}
   void Stampa(const Stampato& /*stampato*/) override {}
   void Avanzamento(std::string_view /*lavoro*/, std::size_t /*fatto*/, std::size_t /*totale*/) override {}
+  [[nodiscard]] bool Attesa(std::string_view /*cosa*/) override { return true; }
 };
 
 // Shows none, and says which there are: entries look as in the program.

@@ -73,6 +73,10 @@ public:
   // `totale` ends it. Cheap to call often: the implementation shows it only
   // when the work lasts over half a second.
   virtual void Avanzamento(std::string_view lavoro, std::size_t fatto, std::size_t totale) = 0;
+
+  // Something outside is waited for whose end nobody knows. Called again and again, and cheap, as Avanzamento is, which
+  // ends it too. The answer is whether to go on: false once the user has given up.
+  [[nodiscard]] virtual bool Attesa(std::string_view cosa) = 0;
 };
 
 // A form as a model without a toolkit: its boxes and lists are plain data, its

@@ -5,6 +5,7 @@
 
 #include <base/data.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -122,9 +123,13 @@ public:
   [[nodiscard]] virtual CartelleDiSistema Cartelle() = 0;
 
   // Starts a program with its arguments, in the program's own folder, and waits
-  // for its end without limit. The program is a path with a drive; "NAME.exe"
-  // that is not there is looked for as "NAME". Errors: 53 no such program, 70.
-  virtual void AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti) = 0;
+  // for its end as long as `attende` says so, which is asked many times a second.
+  // The program is a path with a drive; "NAME.exe" that is not there is looked for
+  // as "NAME". The answer is its exit code, -1 when it was ended from outside.
+  // Errors: 53 no such program, 70; 32755 the wait was given up, and the program
+  // ended.
+  virtual int AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti,
+                            const std::function<bool()>& attende) = 0;
 
   // Opens a file or folder with the program that the user's desktop has for it, and does not wait for its end. Errors:
   // 53 not there, 75 no program opens it.

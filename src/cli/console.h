@@ -37,6 +37,8 @@ public:
   void Stampa(const Stampato& stampato) override;
 
   // One line, written over, when the stream is a terminal.
+  // Whoever sits at the terminal gives up in the terminal's own way.
+  [[nodiscard]] bool Attesa(std::string_view /*cosa*/) override { return true; }
   void Avanzamento(std::string_view lavoro, std::size_t fatto, std::size_t totale) override;
 
 private:

@@ -1,14 +1,21 @@
 #include <core/programmi.h>
 
+#include <base/percorsi.h>
 #include <base/testo.h>
 
 #include <algorithm>
 
 namespace lirmeto {
 
-void AttendiProgramma(Ambiente& ambiente, const std::string& programma, const std::vector<std::string>& argomenti) {
+int AttendiProgramma(Ambiente& ambiente, const std::string& programma, const std::vector<std::string>& argomenti) {
   ambiente.sessione.PuntoErrore = "3105";
-  ambiente.processi.AvviaEAttendi(programma, argomenti);
+  const std::string cosa = "Attendo la fine di " + std::string(NomeDaPercorso(programma));
+  struct Fine { // of what the user is shown, however the wait ends
+    ~Fine() { dialoghi.Avanzamento({}, 1, 1); }
+    Dialoghi& dialoghi;
+  };
+  const Fine fine{ambiente.dialoghi};
+  return ambiente.processi.AvviaEAttendi(programma, argomenti, [&] { return ambiente.dialoghi.Attesa(cosa); });
 }
 
 void TerminaProcesso(Ambiente& ambiente, std::string_view immagine) {

@@ -9,8 +9,9 @@
 
 namespace lirmeto {
 
-// Starts a program of the suite and waits for its end without limit.
-void AttendiProgramma(Ambiente& ambiente, const std::string& programma, const std::vector<std::string>& argomenti);
+// Starts a program of the suite and waits for its end without limit, but that the user may give up: error 32755. The
+// answer is the program's exit code.
+int AttendiProgramma(Ambiente& ambiente, const std::string& programma, const std::vector<std::string>& argomenti);
 
 // Ends every process of that name; tells of it only if the last end failed.
 void TerminaProcesso(Ambiente& ambiente, std::string_view immagine);

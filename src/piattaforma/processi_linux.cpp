@@ -134,6 +134,33 @@ std::optional<bool> FineEntroUnSecondo(pid_t processo) {
   return std::nullopt;
 }
 
+// Asks a program to end and, when it does not within a second, ends it.
+void Interrompi(pid_t processo) {
+  ::kill(processo, SIGTERM);
+  if (FineEntroUnSecondo(processo)) return;
+  ::kill(processo, SIGKILL);
+  while (::waitpid(processo, nullptr, 0) < 0 && errno == EINTR) {
+  }
+}
+
+// The exit code of a program, -1 when a signal ended it.
+int AttendiFine(pid_t processo, const std::function<bool()>& attende) {
+  constexpr useconds_t pausa = 10'000;
+  int stato = 0;
+  try {
+    for (pid_t finito = 0; finito == 0;) {
+      finito = ::waitpid(processo, &stato, WNOHANG);
+      if (finito != 0) break;
+      if (!attende()) throw Errore(errore::DialogoAnnullato);
+      ::usleep(pausa);
+    }
+  } catch (...) {
+    Interrompi(processo);
+    throw;
+  }
+  return WIFEXITED(stato) ? WEXITSTATUS(stato) : -1;
+}
+
 std::string_view UltimoComponente(std::string_view percorso) {
   const std::size_t barra = percorso.find_last_of("/\\");
   return barra == percorso.npos ? percorso : percorso.substr(barra + 1);
@@ -208,7 +235,8 @@ void ProcessiLinux::CreaCartelleDiSistema() {
     if (!disco_.EsisteCartella(cartella)) disco_.CreaCartella(cartella);
 }
 
-void ProcessiLinux::AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti) {
+int ProcessiLinux::AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti,
+                                 const std::function<bool()>& attende) {
   const fs::path ospite = TrovaProgramma(disco_, programma);
   std::vector<std::string> parole{ospite.string()};
   for (const std::string& argomento : argomenti) {
@@ -217,8 +245,8 @@ void ProcessiLinux::AvviaEAttendi(const std::string& programma, const std::vecto
   }
   Avvio avvio;
   avvio.Cartella(ospite.parent_path());
-  const int esito = avvio.Esegui(std::move(parole), AmbienteConDischi(disco_.Dischi()), false);
-  ControllaAvvio(esito);
+  ControllaAvvio(avvio.Inizia(std::move(parole), AmbienteConDischi(disco_.Dischi()), false));
+  return AttendiFine(avvio.Figlio(), attende);
 }
 
 // Programs that were left alone and have ended meanwhile would stay in the table of processes.

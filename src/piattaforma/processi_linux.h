@@ -24,7 +24,8 @@ public:
   void CreaCartelleDiSistema();
 
   // The program finds the same drives through LIRMETO_DISCHI.
-  void AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti) override;
+  int AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti,
+                    const std::function<bool()>& attende) override;
 
   // Through the desktop's own opener, xdg-open. One that says within a second that it could not is error 75.
   void ApriDocumento(const std::string& percorso) override;

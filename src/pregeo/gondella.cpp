@@ -5,9 +5,9 @@
 
 namespace lirmeto {
 
-void AttendiInstallato(Ambiente& ambiente, const std::string& programma, const std::vector<std::string>& argomenti) {
+int AttendiInstallato(Ambiente& ambiente, const std::string& programma, const std::vector<std::string>& argomenti) {
   try {
-    AttendiProgramma(ambiente, programma, argomenti);
+    return AttendiProgramma(ambiente, programma, argomenti);
   } catch (const Errore& guasto) {
     if (guasto.Numero() != errore::FileNonTrovato) throw;
     throw Errore(errore::FileNonTrovato, "Programma non installato: " + programma);

@@ -14,8 +14,8 @@ namespace lirmeto {
 
 // What the archive holds of one libretto. The key is the last two digits of its year and its protocol: "17974" is 974 of
 // 2017. Answers: ESPORTA_LIBRETTO.txt, ESPORTA_PROPOSTA.txt, ESPORTA_PUNTI_ELABORATI.txt, and ASSOCIA_ESTRATTO.txt when
-// the libretto has an extract. Throws Errore 53, which names the program, when it is not installed; 32755 when the user
-// gives the wait up.
+// the libretto has an extract. Throws Errore 53, which names the program, when it is not installed; 51 when
+// it ends with an error; 32755 when the user gives the wait up.
 void EsportaTutto(Ambiente& ambiente, const std::string& chiave);
 
 // All libretti of the archive. The answer is the text of ELENCO_LIBRETTI.txt, empty when there is none. Errors as

@@ -32,7 +32,7 @@ protected:
 
   int NumeroDellAvvio(const std::string& programma, const std::vector<std::string>& argomenti = {}) {
     try {
-      processi.AvviaEAttendi(programma, argomenti);
+      static_cast<void>(processi.AvviaEAttendi(programma, argomenti, [] { return true; }));
     } catch (const Errore& errore) {
       return errore.Numero();
     }
@@ -67,7 +67,8 @@ pid_t AvviaDormiente(const fs::path& programma, std::string chiamato) {
 TEST_F(ProvaProcessi, AspettaLaFineNellaCartellaDelProgramma) {
   MettiProgramma("c/Program Files (x86)/Gondella/Dervola", Racconta);
   const std::string strano = "a b\"; $(x) *";
-  processi.AvviaEAttendi("C:\\PROGRAM FILES (x86)\\gondella\\DERVOLA.EXE", {strano, "", "citt\xE0"});
+  processi.AvviaEAttendi("C:\\PROGRAM FILES (x86)\\gondella\\DERVOLA.EXE", {strano, "", "citt\xE0"},
+                         [] { return true; });
   const fs::path casa = cartella.Radice() / "c/Program Files (x86)/Gondella";
   EXPECT_EQ(CartellaProvvisoria::Prendi(casa / "detto"),
             casa.string() + "\n" + cartella.Radice().string() + "\n<" + strano + ">\n<>\n<citt\xC3\xA0>\n");
@@ -112,8 +113,18 @@ TEST_F(ProvaProcessi, UnVisualizzatoreParteNellaCartellaDelFile) {
 TEST_F(ProvaProcessi, IlProgrammaColSuoNomePrimaDelSostituto) {
   MettiProgramma("c/p/x.exe", "#!/bin/sh\necho exe > detto\n");
   MettiProgramma("c/p/x", "#!/bin/sh\necho nativo > detto\n");
-  processi.AvviaEAttendi("C:\\p\\X.exe", {});
+  EXPECT_EQ(processi.AvviaEAttendi("C:\\p\\X.exe", {}, [] { return true; }), 0);
   EXPECT_EQ(CartellaProvvisoria::Prendi(cartella.Radice() / "c/p/detto"), "exe\n");
+}
+
+TEST_F(ProvaProcessi, ChiRinunciaFinisceIlProgramma) {
+  MettiProgramma("c/p/x", "#!/bin/sh\ntrap 'echo finito > detto; exit 0' TERM\nsleep 60 &\nwait\n");
+  MettiProgramma("c/p/y", "#!/bin/sh\nexit 3\n");
+  int volte = 0;
+  EXPECT_THROW(static_cast<void>(processi.AvviaEAttendi("C:\\p\\x", {}, [&] { return ++volte < 20; })), Errore);
+  EXPECT_EQ(volte, 20);
+  EXPECT_EQ(CartellaProvvisoria::Prendi(cartella.Radice() / "c/p/detto"), "finito\n");
+  EXPECT_EQ(processi.AvviaEAttendi("C:\\p\\y", {}, [] { return true; }), 3);
 }
 
 TEST_F(ProvaProcessi, DicePercheNonParte) {

@@ -59,6 +59,8 @@ public:
   Carattere carattereScelto;
   std::vector<std::string> stampati; // title, "/V" or "/O", and the lines, each behind a bar
   int stampantiScelte = 0;
+  std::string atteso;    // what was waited for last
+  bool rinuncia = false; // gives up at once
 
   void Messaggio(std::string_view testo, std::string_view titolo, Gravita gravita) override;
   [[nodiscard]] Risposta Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) override;
@@ -70,6 +72,10 @@ public:
   void ScegliStampante() override { ++stampantiScelte; }
   void Stampa(const Stampato& stampato) override;
   void Avanzamento(std::string_view, std::size_t, std::size_t) override {}
+  [[nodiscard]] bool Attesa(std::string_view cosa) override {
+    atteso = cosa;
+    return !rinuncia;
+  }
 
   [[nodiscard]] std::string UltimoTesto() const { return detti.empty() ? std::string{} : detti.back().testo; }
 };
@@ -98,6 +104,7 @@ public:
   std::vector<Collegamento> collegamenti;
   std::set<PostoCollegamento> negati; // places that take no shortcut
   int esitoTermina = 0;
+  int codiceUscita = 0;                                                     // of a program that is waited for
   std::function<std::unique_ptr<ArchivioAperto>(std::string)> apriArchivio; // none: no archive can be read
   // What a program does that is started and waited for.
   std::function<void(const std::string& programma, const std::vector<std::string>& argomenti)> quandoAvvia;
@@ -105,10 +112,13 @@ public:
   [[nodiscard]] CartelleDiSistema Cartelle() override {
     return {"C:\\users\\prova\\Documents", "C:\\WINDOWS", "C:\\users\\prova\\Temp", "C:\\Program Files (x86)"};
   }
-  void AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti) override {
+  int AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti,
+                    const std::function<bool()>& attende) override {
     Guastati(programma);
     avviati.push_back(programma);
+    if (!attende()) throw Errore(errore::DialogoAnnullato);
     if (quandoAvvia) quandoAvvia(programma, argomenti);
+    return codiceUscita;
   }
   void ApriDocumento(const std::string& percorso) override {
     Guastati(percorso);

@@ -20,9 +20,9 @@ namespace lirmeto::ui {
 
 namespace {
 
-constexpr int Attesa = 500;    // milliseconds before a bar shows
-constexpr int Ridisegno = 50;  // milliseconds between two drawings
-constexpr int Abbandono = 300; // milliseconds of idle windows after which a bar is stale
+constexpr int PrimaDellaBarra = 500; // milliseconds before a bar shows
+constexpr int Ridisegno = 50;        // milliseconds between two drawings
+constexpr int Abbandono = 300;       // milliseconds of idle windows after which a bar is stale
 constexpr int PassiBarra = 1000;
 
 QWidget* FinestraAttuale() {
@@ -146,19 +146,44 @@ void DialoghiQt::Avanzamento(std::string_view lavoro, std::size_t fatto, std::si
     NascondiBarra();
     return;
   }
+  if (Tocca()) MostraBarra(AQString(lavoro), fatto, totale);
+}
+
+// Whether the bar is to be drawn now.
+bool DialoghiQt::Tocca() {
   if (!inizio_.isValid()) inizio_.start();
-  if (inizio_.elapsed() < Attesa || (disegno_.isValid() && disegno_.elapsed() < Ridisegno)) return;
-  MostraBarra(AQString(lavoro), fatto, totale);
+  return inizio_.elapsed() >= PrimaDellaBarra && !(disegno_.isValid() && disegno_.elapsed() < Ridisegno);
+}
+
+// The windows are painted from the beginning; the bar has a button to give up and comes up like the others.
+bool DialoghiQt::Attesa(std::string_view cosa) {
+  const bool mostra = Tocca();
+  if (mostra && barra_ == nullptr) {
+    CreaBarra();
+    barra_->setRange(0, 0);
+    barra_->setCancelButtonText(QStringLiteral("Rinuncia"));
+    barra_->setLabelText(AQString(cosa));
+    barra_->show();
+  }
+  if (mostra) disegno_.start();
+  // Without the bar a click would reach the window that waits.
+  QApplication::processEvents(barra_ == nullptr ? QEventLoop::ExcludeUserInputEvents : QEventLoop::AllEvents);
+  return barra_ == nullptr || !barra_->wasCanceled();
+}
+
+void DialoghiQt::CreaBarra() {
+  barra_ = new QProgressDialog(FinestraAttuale());
+  barra_->setWindowModality(Qt::ApplicationModal);
+  barra_->setMinimumWidth(360);
+  barra_->setAutoReset(false);
+  barra_->setWindowTitle(AQString(TitoloProgramma));
 }
 
 void DialoghiQt::MostraBarra(const QString& lavoro, std::size_t fatto, std::size_t totale) {
   if (barra_ == nullptr) {
-    barra_ = new QProgressDialog(FinestraAttuale());
-    barra_->setWindowModality(Qt::ApplicationModal);
+    CreaBarra();
     barra_->setCancelButton(nullptr);
-    barra_->setMinimumWidth(360);
     barra_->setRange(0, PassiBarra);
-    barra_->setWindowTitle(AQString(TitoloProgramma));
   }
   barra_->setLabelText(lavoro);
   barra_->setValue(static_cast<int>(static_cast<double>(fatto) / static_cast<double>(totale) * PassiBarra));

@@ -40,9 +40,12 @@ public:
   void ScegliStampante() override;
   void Stampa(const Stampato& stampato) override;
   void Avanzamento(std::string_view lavoro, std::size_t fatto, std::size_t totale) override;
+  [[nodiscard]] bool Attesa(std::string_view cosa) override;
 
 private:
   [[nodiscard]] std::string ScegliFile(const RichiestaFile& richiesta, bool daSalvare);
+  [[nodiscard]] bool Tocca();
+  void CreaBarra();
   void MostraBarra(const QString& lavoro, std::size_t fatto, std::size_t totale);
   void NascondiBarra();
 
