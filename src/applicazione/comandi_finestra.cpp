@@ -5,6 +5,7 @@
 #include <applicazione/autore.h>
 #include <applicazione/comandi_libretto.h>
 #include <applicazione/comandi_tag.h>
+#include <applicazione/tipologie.h>
 #include <core/apertura.h>
 #include <core/apri_form.h>
 #include <core/comandi_righe.h>
@@ -115,6 +116,7 @@ void KR_LibrettoOriginale::Esegui(Comando comando) {
   if (comando == Comando::MostraRigheScartate) return MostraScartate();
   Comanda(DidascaliaDi(comando), [&] {
     if (EseguiDa(Selezioni, comando, ambiente_)) return Righe_Indice();
+    if (const Tipologia* tipologia = TrovaTipologia(comando)) return EseguiTipologia(ambiente_, *tipologia);
     if (!EseguiDa(Comandi, comando, ambiente_) && !EseguiConForm(comando)) EseguiAltri(comando);
   });
 }
@@ -155,7 +157,7 @@ bool KR_LibrettoOriginale::EseguiConForm(Comando comando) {
     return true;
   }
   AggiornaLibrettoMisure(ambiente_);
-  if (comando == Comando::GraficaPregeo) ambiente_.sessione.ModoDaPregeo = 1; // listing for DXF
+  ambiente_.sessione.ModoDaPregeo = comando == Comando::GraficaPregeo ? 1 : 0; // listing for DXF, or for import
   if (!ApriForm(ambiente_, form)) return true;
   CaricaLibrettoInList1(ambiente_);
   if (comando == Comando::EstrattiDiMappa) ambiente_.sessione.PuntoErrore = "Decozero_132";

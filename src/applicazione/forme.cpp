@@ -1,5 +1,6 @@
 #include <applicazione/forme.h>
 
+#include <applicazione/tipologie.h>
 #include <estratti/completa_autoallestito.h>
 #include <estratti/estratti_di_mappa.h>
 #include <fiduciali/elco_pf.h>
@@ -9,6 +10,7 @@
 #include <grafica/form_disegno.h>
 #include <intestazione/catasto1_form.h>
 #include <pregeo/form_configura_pregeo.h>
+#include <pregeo/kr_dapregeo.h>
 #include <supporto/archivio_possessori.h>
 #include <supporto/assegna_descrizione.h>
 #include <supporto/cod_fis.h>
@@ -51,6 +53,20 @@ void ApriCompletaAutoallestito(Ambiente& ambiente) {
   ambiente.finestre.MostraModale(form);
 }
 
+void ApriDaPregeo(Ambiente& ambiente) {
+  DisegnoDellUtente disegno(ambiente);
+  KR_Dapregeo form(ambiente, disegno);
+  form.AlCaricamento();
+  ambiente.finestre.MostraModale(form);
+}
+
+// The typology 1000 for its provisional extract alone; the act keeps its own.
+void ApriEstrattoProvvisorio(Ambiente& ambiente) {
+  ambiente.sessione.TipologiaCorrente = TipologiaSenzaEstratto;
+  MostraTipol10(ambiente);
+  ambiente.sessione.TipologiaCorrente = ambiente.sessione.TipologiaRilievo;
+}
+
 constexpr std::array ElencoForme = {
     Forma{forma::ConfiguraPregeo, &Apri<FormConfiguraPregeo>},
     Forma{forma::Intestazione, &Apri<FormCatasto1TXT>},
@@ -63,6 +79,8 @@ constexpr std::array ElencoForme = {
     Forma{forma::AssegnaDescrizione, &Apri<AssegnaDescrizione>},
     Forma{forma::EstrattiDiMappa, &ApriEstrattiDiMappa},
     Forma{forma::CompletaAutoallestito, &ApriCompletaAutoallestito},
+    Forma{forma::DaPregeo, &ApriDaPregeo},
+    Forma{forma::EstrattoProvvisorio, &ApriEstrattoProvvisorio},
     Forma{forma::SelezionaMisurate, &Apri<KR_SelezionaMisurate>},
     Forma{forma::ElcoPf, &Apri<KR_ElcoPf>},
 };

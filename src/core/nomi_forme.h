@@ -7,7 +7,7 @@ namespace lirmeto::forma {
 
 inline constexpr std::string_view EstrattiDiMappa = "KR_EstrattiDiMappa1";
 inline constexpr std::string_view ModelloCensuario = "KR_EDM";
-inline constexpr std::string_view EstrattoProvvisorio = "TIPOL10_PROVVISORIO"; // typology 1000: no window, a file
+inline constexpr std::string_view EstrattoProvvisorio = "TIPOL10_PROVVISORIO"; // Tipol10 for typology 1000
 inline constexpr std::string_view CompletaAutoallestito = "CompletaAutoallestito";
 
 } // namespace lirmeto::forma

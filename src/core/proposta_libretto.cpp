@@ -1,7 +1,7 @@
 #include <core/proposta_libretto.h>
 
 #include <base/testo.h>
-#include <core/apertura.h>
+#include <core/libretto_in_classi.h>
 #include <core/riga.h>
 
 namespace lirmeto {

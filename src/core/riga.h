@@ -79,6 +79,7 @@ struct RigaDivisa {
 
 // Literal rows and marks.
 inline constexpr std::string_view RigaProposta = "6|ESTRATTO DI MAPPA|";
+inline constexpr std::string_view RigaPropostaAggiornata = "6|ESTRATTO DI MAPPA AGGIORNATO|";
 inline constexpr std::string_view InizioRelazione = "***** Relazione  Tecnica *****";
 inline constexpr std::string_view FineRelazione = "*****   Fine   Relazione *****";
 inline constexpr std::string_view RigaNovePredefinita = "9|20|10|20|1070|10.00-G,STDA 2.08|18|TIPO SENZA GEOMETRIA|";

@@ -12,7 +12,7 @@ namespace {
 
 // What belongs to the document beside its rows: the owners, where it is saved, and what its rows and tag rows tell.
 // The owners come first.
-constexpr std::array<std::string Sessione::*, 32> Valori = {
+constexpr std::array<std::string Sessione::*, 33> Valori = {
     &Sessione::Ditta,
     &Sessione::NomeFileLibretto,
     &Sessione::EstrattoAssociato,
@@ -41,6 +41,7 @@ constexpr std::array<std::string Sessione::*, 32> Valori = {
     &Sessione::PrecisioneAngolare,
     &Sessione::EstMedio,
     &Sessione::TipologiaRilievo,
+    &Sessione::TipologiaCorrente,
     &Sessione::Strumentazione,
     &Sessione::ClasseAtto,
     &Sessione::NomeFascicolo,

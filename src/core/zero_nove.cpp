@@ -3,8 +3,10 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <core/campi_riga.h>
 #include <core/lettura.h>
 #include <core/riga.h>
+#include <core/salvataggio.h>
 
 #include <algorithm>
 #include <array>
@@ -83,6 +85,7 @@ void DecodificaNove(Sessione& sessione) {
   sessione.PrecisioneAngolare = campi[3];
   sessione.EstMedio = campi[4];
   sessione.TipologiaRilievo = campi[6];
+  sessione.TipologiaCorrente = sessione.TipologiaRilievo;
   sessione.Strumentazione = campi[7];
   sessione.ClasseAtto = ClasseDi(sessione.TipologiaRilievo);
 }
@@ -154,6 +157,17 @@ void DecoZeroNove(Ambiente& ambiente) {
   DecodificaNove(sessione);
   sessione.PuntoErrore = "DecoZeroNove_02";
   sessione.NomeFascicolo = ComponiNomeFascicolo(sessione);
+}
+
+void CambiaCampoNove(Ambiente& ambiente, std::size_t campo, std::string_view testo) {
+  constexpr std::size_t posto = 1; // of row 9 in the list
+  Sessione& sessione = ambiente.sessione;
+  AssicuraZeroNoveInList1(ambiente);
+  std::string riga(sessione.List1.Riga(posto));
+  while (QuanteParti(riga, '|') < campo + 2) riga += '|'; // a short row lacks fields
+  sessione.List1.Cambia(posto, ConCampo(riga, campo, testo));
+  AggiornaLibrettoMisure(ambiente);
+  DecoZeroNove(ambiente);
 }
 
 std::string RiordinoMappali(std::string_view mappali) {

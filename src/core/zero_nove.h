@@ -16,6 +16,9 @@ void DecoZeroNove(Ambiente& ambiente);
 // today's date.
 void AssicuraRigheZeroNove(Ambiente& ambiente);
 
+// Writes a field of row 9 into the row list and Libretto, and derives the header values anew.
+void CambiaCampoNove(Ambiente& ambiente, std::size_t campo, std::string_view testo);
+
 // Loads the tables of comuni and province once; a missing comunt.dat is told.
 void CaricaProvinceComuni(Ambiente& ambiente);
 

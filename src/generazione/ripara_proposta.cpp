@@ -5,6 +5,7 @@
 #include <estratti/campi.h>
 #include <estratti/kr_estratto.h>
 #include <generazione/proposta.h>
+#include <generazione/tipologia.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -299,7 +300,7 @@ bool AnelloDi(std::string_view riga, std::string_view particella) {
 
 ContornoMappale LeggiContornoMappale(Ambiente& ambiente) {
   const Sessione& sessione = ambiente.sessione;
-  if (sessione.TipologiaCorrente == "1000" || sessione.EstrattoAssociato.empty()) return {};
+  if (sessione.TipologiaCorrente == TipologiaSenzaEstratto || sessione.EstrattoAssociato.empty()) return {};
   KR_Estratto estratto;
   if (!EsplodiEstratto(ambiente, estratto, sessione.EstrattoAssociato)) return {};
   const auto anello = std::find_if(estratto.SETTE.begin(), estratto.SETTE.end(),

@@ -6,6 +6,7 @@
 #include <core/ambiente.h>
 #include <core/lista_righe.h>
 #include <generazione/elenco_cad.h>
+#include <generazione/tipologia.h>
 #include <grafica/grafica.h>
 
 #include <string>
@@ -13,9 +14,6 @@
 #include <vector>
 
 namespace lirmeto {
-
-// Code of the typology that involves no extract.
-inline constexpr std::string_view TipologiaSenzaEstratto = "1000";
 
 class Tipol10 : public Modello {
 public:

@@ -21,8 +21,6 @@ namespace lirmeto {
 
 namespace {
 
-constexpr std::string_view RigaPropostaAggiornata = "6|ESTRATTO DI MAPPA AGGIORNATO|";
-
 bool Esclusa(std::string_view riga, const VistaGrafica& vista) {
   return (vista.Check4 && Contiene(riga, "|PF")) || (vista.Check3 && Contiene(riga, "T|"));
 }

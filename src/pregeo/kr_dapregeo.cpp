@@ -62,27 +62,27 @@ void Riempi(ListaRighe& lista, std::string&& testo) {
 
 // By the kind of a row, the index of the last field below which a row without GPS is one without a note of its own;
 // none for a kind that describes no point.
-std::optional<int> CampiSenzaNota(double genere) {
-  if (genere == 1) return 2;
-  if (genere == 2) return 5;
-  if (genere == 4 || genere == 5) return 4;
+std::optional<int> CampiSenzaNota(Genere genere) {
+  if (genere == Genere::Stazione) return 2;
+  if (genere == Genere::Battuta) return 5;
+  if (genere == Genere::Allineamento || genere == Genere::Squadro) return 4;
   return std::nullopt;
 }
 
 // Whether the last field stands where a row of its kind has none for the note.
-bool SenzaNota(double genere, int ultimo, int limite) {
-  return genere == 2 ? ultimo <= limite : ultimo == limite;
+bool SenzaNota(Genere genere, int ultimo, int limite) {
+  return genere == Genere::Battuta ? ultimo <= limite : ultimo == limite;
 }
 
 // What a row of the libretto says of its point; none for a row that says nothing.
 std::optional<std::string> DescrizioneDi(std::string_view riga) {
-  const double genere = GenereRiga(riga);
+  const Genere genere = GenereDi(riga);
   const auto limite = CampiSenzaNota(genere);
   if (!limite) return std::nullopt;
   const RigaDivisa divisa = SplitRiga(riga);
   const std::string_view ultimo = divisa.CampiRiga.at(static_cast<std::size_t>(divisa.UltimoCampo));
   std::string testo(ENumero(ultimo) ? "Note:" : ultimo);
-  const bool gps = (genere == 1 || genere == 2) && Contiene(riga, ",");
+  const bool gps = (genere == Genere::Stazione || genere == Genere::Battuta) && Contiene(riga, ",");
   if (!gps && SenzaNota(genere, divisa.UltimoCampo, *limite)) testo += Nota;
   return testo;
 }
@@ -175,7 +175,7 @@ void KR_Dapregeo::Disegna() {
     testo += Sostituisci(riga, ",", ".").append(FineRiga);
   }
   for (const auto riga : List2)
-    if (GenereRiga(riga) == 7) testo.append(riga).append(FineRiga);
+    if (GenereDi(riga) == Genere::Contorno) testo.append(riga).append(FineRiga);
   if (testo.size() <= troppoCorto) return;
   const std::string file = FileDiScambio(ambiente_.sessione, "elab.sur");
   ambiente_.disco.Scrivi(file, testo);
@@ -191,7 +191,7 @@ void KR_Dapregeo::ImportaRighe8InLibretto() {
     righe.append(Taglia(Sostituisci(riga, ",", "."))).append(FineRiga);
   }
   for (const auto riga : List2)
-    if (GenereRiga(riga) == 7) righe.append(Taglia(riga)).append(FineRiga);
+    if (GenereDi(riga) == Genere::Contorno) righe.append(Taglia(riga)).append(FineRiga);
   AggiungiRigheLibretto(ambiente_.sessione, righe);
   estrattoPrima_ = ambiente_.sessione.EstrattoAssociato;
   CaricaLibrettoInList1(ambiente_);
