@@ -145,7 +145,7 @@ std::string EstrattoConParticella(std::string_view testo, const std::string& nuo
   return esito;
 }
 
-void ArchiviaParticelle(Ambiente& ambiente) {
+void AggiornaArchivioParticelle(Ambiente& ambiente) {
   const Sessione& sessione = ambiente.sessione;
   KR_Estratto estratto;
   if (sessione.EstrattoAssociato.empty() || !EsplodiEstratto(ambiente, estratto, sessione.EstrattoAssociato))

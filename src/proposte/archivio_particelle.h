@@ -29,7 +29,7 @@ struct FileParticella {
 [[nodiscard]] std::string EstrattoConParticella(std::string_view testo, const std::string& riga);
 
 // The associated extract's parcels into the archive; one that is not there is told.
-void ArchiviaParticelle(Ambiente& ambiente);
+void AggiornaArchivioParticelle(Ambiente& ambiente);
 
 void ScriviParticelle(Ambiente& ambiente, const std::vector<FileParticella>& particelle);
 
