@@ -15,6 +15,7 @@ std::span<const FamigliaCli> FamiglieCli() {
       ComandiProposta(),    //
       ComandiEstratto(),    //
       ComandiFoglio(),      //
+      ComandiCensuario(),   //
       ComandiDisegno(),     //
       ComandiModello(),     //
       ComandiZip(),         //

@@ -59,6 +59,8 @@ struct FamigliaCli {
 [[nodiscard]] FamigliaCli ComandiEstratto();
 // Whole cadastral sheets.
 [[nodiscard]] FamigliaCli ComandiFoglio();
+// Rows of the Modello Censuario.
+[[nodiscard]] FamigliaCli ComandiCensuario();
 
 // The check of a fiscal code; archives.
 [[nodiscard]] FamigliaCli ComandiSupporto();

@@ -30,7 +30,7 @@ struct Scritte {
   std::string oggi;
   std::vector<std::string> risposte;
   std::string uscita;
-  std::array<std::string, 4> argomenti;
+  std::array<std::string, 7> argomenti; // as many as a command has at most
   std::vector<std::string> altri; // of an argument that is given more than once
 };
 

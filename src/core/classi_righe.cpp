@@ -18,6 +18,8 @@ namespace lirmeto {
 //   a Relazione block without its closing mark     no block: its rows are judged one by one
 //   a row 6 that holds either Relazione mark       no comment: it is dropped when it stands outside a block
 //   a blank row                                    no row
+//   census rows behind the proposal                a block with its heading, as the census forms put it there, is of the
+//                                                  Modello Censuario and no part of the proposal
 //   census rows of province GO                     only those that have all the fields are changed
 //   the proposal                                   its rows are of its class even where they are a Relazione block too
 
@@ -111,10 +113,12 @@ RigheInClassi DividiInClassi(const std::string& libretto, Dialoghi& dialoghi) {
   for (std::size_t i = 0; relazione.Vale() && i < righe.size(); ++i)
     if (relazione.Contiene(i)) classi[ClasseRighe::Relazione].AggiungiVista(righe[i]);
   const auto proposta = static_cast<std::size_t>(std::find(righe.begin(), righe.end(), RigaProposta) - righe.begin());
-  for (std::size_t i = proposta; i < righe.size(); ++i) classi[ClasseRighe::Proposta].AggiungiVista(Taglia(righe[i]));
   // A last row that no line end closes is not looked at: a libretto is expected to end with one.
   const bool aperta = proposta == righe.size() && proposta > 0 && !testo->ends_with(FineRiga);
   Distribuisci(std::span(righe).first(proposta - (aperta ? 1 : 0)), relazione, classi, dialoghi);
+  BloccoCensuario censuario;
+  for (std::size_t i = proposta; i < righe.size(); ++i)
+    classi[censuario.Prende(righe[i]) ? ClasseRighe::Censuario : ClasseRighe::Proposta].AggiungiVista(Taglia(righe[i]));
   OrdinaStazioni(classi[ClasseRighe::Stazioni], Ordine::Stazioni);
   OrdinaStazioni(classi[ClasseRighe::Gps], Ordine::Gps);
   return classi;

@@ -2,6 +2,7 @@
 
 #include <base/testo.h>
 #include <core/riga.h>
+#include <core/riga_censuaria.h>
 
 namespace lirmeto {
 
@@ -22,9 +23,10 @@ void RicomponiLibretto(Ambiente& ambiente, RigheInClassi righe) {
 void CatturaPropostaInLibretto(Sessione& sessione) {
   sessione.PropostaLibretto.clear();
   bool dentro = false;
+  BloccoCensuario censuario; // a block behind the proposal is no part of it
   for (const auto riga : RigheDi(sessione.Libretto)) {
     dentro = dentro || riga == RigaProposta;
-    if (!dentro) continue;
+    if (!dentro || censuario.Prende(riga)) continue;
     sessione.PropostaLibretto += Taglia(riga);
     sessione.PropostaLibretto += FineRiga;
   }

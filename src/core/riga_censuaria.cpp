@@ -64,6 +64,11 @@ bool ApreSezione(std::string_view riga) {
   return ApreSezione(riga, Frazionamento) || ApreSezione(riga, Stralcio) || ApreSezione(riga, Fusione);
 }
 
+bool BloccoCensuario::Prende(std::string_view riga) {
+  dentro_ = riga == censuario::Intestazione || (dentro_ && RigaCensuaria(riga));
+  return dentro_;
+}
+
 double RigheIndicate(const ListaRighe& censuario) {
   double indicate = 1;
   for (const auto riga : censuario)

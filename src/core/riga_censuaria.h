@@ -103,6 +103,15 @@ void ScriviArea(std::string& riga, std::string_view area);
 [[nodiscard]] bool ApreSezione(std::string_view riga);
 [[nodiscard]] bool ApreSezione(std::string_view riga, std::string_view sezione);
 
+// Tells the rows of a block from others, asked row by row: from the heading on, as long as they are census rows.
+class BloccoCensuario {
+public:
+  [[nodiscard]] bool Prende(std::string_view riga);
+
+private:
+  bool dentro_ = false;
+};
+
 // The rows that a block should have by its count rows, the heading counted. Fusions of the second kind are left out:
 // meant so, a block that holds one never has as many as it says.
 [[nodiscard]] double RigheIndicate(const ListaRighe& censuario);

@@ -22,6 +22,8 @@ enum Posto : std::size_t { Nome = 2, Classe, Qualita, Superficie, Grafica, Agrar
 
 DatiParticella LeggiRigaParticella(std::string_view riga) {
   const std::vector<std::string_view> campi = Dividi(riga, "|");
+  if (!UgualiSenzaCaso(riga.substr(0, InizioParticella.size()), InizioParticella))
+    throw Errore(errore::ArgomentoNonValido, std::string("La riga non è di una particella: "_w) + std::string(riga));
   if (campi.size() <= Superficie)
     throw Errore(errore::IndiceFuoriIntervallo, "La riga della particella non ha tutti i campi: " + std::string(riga));
   const auto campo = [&](Posto posto) { return std::string(posto < campi.size() ? campi[posto] : std::string_view{}); };

@@ -30,7 +30,7 @@ struct DatiParticella {
   std::string srSn;
 };
 
-// Throws Errore 9 for a row without an area.
+// Throws Errore 9 for a row without an area, 5 for one that is no parcel's.
 [[nodiscard]] DatiParticella LeggiRigaParticella(std::string_view riga);
 [[nodiscard]] std::string RigaParticella(const DatiParticella& dati);
 

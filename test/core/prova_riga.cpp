@@ -101,6 +101,11 @@ INSTANTIATE_TEST_SUITE_P(
         std::pair{"7|", "Riga 7 - Contorno"},
         std::pair{"8|PF01/0010/G224|1|2|11|SPIGOLO|", "Riga 8 - Punto Fiduciale: PF PF01/0010/G224 \xB7 Nord 1 m "
                                                       "\xB7 Est 2 m \xB7 Codice 11 \xB7 Descrizione SPIGOLO"},
+        std::pair{"6|C|     |000|a |AAA  |000029090|SN|  |     |282|  |                 |",
+                  "Riga 6 - Modello Censuario: Operazione C costituita \xB7 Subalterno 000 \xB7 Lettera a \xB7 "
+                  "Nome temporaneo AAA \xB7 Area 000029090 mq \xB7 SR/SN SN \xB7 Qualit\xE0 282"},
+        std::pair{"6|3SPC |003|                                                         |",
+                  "Riga 6 - Modello Censuario: Sezione 3SPC \xB7 Righe 003"},
         std::pair{"zzz", "Riga di tipo sconosciuto: Testo zzz"}));
 
 TEST(Descrizione, OgniRigaHaUnTestoAnchePiuLungaDiQuantoSiMostra) {

@@ -4,6 +4,7 @@
 #include <core/libretto_in_classi.h>
 #include <core/ordine_stazioni.h>
 #include <core/riga.h>
+#include <core/riga_censuaria.h>
 #include <core/riordino.h>
 
 #include <gtest/gtest.h>
@@ -211,6 +212,19 @@ TEST(Censuario, ConteggioDelleRighe) {
                                           "righe PRESENTI nel Modello Censuario!");
   EXPECT_FALSE(avvisa({Censuaria("1"), Censuaria("51FTP| 1"), Censuaria("x")}));
   EXPECT_FALSE(avvisa({}));
+}
+
+TEST(Censuario, IlBloccoDietroLaPropostaTornaAlSuoPosto) {
+  Banco banco;
+  const std::string testata(censuario::Intestazione);
+  const std::string conteggio = RigaConteggio(censuario::Stralcio, 1);
+  const std::string riga = RiempiECorta("6|C|", 69) + "|";
+  const std::string ditta = RiempiECorta("6|DITTA|x", 69) + "|"; // seventy characters, and part of the proposal
+  const std::string proposta(RigaProposta);
+  const Righe attesa = {Zero, Nove, testata, conteggio, riga, proposta, "8|1%|1|2|", ditta};
+  EXPECT_EQ(Riordinate(banco, {Zero, Nove, proposta, "8|1%|1|2|", ditta, testata, conteggio, riga}), attesa);
+  EXPECT_TRUE(banco.dialoghi.detti.empty());
+  EXPECT_EQ(banco.sessione.PropostaLibretto, Testo({proposta, "8|1%|1|2|", ditta}));
 }
 
 TEST(Censuario, ProvinciaDiGorizia) {
