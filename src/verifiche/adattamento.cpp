@@ -18,34 +18,34 @@ struct Peggiore {
 
 std::optional<Rototraslazione> MinimiQuadrati(const std::vector<Coppia>& coppie) {
   if (coppie.size() < 2) return std::nullopt;
-  Posto da;
-  Posto a;
+  PuntoPiano da;
+  PuntoPiano a;
   for (const Coppia& c : coppie) {
-    da = {da.x + c.da.x, da.y + c.da.y};
-    a = {a.x + c.a.x, a.y + c.a.y};
+    da = {da.est + c.da.est, da.nord + c.da.nord};
+    a = {a.est + c.a.est, a.nord + c.a.nord};
   }
   const auto n = static_cast<double>(coppie.size());
-  da = {da.x / n, da.y / n};
-  a = {a.x / n, a.y / n};
+  da = {da.est / n, da.nord / n};
+  a = {a.est / n, a.nord / n};
   double scalare = 0;
   double vettoriale = 0;
   for (const Coppia& c : coppie) {
-    scalare += (c.da.x - da.x) * (c.a.x - a.x) + (c.da.y - da.y) * (c.a.y - a.y);
-    vettoriale += (c.da.x - da.x) * (c.a.y - a.y) - (c.da.y - da.y) * (c.a.x - a.x);
+    scalare += (c.da.est - da.est) * (c.a.est - a.est) + (c.da.nord - da.nord) * (c.a.nord - a.nord);
+    vettoriale += (c.da.est - da.est) * (c.a.nord - a.nord) - (c.da.nord - da.nord) * (c.a.est - a.est);
   }
   const double modulo = std::hypot(scalare, vettoriale);
   if (!(modulo > 0) || !std::isfinite(modulo)) return std::nullopt;
   Rototraslazione t{scalare / modulo, vettoriale / modulo, 0, 0};
-  const Posto girato = t.Applica(da);
-  t.dx = a.x - girato.x;
-  t.dy = a.y - girato.y;
+  const PuntoPiano girato = t.Applica(da);
+  t.dx = a.est - girato.est;
+  t.dy = a.nord - girato.nord;
   return t;
 }
 
 Peggiore PeggioreDi(const std::vector<Coppia>& coppie, const Rototraslazione& t) {
   Peggiore peggiore;
   for (std::size_t i = 0; i < coppie.size(); ++i) {
-    const double scarto = Distanza(t.Applica(coppie[i].da), coppie[i].a);
+    const double scarto = DistanzaPiana(t.Applica(coppie[i].da), coppie[i].a);
     if (scarto > peggiore.scarto) peggiore = {scarto, i};
   }
   return peggiore;
@@ -77,15 +77,11 @@ std::size_t DaLasciare(const std::vector<Coppia>& coppie, std::size_t peggiore) 
 
 } // namespace
 
-double Distanza(const Posto& a, const Posto& b) {
-  return std::hypot(a.x - b.x, a.y - b.y);
-}
-
 std::optional<Rototraslazione> Adatta(std::vector<Coppia> coppie) {
   auto t = MinimiQuadrati(coppie);
   for (std::size_t giri = coppie.size() / 2; t && giri > 0 && coppie.size() > 2; --giri) {
     const Peggiore peggiore = PeggioreDi(coppie, *t);
-    const double lontana = std::hypot(coppie[peggiore.indice].da.x, coppie[peggiore.indice].da.y);
+    const double lontana = std::hypot(coppie[peggiore.indice].da.est, coppie[peggiore.indice].da.nord);
     if (peggiore.scarto <= TolleranzaStretta(lontana)) break;
     auto altre = Senza(coppie, DaLasciare(coppie, peggiore.indice));
     const auto migliore = MinimiQuadrati(altre);

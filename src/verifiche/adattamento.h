@@ -1,18 +1,13 @@
 #pragma once
 // One plane laid upon another by points that both have: turned and moved, never stretched. Metres.
 
+#include <base/piano.h>
+
 #include <cstddef>
 #include <optional>
 #include <vector>
 
 namespace lirmeto {
-
-struct Posto {
-  double x = 0; // east
-  double y = 0; // north
-};
-
-[[nodiscard]] double Distanza(const Posto& a, const Posto& b);
 
 struct Rototraslazione {
   double coseno = 1;
@@ -20,19 +15,19 @@ struct Rototraslazione {
   double dx = 0;
   double dy = 0;
 
-  [[nodiscard]] Posto Applica(const Posto& p) const {
-    return {coseno * p.x - seno * p.y + dx, seno * p.x + coseno * p.y + dy};
+  [[nodiscard]] PuntoPiano Applica(const PuntoPiano& p) const {
+    return {coseno * p.est - seno * p.nord + dx, seno * p.est + coseno * p.nord + dy};
   }
-  [[nodiscard]] Posto Inversa(const Posto& p) const {
-    const double x = p.x - dx;
-    const double y = p.y - dy;
+  [[nodiscard]] PuntoPiano Inversa(const PuntoPiano& p) const {
+    const double x = p.est - dx;
+    const double y = p.nord - dy;
     return {coseno * x + seno * y, coseno * y - seno * x};
   }
 };
 
 struct Coppia {
-  Posto da;
-  Posto a;
+  PuntoPiano da;
+  PuntoPiano a;
 };
 
 // By least squares over the pairs; none for fewer than two, or when all lie in one place. A pair that spoils an

@@ -30,11 +30,11 @@ struct Intorno {
   Data oggi;
   const std::vector<Comune>* comuni = nullptr; // none or empty: no table
   const std::vector<CodiceENome>* province = nullptr;
-  const std::vector<std::string>* qualita = nullptr; // "282   ENTE URBANO "
-  std::optional<double> quotaComune;                 // mean height of the comune, metres
-  std::set<std::string> senzaTaf;                    // comuni of fiducial points whose TAF is not there
-  std::map<std::string, Posto, std::less<>> taf;     // fiducial points of the act that the TAF has
-  std::vector<Misurata> misurate;                    // of pairs of its fiducial points
+  const std::vector<std::string>* qualita = nullptr;  // "282   ENTE URBANO "
+  std::optional<double> quotaComune;                  // mean height of the comune, metres
+  std::set<std::string> senzaTaf;                     // comuni of fiducial points whose TAF is not there
+  std::map<std::string, PuntoPiano, std::less<>> taf; // fiducial points of the act that the TAF has
+  std::vector<Misurata> misurate;                     // of pairs of its fiducial points
   bool archivioMisurate = false;
   std::string nomeEstratto; // empty: none is associated
   std::optional<EstrattoLetto> estratto;
@@ -65,7 +65,7 @@ void VerificaCensuario(const Atto& atto, Raccolta& raccolta);
 [[nodiscard]] std::vector<bool> Definiti(const RigheLette& righe);
 
 // The three fiducial points that enclose the largest area, of those whose place is known.
-using TriangoloFiduciale = std::array<Posto, 3>;
+using TriangoloFiduciale = std::array<PuntoPiano, 3>;
 [[nodiscard]] std::optional<TriangoloFiduciale> TriangoloDi(const RigheLette& righe, const Rete& rete);
 
 // Metres as they stand in a sentence: "0.52", and hundredths of a kilometre and the like in the same way.

@@ -58,8 +58,8 @@ void PrendiRighe(std::string_view testo, EstrattoLetto& letto) {
 
 } // namespace
 
-std::vector<Posto> PuntiEstratto::Di(const AnelloLetto& anello) const {
-  std::vector<Posto> trovati;
+std::vector<PuntoPiano> PuntiEstratto::Di(const AnelloLetto& anello) const {
+  std::vector<PuntoPiano> trovati;
   for (const std::string& vertice : anello.vertici)
     if (const auto posto = posti.find(vertice); posto != posti.end()) trovati.push_back(posto->second);
   return trovati;
@@ -74,7 +74,7 @@ void LettoreAnelli::Riga(std::string_view riga, std::size_t indice) {
   if (genere != Genere::Contorno && genere != Genere::Coordinate) return;
   const Campi campi(riga);
   if (genere == Genere::Coordinate && campi.Quanti() > 3) {
-    punti.posti.insert_or_assign(std::string(campi[1]), Posto{Misura(campi[3]), Misura(campi[2])});
+    punti.posti.insert_or_assign(std::string(campi[1]), PuntoPiano{Misura(campi[3]), Misura(campi[2])});
     return;
   }
   if (genere != Genere::Contorno || campi.Quanti() < 3) return;
@@ -101,12 +101,12 @@ EstrattoLetto LeggiEstratto(std::string_view testo) {
   return letto;
 }
 
-double AreaDi(const std::vector<Posto>& vertici) {
+double AreaDi(const std::vector<PuntoPiano>& vertici) {
   double doppia = 0;
   for (std::size_t i = 0; i < vertici.size(); ++i) {
-    const Posto& a = vertici[i];
-    const Posto& b = vertici[(i + 1) % vertici.size()];
-    doppia += (b.x - a.x) * (b.y + a.y);
+    const PuntoPiano& a = vertici[i];
+    const PuntoPiano& b = vertici[(i + 1) % vertici.size()];
+    doppia += (b.est - a.est) * (b.nord + a.nord);
   }
   return std::fabs(doppia) / 2;
 }

@@ -22,9 +22,9 @@ struct AnelloLetto {
 };
 
 struct PuntiEstratto {
-  std::unordered_map<std::string, Posto> posti;
+  std::unordered_map<std::string, PuntoPiano> posti;
   // The vertices of a ring that have a place.
-  [[nodiscard]] std::vector<Posto> Di(const AnelloLetto& anello) const;
+  [[nodiscard]] std::vector<PuntoPiano> Di(const AnelloLetto& anello) const;
 };
 
 struct EstrattoLetto {
@@ -35,7 +35,7 @@ struct EstrattoLetto {
   std::vector<std::string> particelle; // of the header and of the rings, without signs
   PuntiEstratto punti;
   std::vector<AnelloLetto> anelli;
-  std::vector<std::vector<Posto>> linee; // free lines
+  std::vector<std::vector<PuntoPiano>> linee; // free lines
 
   [[nodiscard]] bool HaParticella(std::string_view nome) const;
 };
@@ -54,6 +54,6 @@ public:
 [[nodiscard]] EstrattoLetto LeggiEstratto(std::string_view testo);
 
 // The area inside a ring, square metres; the ring need not repeat its first vertex.
-[[nodiscard]] double AreaDi(const std::vector<Posto>& vertici);
+[[nodiscard]] double AreaDi(const std::vector<PuntoPiano>& vertici);
 
 } // namespace lirmeto

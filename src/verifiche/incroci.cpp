@@ -7,8 +7,8 @@ namespace lirmeto {
 
 namespace {
 
-double Verso(const Posto& a, const Posto& b, const Posto& c) {
-  return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
+double Verso(const PuntoPiano& a, const PuntoPiano& b, const PuntoPiano& c) {
+  return (b.est - a.est) * (c.nord - a.nord) - (b.nord - a.nord) * (c.est - a.est);
 }
 
 bool Opposti(double x, double y) {
@@ -17,15 +17,17 @@ bool Opposti(double x, double y) {
 
 bool Incrociano(const Tratto& s, const Tratto& t) {
   if (s.primo == t.primo || s.primo == t.secondo || s.secondo == t.primo || s.secondo == t.secondo) return false;
-  if (std::max(s.a.y, s.b.y) < std::min(t.a.y, t.b.y) || std::max(t.a.y, t.b.y) < std::min(s.a.y, s.b.y)) return false;
+  if (std::max(s.a.nord, s.b.nord) < std::min(t.a.nord, t.b.nord) ||
+      std::max(t.a.nord, t.b.nord) < std::min(s.a.nord, s.b.nord))
+    return false;
   return Opposti(Verso(s.a, s.b, t.a), Verso(s.a, s.b, t.b)) && Opposti(Verso(t.a, t.b, s.a), Verso(t.a, t.b, s.b));
 }
 
 } // namespace
 
 std::optional<std::pair<std::size_t, std::size_t>> PrimoIncrocio(const std::vector<Tratto>& tratti) {
-  const auto ovest = [&](std::size_t i) { return std::min(tratti[i].a.x, tratti[i].b.x); };
-  const auto est = [&](std::size_t i) { return std::max(tratti[i].a.x, tratti[i].b.x); };
+  const auto ovest = [&](std::size_t i) { return std::min(tratti[i].a.est, tratti[i].b.est); };
+  const auto est = [&](std::size_t i) { return std::max(tratti[i].a.est, tratti[i].b.est); };
   std::vector<std::size_t> ordine(tratti.size());
   std::iota(ordine.begin(), ordine.end(), 0);
   std::sort(ordine.begin(), ordine.end(), [&](auto i, auto k) { return ovest(i) < ovest(k); });
@@ -39,13 +41,13 @@ std::optional<std::pair<std::size_t, std::size_t>> PrimoIncrocio(const std::vect
   return std::nullopt;
 }
 
-double DistanzaDaTratto(const Posto& p, const Posto& a, const Posto& b) {
-  const double dx = b.x - a.x;
-  const double dy = b.y - a.y;
+double DistanzaDaTratto(const PuntoPiano& p, const PuntoPiano& a, const PuntoPiano& b) {
+  const double dx = b.est - a.est;
+  const double dy = b.nord - a.nord;
   const double quadrato = dx * dx + dy * dy;
-  if (quadrato == 0) return Distanza(p, a);
-  const double t = std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / quadrato, 0.0, 1.0);
-  return Distanza(p, {a.x + t * dx, a.y + t * dy});
+  if (quadrato == 0) return DistanzaPiana(p, a);
+  const double t = std::clamp(((p.est - a.est) * dx + (p.nord - a.nord) * dy) / quadrato, 0.0, 1.0);
+  return DistanzaPiana(p, {a.est + t * dx, a.nord + t * dy});
 }
 
 } // namespace lirmeto

@@ -41,7 +41,7 @@ void LeggiTaf(const Ambiente& ambiente, const std::vector<std::string>& fiducial
     for (const auto riga : RigheDi(*testo)) {
       const RecordTaf record = DecodificaRigaTAF(riga);
       if (std::binary_search(fiduciali.begin(), fiduciali.end(), record.nome))
-        intorno.taf.try_emplace(record.nome, Posto{Misura(record.est), Misura(record.nord)});
+        intorno.taf.try_emplace(record.nome, PuntoPiano{Misura(record.est), Misura(record.nord)});
     }
   }
 }

@@ -26,7 +26,7 @@ PianoGnss::PianoGnss(const Geocentrica& origine) : origine_(origine) {
   cosenoLon_ = std::cos(longitudine);
 }
 
-Posto PianoGnss::Su(const Geocentrica& punto) const {
+PuntoPiano PianoGnss::Su(const Geocentrica& punto) const {
   const double dx = punto.x - origine_.x;
   const double dy = punto.y - origine_.y;
   const double dz = punto.z - origine_.z;

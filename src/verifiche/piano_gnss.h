@@ -20,7 +20,7 @@ class PianoGnss {
 public:
   // At this point of the WGS84 ellipsoid, or above it.
   explicit PianoGnss(const Geocentrica& origine);
-  [[nodiscard]] Posto Su(const Geocentrica& punto) const;
+  [[nodiscard]] PuntoPiano Su(const Geocentrica& punto) const;
 
 private:
   Geocentrica origine_;

@@ -77,7 +77,7 @@ void Rete::RaccogliGps(const RigheLette& righe) {
       }
     }
     if (!piano || (letta.forma == Forma::VettoreGps && !letta.haDistanza)) continue;
-    const Posto locale = piano->Su(letta.forma == Forma::BaseGps ? base : base + valori);
+    const PuntoPiano locale = piano->Su(letta.forma == Forma::BaseGps ? base : base + valori);
     if (letta.forma == Forma::BaseGps && stazioni_.back().punto == letta.nome) continue;
     const double distanza = letta.forma == Forma::VettoreGps ? valori.Lunghezza() : 0;
     stime_.push_back({i, letta.nome, locale, {}, distanza, true, false});
@@ -106,7 +106,7 @@ void Rete::Avvisa(std::size_t stazione) {
   if (!s.posto && ++s.noti >= bastano) coda_.push_back(stazione);
 }
 
-void Rete::Scopri(Punto punto, const Posto& posto, std::size_t riga, Origine origine) {
+void Rete::Scopri(Punto punto, const PuntoPiano& posto, std::size_t riga, Origine origine) {
   if (Nota(punto)) return;
   punti_[punto] = {origine, posto, riga, false};
   for (std::size_t i = inizi_[punto]; i < inizi_[punto + 1]; ++i) Avvisa(vedono_[i]);
@@ -128,13 +128,14 @@ bool Rete::Orienta(Stazionamento& stazione) const {
 // A known station that sees a known point without its distance.
 bool Rete::OrientaSuDirezione(Stazionamento& stazione) const {
   if (!Nota(stazione.punto)) return false;
-  const Posto& qui = Dove(stazione.punto);
+  const PuntoPiano& qui = Dove(stazione.punto);
   for (std::size_t i = stazione.prima; i < stazione.dopo; ++i) {
     const Stima& stima = stime_[i];
-    if (stima.haDistanza || !Nota(stima.punto) || Distanza(qui, Dove(stima.punto)) == 0) continue;
-    const Posto& la = Dove(stima.punto);
-    const double giro = std::atan2(la.y - qui.y, la.x - qui.x) - std::atan2(stima.locale.y, stima.locale.x);
-    stazione.frame = {std::cos(giro), std::sin(giro), qui.x, qui.y};
+    if (stima.haDistanza || !Nota(stima.punto) || DistanzaPiana(qui, Dove(stima.punto)) == 0) continue;
+    const PuntoPiano& la = Dove(stima.punto);
+    const double giro =
+        std::atan2(la.nord - qui.nord, la.est - qui.est) - std::atan2(stima.locale.nord, stima.locale.est);
+    stazione.frame = {std::cos(giro), std::sin(giro), qui.est, qui.nord};
     return true;
   }
   return false;
@@ -202,8 +203,8 @@ void Rete::Media() {
     x.clear();
     y.clear();
     for (const std::size_t i : stime) {
-      x.push_back(stime_[i].posto.x);
-      y.push_back(stime_[i].posto.y);
+      x.push_back(stime_[i].posto.est);
+      y.push_back(stime_[i].posto.nord);
     }
     punti_[punto].posto = {Mediana(x), Mediana(y)};
   }
@@ -218,15 +219,15 @@ void Rete::Squadri(const RigheLette& righe) {
     if (letta.genere == 4) base = letta.forma == Forma::Squadro ? &letta : nullptr;
     if (letta.forma != Forma::Offset || base == nullptr) continue;
     if (!Nota(base->punti[0]) || !Nota(base->punti[1])) continue;
-    const Posto& a = Dove(base->punti[0]);
-    const Posto& b = Dove(base->punti[1]);
-    const double lunga = Distanza(a, b);
+    const PuntoPiano& a = Dove(base->punti[0]);
+    const PuntoPiano& b = Dove(base->punti[1]);
+    const double lunga = DistanzaPiana(a, b);
     if (!(lunga > 0)) continue;
     const double ascissa = letta.numeri[0];
     const double ordinata = ascissa < 0 ? -letta.numeri[1] : letta.numeri[1];
-    const double ux = (b.x - a.x) / lunga;
-    const double uy = (b.y - a.y) / lunga;
-    const Posto posto{a.x + ux * ascissa + uy * ordinata, a.y + uy * ascissa - ux * ordinata};
+    const double ux = (b.est - a.est) / lunga;
+    const double uy = (b.nord - a.nord) / lunga;
+    const PuntoPiano posto{a.est + ux * ascissa + uy * ordinata, a.nord + uy * ascissa - ux * ordinata};
     stime_.push_back({i, letta.nome, posto, posto, std::hypot(ascissa, ordinata), true, true});
     if (!Nota(letta.nome)) punti_[letta.nome] = {Origine::Squadro, posto, i, false};
   }
@@ -244,10 +245,10 @@ void Rete::PortaSullaMappa() {
   for (Stima& stima : stime_)
     if (stima.posta) stima.posto = frame->Applica(stima.posto);
   for (Stazionamento& stazione : stazioni_) {
-    const Posto qui = frame->Applica(stazione.frame.Applica({}));
+    const PuntoPiano qui = frame->Applica(stazione.frame.Applica({}));
     const double coseno = frame->coseno * stazione.frame.coseno - frame->seno * stazione.frame.seno;
     const double seno = frame->seno * stazione.frame.coseno + frame->coseno * stazione.frame.seno;
-    stazione.frame = {coseno, seno, qui.x, qui.y};
+    stazione.frame = {coseno, seno, qui.est, qui.nord};
   }
   for (const Stima& c : coordinate_)
     if (!Nota(c.punto)) punti_[c.punto] = {Origine::Coordinate, c.locale, c.riga, false};

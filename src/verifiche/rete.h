@@ -28,8 +28,8 @@ namespace lirmeto {
 struct Stima {
   std::size_t riga = 0;
   Punto punto = SenzaPunto;
-  Posto locale;
-  Posto posto;
+  PuntoPiano locale;
+  PuntoPiano posto;
   double distanza = 0; // plane, metres
   bool haDistanza = false;
   bool posta = false; // `posto` holds
@@ -51,7 +51,7 @@ enum class Origine : std::uint8_t { Ignota, Misure, Squadro, Coordinate };
 
 struct PuntoRete {
   Origine origine = Origine::Ignota;
-  Posto posto;
+  PuntoPiano posto;
   std::size_t riga = 0; // that gave its first place
   bool propria = false; // of the first station, and of one that found its place by itself, from three known points
 };
@@ -76,7 +76,7 @@ public:
   [[nodiscard]] bool Nota(Punto punto) const {
     return punto < punti_.size() && punti_[punto].origine != Origine::Ignota;
   }
-  [[nodiscard]] const Posto& Dove(Punto punto) const { return punti_[punto].posto; }
+  [[nodiscard]] const PuntoPiano& Dove(Punto punto) const { return punti_[punto].posto; }
   // Station that an estimate belongs to.
   [[nodiscard]] const Stazionamento& StazioneDi(std::size_t stima) const;
   // The sighting from one point to another: of a station on the first that sees the second; none when there is none.
@@ -86,7 +86,7 @@ private:
   void Raccogli(const RigheLette& righe);
   void RaccogliGps(const RigheLette& righe);
   void Collega();
-  void Scopri(Punto punto, const Posto& posto, std::size_t riga, Origine origine);
+  void Scopri(Punto punto, const PuntoPiano& posto, std::size_t riga, Origine origine);
   void Avvisa(std::size_t stazione);
   void Svolgi();
   [[nodiscard]] bool Orienta(Stazionamento& stazione) const;

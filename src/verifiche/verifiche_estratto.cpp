@@ -44,7 +44,7 @@ std::vector<Tratto> TrattiNeri(const EstrattoLetto& estratto) {
 }
 
 // How far both ends of a stretch are from the nearest black one: it lies along it.
-double LungoNeri(const Posto& a, const Posto& b, const std::vector<Tratto>& neri) {
+double LungoNeri(const PuntoPiano& a, const PuntoPiano& b, const std::vector<Tratto>& neri) {
   double minima = SullaLinea;
   for (const Tratto& nero : neri)
     minima = std::min(minima, std::max(DistanzaDaTratto(a, nero.a, nero.b), DistanzaDaTratto(b, nero.a, nero.b)));
@@ -59,9 +59,9 @@ void VerificaRossiSullaMappa(const Atto& atto, const EstrattoLetto& estratto, Ra
       const Punto da = contorno.vertici[i - 1].punto;
       const VerticeContorno& v = contorno.vertici[i];
       if (!atto.rete.Nota(da) || !atto.rete.Nota(v.punto)) continue;
-      const Posto& a = atto.rete.Dove(da);
-      const Posto& b = atto.rete.Dove(v.punto);
-      if (Distanza(a, b) <= 2 * SullaLinea) continue; // too short to lie along anything
+      const PuntoPiano& a = atto.rete.Dove(da);
+      const PuntoPiano& b = atto.rete.Dove(v.punto);
+      if (DistanzaPiana(a, b) <= 2 * SullaLinea) continue; // too short to lie along anything
       const double vicino = LungoNeri(a, b, neri);
       if (vicino >= SullaLinea) continue;
       const NomiPunti& nomi = atto.righe.Nomi();

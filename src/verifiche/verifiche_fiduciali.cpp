@@ -102,11 +102,11 @@ void VerificaCoordinateTaf(const Atto& atto, Raccolta& raccolta) {
   for (const Stima& c : atto.rete.Coordinate()) {
     const auto taf = atto.intorno.taf.find(Maiuscolo(atto.righe.Nomi().Nome(c.punto)));
     if (taf == atto.intorno.taf.end()) continue;
-    const double scarto = Distanza(c.locale, taf->second);
+    const double scarto = DistanzaPiana(c.locale, taf->second);
     if (scarto <= UgualiAllaTaf) continue;
-    const std::string nord = ConCampo(atto.righe.Testo(c.riga), CampoNord, Formatta(taf->second.y, "0.000"));
+    const std::string nord = ConCampo(atto.righe.Testo(c.riga), CampoNord, Formatta(taf->second.nord, "0.000"));
     raccolta.Riga(RegolaDi("F007"), c.riga, CampoNord, {taf->first, Metri(scarto)},
-                  ConCampo(nord, CampoEst, Formatta(taf->second.x, "0.000")));
+                  ConCampo(nord, CampoEst, Formatta(taf->second.est, "0.000")));
   }
 }
 
@@ -123,7 +123,7 @@ std::vector<const Fiduciale*> Misurati(const Atto& atto, const std::vector<Fiduc
 void VerificaDistanza(const Atto& atto, const Fiduciale& a, const Fiduciale& b, Raccolta& raccolta) {
   const std::string& primo = std::min(a.nome, b.nome);
   const std::string& secondo = std::max(a.nome, b.nome);
-  const double misurata = Distanza(atto.rete.Dove(a.punto), atto.rete.Dove(b.punto));
+  const double misurata = DistanzaPiana(atto.rete.Dove(a.punto), atto.rete.Dove(b.punto));
   const auto archivio = std::find_if(atto.intorno.misurate.begin(), atto.intorno.misurate.end(),
                                      [&](const auto& m) { return m.primo == primo && m.secondo == secondo; });
   const std::size_t riga = std::max(a.riga, b.riga);
@@ -132,7 +132,7 @@ void VerificaDistanza(const Atto& atto, const Fiduciale& a, const Fiduciale& b, 
   const auto tafA = atto.intorno.taf.find(a.nome);
   const auto tafB = atto.intorno.taf.find(b.nome);
   if (tafA == atto.intorno.taf.end() || tafB == atto.intorno.taf.end()) return;
-  const double taf = Distanza(tafA->second, tafB->second);
+  const double taf = DistanzaPiana(tafA->second, tafB->second);
   if (std::fabs(misurata - taf) > DifferenzaTaf)
     raccolta.Riga(RegolaDi("F009"), riga, CampoNome, {primo, secondo, Metri(misurata), Metri(taf)});
 }
@@ -144,21 +144,21 @@ void VerificaDistanze(const Atto& atto, const std::vector<Fiduciale>& fiduciali,
   if (misurati.size() > 1 && !atto.intorno.archivioMisurate) raccolta.Atto(RegolaDi("F011"));
 }
 
-double Area(const Posto& a, const Posto& b, const Posto& c) {
-  return std::fabs((b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x)) / 2;
+double Area(const PuntoPiano& a, const PuntoPiano& b, const PuntoPiano& c) {
+  return std::fabs((b.est - a.est) * (c.nord - a.nord) - (b.nord - a.nord) * (c.est - a.est)) / 2;
 }
 
 double LatoMassimo(const TriangoloFiduciale& t) {
-  return std::max({Distanza(t[0], t[1]), Distanza(t[1], t[2]), Distanza(t[2], t[0])});
+  return std::max({DistanzaPiana(t[0], t[1]), DistanzaPiana(t[1], t[2]), DistanzaPiana(t[2], t[0])});
 }
 
-bool Dentro(const TriangoloFiduciale& t, const Posto& p) {
+bool Dentro(const TriangoloFiduciale& t, const PuntoPiano& p) {
   const double intero = Area(t[0], t[1], t[2]);
   const double pezzi = Area(p, t[0], t[1]) + Area(p, t[1], t[2]) + Area(p, t[2], t[0]);
   return pezzi <= intero * (1 + 1e-9);
 }
 
-double DistanzaDaTriangolo(const TriangoloFiduciale& t, const Posto& p) {
+double DistanzaDaTriangolo(const TriangoloFiduciale& t, const PuntoPiano& p) {
   if (Dentro(t, p)) return 0;
   return std::min({DistanzaDaTratto(p, t[0], t[1]), DistanzaDaTratto(p, t[1], t[2]), DistanzaDaTratto(p, t[2], t[0])});
 }
@@ -201,7 +201,7 @@ void VerificaArchivi(const Atto& atto, Raccolta& raccolta) {
 
 std::optional<TriangoloFiduciale> TriangoloDi(const RigheLette& righe, const Rete& rete) {
   constexpr std::size_t alMassimo = 20;
-  std::vector<Posto> posti;
+  std::vector<PuntoPiano> posti;
   for (Punto punto = 0; punto < righe.Nomi().Quanti() && posti.size() < alMassimo; ++punto)
     if (righe.Nomi().Fiduciale(punto) && rete.Nota(punto)) posti.push_back(rete.Dove(punto));
   std::optional<TriangoloFiduciale> migliore;

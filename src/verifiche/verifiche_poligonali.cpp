@@ -96,7 +96,7 @@ struct Chiusura {
 // angle at the first vertex is the last to be used: only the angular closure depends on it.
 std::optional<Chiusura> Percorri(const Atto& atto, const Poligonale& p) {
   Chiusura chiusura;
-  Posto qui;
+  PuntoPiano qui;
   double azimut = 0;
   for (std::size_t i = 0; i + 1 < p.size(); ++i) {
     const auto lungo = Lunghezza(atto.rete, p[i].punto, p[i + 1].punto);
@@ -104,11 +104,11 @@ std::optional<Chiusura> Percorri(const Atto& atto, const Poligonale& p) {
     const auto angolo = AngoloAl(atto, p[i].punto, p[i + 1].punto, dopo);
     if (!lungo || !angolo) return std::nullopt;
     const double direzione = azimut * std::numbers::pi / (Giro / 2);
-    qui = {qui.x + *lungo * std::sin(direzione), qui.y + *lungo * std::cos(direzione)};
+    qui = {qui.est + *lungo * std::sin(direzione), qui.nord + *lungo * std::cos(direzione)};
     chiusura.perimetro += *lungo;
     azimut += Giro / 2 + *angolo;
   }
-  chiusura.lineare = Distanza(qui, {});
+  chiusura.lineare = DistanzaPiana(qui, {});
   chiusura.angolo = std::remainder(azimut, Giro);
   return chiusura;
 }

@@ -47,12 +47,12 @@ double Percorso(const Rete& rete, std::size_t una, std::size_t altra) {
   const Punto da = StazioneOSquadro(rete, una);
   const Punto a = StazioneOSquadro(rete, altra);
   if (da == SenzaPunto || a == SenzaPunto || !rete.Nota(da) || !rete.Nota(a)) return viste;
-  return viste + Distanza(rete.Dove(da), rete.Dove(a));
+  return viste + DistanzaPiana(rete.Dove(da), rete.Dove(a));
 }
 
 void ConfrontaDue(const Atto& atto, std::size_t una, std::size_t altra, Raccolta& raccolta) {
   const auto& stime = atto.rete.Stime();
-  const double scarto = Distanza(stime[una].posto, stime[altra].posto);
+  const double scarto = DistanzaPiana(stime[una].posto, stime[altra].posto);
   const double percorso = Percorso(atto.rete, una, altra);
   DiDoppia(atto, {stime[una], stime[altra].riga, StazioneOSquadro(atto.rete, altra), scarto, percorso}, raccolta);
 }
@@ -60,8 +60,8 @@ void ConfrontaDue(const Atto& atto, std::size_t una, std::size_t altra, Raccolta
 // Of three places or more the one that differs from where most are is the wrong one; a good one is named beside it.
 void ConfrontaMolte(const Atto& atto, std::span<const std::size_t> gruppo, Raccolta& raccolta) {
   const auto& stime = atto.rete.Stime();
-  const Posto& centro = atto.rete.Dove(stime[gruppo.front()].punto);
-  const auto scarto = [&](std::size_t i) { return Distanza(stime[i].posto, centro); };
+  const PuntoPiano& centro = atto.rete.Dove(stime[gruppo.front()].punto);
+  const auto scarto = [&](std::size_t i) { return DistanzaPiana(stime[i].posto, centro); };
   const std::size_t buona =
       *std::min_element(gruppo.begin(), gruppo.end(), [&](auto a, auto b) { return scarto(a) < scarto(b); });
   for (const std::size_t i : gruppo)
@@ -76,8 +76,8 @@ void ConfrontaMolte(const Atto& atto, std::span<const std::size_t> gruppo, Racco
 void ConfrontaConPropria(const Atto& atto, std::span<const std::size_t> gruppo, Raccolta& raccolta) {
   const auto& stime = atto.rete.Stime();
   for (const std::size_t i : gruppo) {
-    const Posto& propria = atto.rete.Dove(stime[i].punto);
-    const double scarto = Distanza(stime[i].posto, propria);
+    const PuntoPiano& propria = atto.rete.Dove(stime[i].punto);
+    const double scarto = DistanzaPiana(stime[i].posto, propria);
     if (scarto <= TolleranzaStretta(stime[i].distanza)) continue;
     const auto& stazioni = atto.rete.Stazioni();
     const auto sua = std::find_if(stazioni.begin(), stazioni.end(),
@@ -199,7 +199,7 @@ void VerificaCoordinate(const Atto& atto, Raccolta& raccolta) {
   if (!atto.rete.SullaMappa()) return;
   for (const Stima& c : atto.rete.Coordinate()) {
     if (atto.righe.Nomi().Fiduciale(c.punto) || !atto.rete.Nota(c.punto)) continue;
-    const double scarto = Distanza(c.locale, atto.rete.Dove(c.punto));
+    const double scarto = DistanzaPiana(c.locale, atto.rete.Dove(c.punto));
     if (scarto > DiscordanzaMappa)
       raccolta.Riga(RegolaDi("R013"), c.riga, CampoLettura, {atto.righe.Nomi().Nome(c.punto), Metri(scarto)});
   }

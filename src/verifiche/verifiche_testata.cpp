@@ -114,8 +114,8 @@ void VerificaEst(const Atto& atto, Raccolta& raccolta) {
   double minimo = std::numeric_limits<double>::max();
   double massimo = std::numeric_limits<double>::lowest();
   for (const Stima& c : atto.rete.Coordinate()) {
-    minimo = std::min(minimo, c.locale.x);
-    massimo = std::max(massimo, c.locale.x);
+    minimo = std::min(minimo, c.locale.est);
+    massimo = std::max(massimo, c.locale.est);
   }
   if (minimo > massimo) return;
   const double medio = (minimo + massimo) / 2;

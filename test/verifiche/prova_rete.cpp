@@ -18,20 +18,20 @@ using Elenco = std::vector<std::string>;
 
 struct DisegnoNoto {
   Elenco linee; // of a .LXC
-  std::map<std::string, Posto> posti;
+  std::map<std::string, PuntoPiano> posti;
 };
 
-void MettiPunto(DisegnoNoto& d, const std::string& nome, const Posto& p, double quota, const std::string& nota) {
+void MettiPunto(DisegnoNoto& d, const std::string& nome, const PuntoPiano& p, double quota, const std::string& nota) {
   d.posti[nome] = p;
-  d.linee.push_back("P," + nome + "," + Formatta(p.x, "0.000") + "," + Formatta(p.y, "0.000") + "," +
+  d.linee.push_back("P," + nome + "," + Formatta(p.est, "0.000") + "," + Formatta(p.nord, "0.000") + "," +
                     Formatta(quota, "0.000") + "," + nota + ",1.5");
 }
 
 void MettiLinea(DisegnoNoto& d, const std::string& a, const std::string& b) {
-  const Posto p = d.posti[a];
-  const Posto q = d.posti[b];
-  d.linee.push_back("L," + Formatta(p.x, "0.000") + "," + Formatta(p.y, "0.000") + ",0," + Formatta(q.x, "0.000") +
-                    "," + Formatta(q.y, "0.000") + ",0");
+  const PuntoPiano p = d.posti[a];
+  const PuntoPiano q = d.posti[b];
+  d.linee.push_back("L," + Formatta(p.est, "0.000") + "," + Formatta(p.nord, "0.000") + ",0," + Formatta(q.est, "0.000") +
+                    "," + Formatta(q.nord, "0.000") + ",0");
 }
 
 // Stations on a ring, each seen from its neighbours, with points around it that the stations beside it see too; points
@@ -43,10 +43,10 @@ DisegnoNoto Anello(unsigned seme, int stazioni) {
   const auto nome = [](int s, int p) { return TestoIntero(100 * (s + 1) + p); };
   for (int s = 0; s < stazioni; ++s) {
     const double angolo = 2 * std::numbers::pi * s / stazioni;
-    const Posto centro{2300000 + 150 * std::cos(angolo), 5030000 + 150 * std::sin(angolo)};
+    const PuntoPiano centro{2300000 + 150 * std::cos(angolo), 5030000 + 150 * std::sin(angolo)};
     MettiPunto(d, nome(s, 0), centro, 12 + s, s < 2 ? "CHIODO<8P>" : "CHIODO");
     for (int p = 1; p < 8; ++p)
-      MettiPunto(d, nome(s, p), {centro.x + vario(caso), centro.y + vario(caso)}, 11.5, "SPIGOLO");
+      MettiPunto(d, nome(s, p), {centro.est + vario(caso), centro.nord + vario(caso)}, 11.5, "SPIGOLO");
   }
   for (int s = 0; s < stazioni; ++s) {
     const int dopo = (s + 1) % stazioni;
@@ -72,9 +72,9 @@ struct Ricalcolato : Disegno {
     Apri(Testo(righe));
     verificatore.Aggiorna();
   }
-  [[nodiscard]] double Scarto(const std::string& nome, const Posto& vero) const {
+  [[nodiscard]] double Scarto(const std::string& nome, const PuntoPiano& vero) const {
     const Punto punto = verificatore.Righe().Nomi().Cerca(nome);
-    return verificatore.Posti().Nota(punto) ? Distanza(verificatore.Posti().Dove(punto), vero) : 1e9;
+    return verificatore.Posti().Nota(punto) ? DistanzaPiana(verificatore.Posti().Dove(punto), vero) : 1e9;
   }
   // Rows of the findings of the network.
   [[nodiscard]] std::set<std::size_t> RigheInColpa() const {
