@@ -7,6 +7,7 @@
 #include <fiduciali/importa_fiduciali.h>
 #include <fiduciali/seleziona_misurate.h>
 #include <generazione/libretto_da_disegno.h>
+#include <generazione/tipologia.h>
 #include <grafica/form_disegno.h>
 #include <intestazione/catasto1_form.h>
 #include <pregeo/form_configura_pregeo.h>

@@ -249,6 +249,8 @@ TEST(Strumenti, LaTagPassaDalloSmistamentoELeCaselleSeguono) {
 
 TEST(Forme, OgnunaSiApreColSuoModelloCaricato) {
   Banco banco;
+  banco.sessione.EstrattoAssociato = "E.EMP";
+  banco.disco.Metti("C:\\pregeo\\estratti\\E.EMP", "0|AUTOALLESTITO|0|0|0|0|0|0|0|0|\r\n");
   for (const Forma& form : Forme()) {
     bool mostrata = false;
     banco.finestre.utente = [&](Modello& modello) {

@@ -109,7 +109,8 @@ struct CasoPulsante {
 class OgniPulsante : public testing::TestWithParam<CasoPulsante> {};
 
 TEST_P(OgniPulsante, LasciaSulDisco) {
-  const auto& [indice, attesi] = GetParam();
+  const int indice = GetParam().first;
+  const auto& attesi = GetParam().second;
   Sala sala;
   sala.tavolo.banco.dialoghi.fileScelto = indice == 21   ? "C:\\DATI\\FUORI.EMP"
                                           : indice == 27 ? "C:\\DATI\\F.CXF"
