@@ -113,8 +113,9 @@ TEST(ElencoRighe, SelezioneEIndiceSeguonoLeRighe) {
   elenco.Inserisci(0, "z");
   EXPECT_EQ(elenco.Indice(), 3);
   EXPECT_TRUE(elenco.Selezionata(2));
+  elenco.Indice(2);
   elenco.Togli(0);
-  EXPECT_EQ(elenco.Indice(), 2);
+  EXPECT_EQ(elenco.Indice(), 1);
   EXPECT_THROW(elenco.Togli(3), Errore);
   EXPECT_THROW((void)elenco.Riga(3), Errore);
   EXPECT_THROW(elenco.SelezionaIntervallo(0, 3, true), Errore);
