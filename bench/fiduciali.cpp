@@ -2,8 +2,8 @@
 
 #include <punti_fiduciali.h>
 
+#include <core/lettura.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <fiduciali/elco_pf_grafica.h>
 #include <fiduciali/misurate_pf.h>
 #include <sostituti/banco.h>

@@ -5,8 +5,10 @@
 #include <base/numeri.h>
 #include <base/piano.h>
 #include <base/testo.h>
+#include <core/apri_form.h>
 #include <core/lettura.h>
 #include <core/mostra_errore.h>
+#include <core/nomi_forme.h>
 #include <estratti/kr_estratto.h>
 #include <fiduciali/misurate.h>
 #include <supporto/imputa.h>
@@ -33,7 +35,6 @@ namespace {
 
 constexpr std::string_view FontNomi = "Arial";
 constexpr double DimensioneNomi = 8; // points
-constexpr std::string_view FormEstratti = "KR_EstrattiDiMappa1";
 
 PuntoPF Punto(const RecordTaf& taf) {
   PuntoPF punto;
@@ -306,19 +307,13 @@ void KR_ElcoPFGrafica::MettiDistanzeMisurate(const std::string& archivio) {
   RiDisegnaPF();
 }
 
-// By the extract manager; while there is none, by its file. What the libretto is associated with does not change.
+// Without a choice in the manager nothing is added.
 void KR_ElcoPFGrafica::AssociamiEstratto() {
   ambiente_.sessione.PuntoErrore = "AssociamiEstratto";
-  std::string scelto;
-  if (ambiente_.finestre.Disponibile(FormEstratti)) {
-    std::string suo = std::exchange(ambiente_.sessione.EstrattoAssociato, {});
-    ambiente_.finestre.Apri(FormEstratti);
-    scelto = std::exchange(ambiente_.sessione.EstrattoAssociato, std::move(suo));
-  } else {
-    scelto = ambiente_.dialoghi.ScegliFileDaAprire(
-        {"Associa Estratto", CartellaEstratti(ambiente_.sessione), "", "Estratti di mappa (*.emp *.EMP)"});
-  }
-  if (!scelto.empty()) AggiungiPunti(scelto);
+  std::string suo = std::exchange(ambiente_.sessione.EstrattoAssociato, {});
+  const bool aperto = Intrappola(ambiente_, [&] { ApriForm(ambiente_, forma::EstrattiDiMappa); });
+  const std::string scelto = std::exchange(ambiente_.sessione.EstrattoAssociato, std::move(suo));
+  if (aperto && !scelto.empty()) AggiungiPunti(scelto);
 }
 
 void KR_ElcoPFGrafica::AggiungiPunti(std::string_view nome) {

@@ -254,23 +254,47 @@ TEST_F(Vista, SiStampanoISelezionati) {
   EXPECT_EQ(banco.disco.Contenuto(Temp + "Stampa_Fiduciali.TXT"), mostrata + "\r\n");
 }
 
-TEST_F(Vista, AIPuntiSiAggiungonoQuelliDiUnEstratto) {
+// The extract manager, where the user associates an extract or none.
+struct ConEstratti : prova::FinestreDiProva {
+  explicit ConEstratti(Sessione& sessione) : sessione_(sessione) { disponibili = {"KR_EstrattiDiMappa1"}; }
+  void Apri(std::string_view) override {
+    if (!scelto.empty()) sessione_.EstrattoAssociato = scelto;
+  }
+  std::string scelto;
+
+private:
+  Sessione& sessione_;
+};
+
+TEST(PianoConEstratto, HaAnchePuntiSuoi) {
+  Banco banco;
+  CreaCartelle(banco.ambiente);
+  ConEstratti finestre(banco.sessione);
+  Ambiente ambiente{banco.sessione, banco.disco,        banco.dialoghi, finestre,
+                    banco.processi, banco.impostazioni, banco.appunti,  banco.orologio};
   banco.disco.Metti("C:\\pregeo\\estratti\\X.EMP",
                     "0|1|2|G224|00010|5|PD|\r\n8|1%|0|0|\r\n8|PF05/0010/G224|-3.5|8|\r\n");
+  banco.disco.Metti("C:\\pregeo\\estratti\\ROTTO.EMP", "0|1\r\n8|PF05\r\n");
   banco.sessione.EstrattoAssociato = "MIO.EMP";
-  banco.dialoghi.fileScelto = "C:\\pregeo\\estratti\\X.EMP";
+  const TabellaPF tabella = Quattro();
+  KR_ElcoPFGrafica form(ambiente, tabella);
+  form.AlCaricamento();
+  form.Esegui(13);
+  EXPECT_EQ(form.Punti.size(), 4U) << "none was chosen";
+  finestre.scelto = "ROTTO.EMP";
+  form.Esegui(13);
+  EXPECT_EQ(form.Punti.size(), 4U);
+  EXPECT_EQ(banco.dialoghi.detti.back().titolo, "Rilevato errore");
+  finestre.scelto = "X.EMP";
   form.Esegui(13);
   ASSERT_EQ(form.Punti.size(), 5U);
   EXPECT_EQ(form.Punti[4].nome, "PF05/0010/G224");
   EXPECT_TRUE(form.Punti[4].est == 8 && form.Punti[4].nord == -3.5 && !form.Punti[4].Selezionato());
-  banco.dialoghi.fileScelto = "*";
-  form.Esegui(13);
-  EXPECT_EQ(form.Punti.size(), 5U);
   form.Seleziona(SelezionePF::Tutti);
   form.Esegui(8);
   EXPECT_TRUE(
       Contiene(banco.disco.Contenuto(Temp + "Stampa_Fiduciali.CSV"), "PF05/0010/G224\t\t\t-3.5\t8\t\t\t\t\r\n"));
-  EXPECT_EQ(banco.sessione.EstrattoAssociato, "MIO.EMP");
+  EXPECT_EQ(banco.sessione.EstrattoAssociato, "MIO.EMP") << "the libretto keeps its own";
 }
 
 // --- the table and the choice

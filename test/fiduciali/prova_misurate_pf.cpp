@@ -79,6 +79,46 @@ TEST_F(Misurate, DelLibrettoValgonoZero) {
   EXPECT_TRUE(banco.dialoghi.detti.empty());
 }
 
+// Lines of an archive as they may come, and what the pair PF01 - PF02 shows of each: the TAF's distance is 5.
+struct CasoRiga {
+  std::string riga;
+  std::string mostrata; // behind the pair; empty: the line is none of the pair's
+  std::string media;    // empty: none
+};
+
+class RigheDellArchivio : public testing::TestWithParam<CasoRiga> {};
+
+TEST_P(RigheDellArchivio, SiMostranoConLaDifferenza) {
+  ConArchivi con;
+  con.banco.disco.Metti(Dati + "PD2024.DDD", GetParam().riga);
+  const std::string testo = con.DelLibretto({"PF01/0010/G224", "PF02/0010/G224"});
+  const std::string dopoTaf = testo.substr(testo.find("( TAF )"));
+  std::string attesa = "( TAF )        -5.000\r\n";
+  if (!GetParam().mostrata.empty()) attesa += "PF01/0010/G224 - PF02/0010/G224 " + GetParam().mostrata + "\r\n";
+  if (!GetParam().media.empty()) attesa += std::string(32, ' ') + GetParam().media + "               ( Media )    \r\n";
+  EXPECT_EQ(dopoTaf, attesa);
+}
+
+const std::string Coppia = "PF01/0010/G224 - PF02/0010/G224 ";
+const std::string Stelle(33 - Coppia.size(), '*'); // up to column 33
+
+INSTANTIATE_TEST_SUITE_P(
+    Casi, RigheDellArchivio,
+    testing::Values(CasoRiga{"", "", ""}, CasoRiga{"PF01/0010/G224 - PF03/0010/G224      7.0", "", ""},
+                    CasoRiga{Coppia + Stelle + "7.5 x", Stelle + "7.5 x    -7.500", "        7.500"},
+                    CasoRiga{Coppia + Stelle + "abc", Stelle + "abc     0.000", ""},
+                    CasoRiga{Coppia + Stelle + "-3", Stelle + "-3     3.000", ""},
+                    CasoRiga{Coppia + Stelle + "1e3", Stelle + "1e3 -1000.000", "     1000.000"},
+                    CasoRiga{Coppia + Stelle + "12345678901", Stelle + "12345678901678901.000", "345678901.000"},
+                    CasoRiga{"PF02/0010/G224PF01/0010/G224", "     0.000", ""},
+                    CasoRiga{std::string("\0\xFF", 2) + Coppia + "8.25", "4 8.25    -8.250", "        8.250"},
+                    CasoRiga{"pf01/0010/g224 - PF02/0010/G224      7.0", "", ""}));
+
+TEST_F(Misurate, UnNomeLungoSiTagliaNelResoconto) {
+  const std::string lungo = "PF03/0010/G224/UN NOME DI PIU DI TRENTA";
+  EXPECT_TRUE(Contiene(DelLibretto({"PF01/0010/G224", lungo}), "PF01/0010/G224 - PF03/0010/G224/        0.000"));
+}
+
 TEST_F(Misurate, SiApronoConIlPostoDegliElenchi) {
   banco.sessione.Libretto = "8|PF01/0010/G224|\r\n";
   CalcolaMisuratePF_DaLibretto(banco.ambiente);

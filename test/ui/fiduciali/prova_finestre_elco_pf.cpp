@@ -5,7 +5,7 @@
 #include <ui/fiduciali/finestra_elco_pf_grafica.h>
 #include <ui/fiduciali/finestra_elco_pf_griglia.h>
 
-#include <core/servizi.h>
+#include <core/cartelle.h>
 
 #include <QCheckBox>
 #include <QClipboard>
