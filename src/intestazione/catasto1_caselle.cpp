@@ -2,6 +2,7 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/riga.h>
 
 #include <algorithm>
 #include <charconv>
@@ -93,6 +94,80 @@ std::string FoglioAQuattroCifre(std::string_view foglio) {
 
 std::string NumeroInFormato(std::string_view testo, std::string_view formato) {
   return Formatta(Valore(testo), formato);
+}
+
+void CaselleCatasto1::Cambia(std::size_t indice, std::string_view testo) {
+  testi_.at(indice) = InUnCampo(testo);
+}
+
+void CaselleCatasto1::MettiRighe(const Catasto1& dati) {
+  for (std::size_t i = 0; i < dati.zero.size(); ++i)
+    i == casella::Cognome ? MettiTecnico(dati.zero[i]) : Cambia(i, dati.zero[i]);
+  for (std::size_t i = 0; i < dati.nove.size(); ++i) Cambia(casella::QuotaMedia + i, dati.nove[i]);
+  Cambia(casella::Commento, dati.commento);
+}
+
+void CaselleCatasto1::MettiTecnico(std::string_view tecnico) {
+  const std::string intero(Taglia(InUnCampo(tecnico)));
+  std::string& cognome = testi_[casella::Cognome];
+  std::string& nome = testi_[casella::Nome];
+  if (UgualiSenzaCaso(intero, cognome) || UgualiSenzaCaso(intero, cognome + " " + nome)) return;
+  const std::size_t blanco = intero.find(' ');
+  cognome = intero.substr(0, blanco);
+  if (blanco != std::string::npos) nome = Taglia(std::string_view(intero).substr(blanco));
+}
+
+Catasto1 CaselleCatasto1::PerCatasto1() const {
+  Catasto1 dati;
+  std::copy_n(testi_.begin(), dati.zero.size(), dati.zero.begin());
+  std::copy_n(testi_.begin() + casella::QuotaMedia, dati.nove.size(), dati.nove.begin());
+  dati.commento = testi_[casella::Commento];
+  return dati;
+}
+
+void CaselleCatasto1::PrendiTecnico(const Sessione& sessione) {
+  testi_[casella::Iscrizione] = sessione.NumeroIscrizione;
+  testi_[casella::CodiceFiscale] = sessione.CodiceFiscale;
+  testi_[casella::Cognome] = sessione.Cognome;
+  testi_[casella::Nome] = sessione.Nome;
+  testi_[casella::Qualifica] = sessione.Qualifica;
+  testi_[casella::Provincia] = sessione.Provincia;
+  testi_[casella::Recapito] = sessione.Recapito;
+}
+
+void CaselleCatasto1::DaiTecnico(Sessione& sessione) const {
+  sessione.Cognome = testi_[casella::Cognome];
+  sessione.Nome = testi_[casella::Nome];
+  sessione.Tecnico = sessione.Cognome + " " + sessione.Nome;
+  sessione.Qualifica = testi_[casella::Qualifica];
+  sessione.Provincia = testi_[casella::Provincia];
+  sessione.PrecisioneLineare = testi_[casella::PrecisioneLineare];
+  sessione.PrecisioneAngolare = testi_[casella::PrecisioneAngolare];
+  sessione.Strumentazione = testi_[casella::Strumentazione];
+  sessione.NumeroIscrizione = testi_[casella::Iscrizione];
+  sessione.CodiceFiscale = testi_[casella::CodiceFiscale];
+  sessione.Recapito = testi_[casella::Recapito];
+}
+
+void CaselleCatasto1::InCapitali(std::size_t primo, std::size_t ultimo) {
+  for (std::size_t i = primo; i <= ultimo; ++i) testi_.at(i) = Maiuscolo(testi_.at(i));
+}
+
+void CaselleCatasto1::Pulisci() {
+  for (std::size_t i = 0; i < NumeroCaselle; ++i)
+    if (i <= casella::Strumentazione || i == casella::Nome) testi_[i] = Taglia(Maiuscolo(InUnCampo(testi_[i])));
+}
+
+void CaselleCatasto1::Completa(const Sessione& sessione, const Data& oggi) {
+  for (std::size_t i = 0; i < NumeroCaselle; ++i)
+    if (Taglia(testi_[i]).empty()) testi_[i] = ValorePredefinito(i, sessione, oggi);
+}
+
+std::string CaselleCatasto1::Riga(std::string_view genere, std::size_t primo, std::size_t ultimo) const {
+  std::string riga(genere);
+  for (std::size_t i = primo; i <= ultimo; ++i)
+    riga += "|" + (i == casella::Cognome ? testi_[i] + " " + testi_[casella::Nome] : testi_[i]);
+  return riga + "|";
 }
 
 } // namespace lirmeto

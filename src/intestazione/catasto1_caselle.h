@@ -1,14 +1,16 @@
 #pragma once
-// The boxes of the header form: what stands in each of them.
+// The boxes of the header form: what stands in each of them, and where it comes from.
 
 #include <base/data.h>
 #include <core/sessione.h>
+#include <pregeo/catasto1_file.h>
 
 #include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace lirmeto {
 
@@ -40,6 +42,42 @@ inline constexpr std::size_t Nome = 19;
 
 // Captions by place.
 [[nodiscard]] const std::array<std::string_view, NumeroCaselle>& EtichetteCaselle();
+
+// The texts of the boxes.
+class CaselleCatasto1 {
+public:
+  [[nodiscard]] const std::string& operator[](std::size_t indice) const { return testi_.at(indice); }
+  [[nodiscard]] const std::array<std::string, NumeroCaselle>& Testi() const { return testi_; }
+
+  // A text as it is, and one from elsewhere: what a field of a row cannot hold becomes a blank.
+  void Metti(std::size_t indice, std::string testo) { testi_.at(indice) = std::move(testo); }
+  void Cambia(std::size_t indice, std::string_view testo);
+
+  // The fields of rows 0 and 9 and the comment. The surveyor's field is surname and name: both boxes stay where they
+  // say the same, else they are its first word and what stands behind it.
+  void MettiRighe(const Catasto1& dati);
+  [[nodiscard]] Catasto1 PerCatasto1() const;
+
+  // The boxes of the surveyor, from the session and back.
+  void PrendiTecnico(const Sessione& sessione);
+  void DaiTecnico(Sessione& sessione) const;
+
+  void InCapitali(std::size_t primo, std::size_t ultimo);
+  // Those of rows 0 and 9 as the rows have them: in capitals, trimmed.
+  void Pulisci();
+  // Empty boxes get what they are when nobody says otherwise.
+  void Completa(const Sessione& sessione, const Data& oggi);
+
+  // A row of boxes. Surname and name are one field of it.
+  [[nodiscard]] std::string RigaZero() const { return Riga("0", casella::Data, casella::Provincia); }
+  [[nodiscard]] std::string RigaNove() const { return Riga("9", casella::QuotaMedia, casella::Strumentazione); }
+
+private:
+  void MettiTecnico(std::string_view tecnico);
+  [[nodiscard]] std::string Riga(std::string_view genere, std::size_t primo, std::size_t ultimo) const;
+
+  std::array<std::string, NumeroCaselle> testi_;
+};
 
 // What an empty box gets; empty where it may stay empty.
 [[nodiscard]] std::string ValorePredefinito(std::size_t indice, const Sessione& sessione, const Data& oggi);

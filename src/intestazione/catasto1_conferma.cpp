@@ -56,13 +56,12 @@ void FormCatasto1TXT::ConfermaConfigurazione0() {
   }
   AssicuraZeroNoveInList1(ambiente_);
   sessione.PuntoErrore = "RiordinoMappali";
-  std::string& mappali = Text1[casella::Mappali];
-  mappali = Taglia(mappali).empty() ? "1" : RiordinoMappali(mappali);
+  const std::string mappali = caselle_[casella::Mappali];
+  caselle_.Metti(casella::Mappali, Taglia(mappali).empty() ? "1" : RiordinoMappali(mappali));
   sessione.PuntoErrore = "ConfermaConfigurazione4";
-  for (std::size_t i = 0; i < NumeroCaselle; ++i)
-    if (i <= casella::Strumentazione || i == casella::Nome) Text1[i] = Taglia(Maiuscolo(InUnCampo(Text1[i])));
-  CompletaCaselle();
-  PrendiTecnico();
+  caselle_.Pulisci();
+  Completa();
+  caselle_.DaiTecnico(sessione);
   sessione.PuntoErrore = "ConfermaConfigurazione5";
   Prova([&] { SalvaTecnico(ambiente_); });
   ScriviZeroNove();
@@ -76,54 +75,30 @@ void FormCatasto1TXT::ConfermaConfigurazione0() {
 }
 
 void FormCatasto1TXT::AvvisaProtocollo() {
-  if (Valore(Text1[casella::Protocollo]) < 1)
+  if (Valore(caselle_[casella::Protocollo]) < 1)
     ambiente_.dialoghi.Messaggio("Protocollo non numerico!", "Protocollo non Numerico", Gravita::Critico);
 }
 
 void FormCatasto1TXT::ControllaData() {
   const Data oggi = ambiente_.orologio.Oggi();
-  std::string& testo = Text1[casella::Data];
-  if (AggiornaData) testo = TestoData(oggi);
-  const auto data = DataDaTesto(testo);
+  const auto mettiOggi = [&] { caselle_.Metti(casella::Data, TestoData(oggi)); };
+  if (AggiornaData) mettiOggi();
+  const auto data = DataDaTesto(caselle_[casella::Data]);
   if (!data) {
     ambiente_.dialoghi.Messaggio("Formato Data Errato!!", "Errore nella data", Gravita::Critico);
-    testo = TestoData(oggi);
+    mettiOggi();
   } else if (*data < oggi) {
     std::string domanda;
     domanda += "La data indicata è precedente la data attuale del PC!!"_w;
     domanda += std::string(FineRiga) + "Inserire data attuale?";
-    if (ambiente_.dialoghi.Chiedi(domanda, "Verifica data Libretto", Bottoni::SiNo) == Risposta::Si)
-      testo = TestoData(oggi);
+    if (ambiente_.dialoghi.Chiedi(domanda, "Verifica data Libretto", Bottoni::SiNo) == Risposta::Si) mettiOggi();
   }
-}
-
-void FormCatasto1TXT::PrendiTecnico() {
-  Sessione& sessione = ambiente_.sessione;
-  sessione.Cognome = Text1[casella::Cognome];
-  sessione.Nome = Text1[casella::Nome];
-  sessione.Tecnico = sessione.Cognome + " " + sessione.Nome;
-  sessione.Qualifica = Text1[casella::Qualifica];
-  sessione.Provincia = Text1[casella::Provincia];
-  sessione.PrecisioneLineare = Text1[casella::PrecisioneLineare];
-  sessione.PrecisioneAngolare = Text1[casella::PrecisioneAngolare];
-  sessione.Strumentazione = Text1[casella::Strumentazione];
-  sessione.NumeroIscrizione = Text1[casella::Iscrizione];
-  sessione.CodiceFiscale = Text1[casella::CodiceFiscale];
-  sessione.Recapito = Text1[casella::Recapito];
-}
-
-// A row of boxes. Surname and name are one field of it; their boxes keep what they hold.
-std::string FormCatasto1TXT::Riga(std::string_view genere, std::size_t primo, std::size_t ultimo) const {
-  std::string riga(genere);
-  for (std::size_t i = primo; i <= ultimo; ++i)
-    riga += "|" + (i == casella::Cognome ? Text1[i] + " " + Text1[casella::Nome] : Text1[i]);
-  return riga + "|";
 }
 
 void FormCatasto1TXT::ScriviZeroNove() {
   Sessione& sessione = ambiente_.sessione;
-  sessione.RigaZero = Riga("0", casella::Data, casella::Provincia);
-  sessione.RigaNove = Riga("9", casella::QuotaMedia, casella::Strumentazione);
+  sessione.RigaZero = caselle_.RigaZero();
+  sessione.RigaNove = caselle_.RigaNove();
   sessione.List1.Cambia(0, sessione.RigaZero);
   sessione.List1.Cambia(1, sessione.RigaNove);
 }
@@ -131,7 +106,7 @@ void FormCatasto1TXT::ScriviZeroNove() {
 void FormCatasto1TXT::ScriviCommento() {
   Sessione& sessione = ambiente_.sessione;
   ElencoRighe& righe = sessione.List1;
-  const std::string commento(Taglia(InUnCampo(Text1[casella::Commento])));
+  const std::string commento(Taglia(InUnCampo(caselle_[casella::Commento])));
   sessione.RigaCommento = commento.empty() ? std::string{} : "6|" + commento + "|";
   const std::size_t posto = PostoCommento(righe.Righe());
   const bool occupato = posto < righe.Quante() && CedeIlPosto(righe.Riga(posto));
@@ -156,7 +131,7 @@ void FormCatasto1TXT::AggiornaPregeo() {
 }
 
 bool FormCatasto1TXT::AccettaCodiceFiscale() {
-  if (ControllaCodiceFiscale(Taglia(Text1[casella::CodiceFiscale])) != CodiceErrato) return true;
+  if (ControllaCodiceFiscale(Taglia(caselle_[casella::CodiceFiscale])) != CodiceErrato) return true;
   const std::string domanda = "Probabile Codice Fiscale non Corretto!" + std::string(FineRiga) + "Continuare?";
   return ambiente_.dialoghi.Chiedi(domanda, "Verifica Codice Fiscale", Bottoni::SiNo) == Risposta::Si;
 }

@@ -50,7 +50,7 @@ std::span<const FormCatasto1TXT::Pulsante> FormCatasto1TXT::Pulsanti() {
       Pulsante{22, "Elimina Predefiniti", "Elimina l'intestazione predefinita (Catasto1.txt)",
                [](F& form) { form.EliminaCatasto1(); }},
       Pulsante{3, "ggmmaaaa", "Completa una data di sei cifre con il secolo",
-               [](F& form) { form.Text1[casella::Data] = DataAOttoCifre(form.Text1[casella::Data]); }},
+               [](F& form) { form.caselle_.Metti(casella::Data, DataAOttoCifre(form.caselle_[casella::Data])); }},
       Pulsante{4, "da Righe 8", "Media fra la minima e la massima quota delle righe 8",
                [](F& form) { form.QuotaMediaDaRighe8(); }},
       Pulsante{5, "del Comune", "Quota media del comune del libretto (QUOTAMEDIA.TXT)",
@@ -61,23 +61,29 @@ std::span<const FormCatasto1TXT::Pulsante> FormCatasto1TXT::Pulsanti() {
                [](F& form) { form.EstMedio(); }},
       Pulsante{27, "Importa dall'Estratto", "Comune e foglio dall'estratto associato, Est medio dalle righe 8",
                [](F& form) { form.ImportaEstratto(); }},
-      Pulsante{9, Aggiungi, "Aggiunge la qualifica all'elenco", [](F& form) { form.AggiungiVoce(Elenco::Qualifica); }},
-      Pulsante{11, Togli, "Toglie la qualifica dall'elenco", [](F& form) { form.EliminaVoce(Elenco::Qualifica); }},
-      Pulsante{12, Aggiungi, "Aggiunge la provincia all'elenco", [](F& form) { form.AggiungiVoce(Elenco::Provincia); }},
-      Pulsante{15, Togli, "Toglie la provincia dall'elenco", [](F& form) { form.EliminaVoce(Elenco::Provincia); }},
+      Pulsante{9, Aggiungi, "Aggiunge la qualifica all'elenco",
+               [](F& form) { form.elenchi_.Aggiungi(Elenco::Qualifica, form.TestoPer(Elenco::Qualifica)); }},
+      Pulsante{11, Togli, "Toglie la qualifica dall'elenco",
+               [](F& form) { form.elenchi_.Elimina(Elenco::Qualifica, form.TestoPer(Elenco::Qualifica)); }},
+      Pulsante{12, Aggiungi, "Aggiunge la provincia all'elenco",
+               [](F& form) { form.elenchi_.Aggiungi(Elenco::Provincia, form.TestoPer(Elenco::Provincia)); }},
+      Pulsante{15, Togli, "Toglie la provincia dall'elenco",
+               [](F& form) { form.elenchi_.Elimina(Elenco::Provincia, form.TestoPer(Elenco::Provincia)); }},
       Pulsante{16, Aggiungi, "Aggiunge la strumentazione all'archivio",
-               [](F& form) { form.AggiungiVoce(Elenco::Strumentazione); }},
+               [](F& form) { form.elenchi_.Aggiungi(Elenco::Strumentazione, form.TestoPer(Elenco::Strumentazione)); }},
       Pulsante{17, Togli, "Elimina la strumentazione dall'archivio",
-               [](F& form) { form.EliminaVoce(Elenco::Strumentazione); }},
-      Pulsante{18, Aggiungi, "Aggiunge il commento all'archivio", [](F& form) { form.AggiungiVoce(Elenco::Commento); }},
-      Pulsante{20, Togli, "Elimina il commento dall'archivio", [](F& form) { form.EliminaVoce(Elenco::Commento); }},
+               [](F& form) { form.elenchi_.Elimina(Elenco::Strumentazione, form.TestoPer(Elenco::Strumentazione)); }},
+      Pulsante{18, Aggiungi, "Aggiunge il commento all'archivio",
+               [](F& form) { form.elenchi_.Aggiungi(Elenco::Commento, form.TestoPer(Elenco::Commento)); }},
+      Pulsante{20, Togli, "Elimina il commento dall'archivio",
+               [](F& form) { form.elenchi_.Elimina(Elenco::Commento, form.TestoPer(Elenco::Commento)); }},
       Pulsante{30, "Ripristina Elenchi", "Rimette negli elenchi le voci iniziali che mancano",
-               [](F& form) { form.RipristinaVoci(); }},
+               [](F& form) { form.elenchi_.Ripristina(); }},
       Pulsante{8, "Usa Libretto Singolo", "Mette al posto dell'archivio di Pregeo quello della cartella indicata",
                [](F& form) { form.UsaLibrettoSingolo(); }},
       Pulsante{21, "Carica Tecnico", "Riempie le caselle dal tecnico scelto",
                [](F& form) { form.CaricaTecnicoScelto(); }},
-      Pulsante{14, "Elimina Tecnico", "Elimina il file del tecnico scelto", [](F& form) { form.EliminaTecnico(); }},
+      Pulsante{14, "Elimina Tecnico", "Elimina il file del tecnico scelto", [](F& form) { form.tecnici_.Elimina(); }},
       Pulsante{23, "Dissocia Misurate", "Il libretto non ha più un archivio di distanze misurate"_w,
                [](F& form) { form.ambiente_.sessione.MisurateAssociate.clear(); }},
   };
@@ -94,7 +100,7 @@ void FormCatasto1TXT::Premi(int indice) {
 void FormCatasto1TXT::QuotaMediaDaRighe8() {
   const auto quota = QuotaMediaDelleRighe(ambiente_.sessione.List1.Righe());
   if (!quota) return ambiente_.dialoghi.Messaggio("Nessuna quota nelle righe 8!", "Quota Media");
-  Text1[casella::QuotaMedia] = Formatta(*quota, FormatoQuotaMedia);
+  caselle_.Metti(casella::QuotaMedia, Formatta(*quota, FormatoQuotaMedia));
 }
 
 void FormCatasto1TXT::QuotaMediaDelComune() {
@@ -111,12 +117,16 @@ void FormCatasto1TXT::QuotaMediaDelComune() {
   Cambia(casella::QuotaMedia, sessione.QuotaMedia);
 }
 
-std::string FormCatasto1TXT::EstMedioDaRighe8() const {
-  return Formatta(EstMedioDelleRighe(ambiente_.sessione.List1.Righe()).value_or(0), FormatoEstMedio);
+void FormCatasto1TXT::EstMedio() {
+  const double est = EstMedioDelleRighe(ambiente_.sessione.List1.Righe()).value_or(0);
+  caselle_.Metti(casella::EstMedio, Formatta(est, FormatoEstMedio));
 }
 
-void FormCatasto1TXT::EstMedio() {
-  Text1[casella::EstMedio] = EstMedioDaRighe8();
+void FormCatasto1TXT::CaricaTecnicoScelto() {
+  if (!tecnici_.Carica()) return;
+  caselle_.PrendiTecnico(ambiente_.sessione);
+  for (const std::size_t precisione : {casella::PrecisioneLineare, casella::PrecisioneAngolare})
+    Cambia(precisione, ValorePredefinito(precisione, ambiente_.sessione, {}));
 }
 
 // --- comune, extract, archive
@@ -131,6 +141,7 @@ void FormCatasto1TXT::CercaComune() {
   if (sessione.EsitoSelezione > 0) Cambia(casella::Comune, sessione.CodiceComune);
 }
 
+// False when there was nothing to import.
 bool FormCatasto1TXT::ImportaDatiEstratto() {
   Sessione& sessione = ambiente_.sessione;
   const auto dati = CopiaIDatiDellEstratto(ambiente_, sessione.EstrattoAssociato);
@@ -147,12 +158,12 @@ bool FormCatasto1TXT::ImportaDatiEstratto() {
 // The parcels stay those of the act: an extract has more of them than are worked on.
 void FormCatasto1TXT::ImportaEstratto() {
   Sessione& sessione = ambiente_.sessione;
-  const std::string mappali = Text1[casella::Mappali];
+  const std::string mappali = caselle_[casella::Mappali];
   if (!ImportaDatiEstratto())
     return ambiente_.dialoghi.Messaggio("Nessun dato dall'Estratto " + sessione.EstrattoAssociato,
                                         "Importa dall'Estratto");
   EstMedio();
-  Text1[casella::Mappali] = mappali;
+  caselle_.Metti(casella::Mappali, mappali);
   if (sessione.EsitoForm > 0) Cambia(casella::Protocollo, sessione.Protocollo);
 }
 

@@ -5,6 +5,8 @@
 #include <base/testo.h>
 #include <core/riga.h>
 
+#include <algorithm>
+
 namespace lirmeto {
 
 // How the rows are taken, where it could be done in more than one way:
@@ -83,6 +85,18 @@ bool CedeIlPosto(std::string_view riga) {
   if (GenereDi(riga) != Genere::Libera || MarcaRelazioneOCensuario(riga) || riga == RigaProposta || Riga6Gps(riga))
     return false;
   return !riga.starts_with("6| -");
+}
+
+Catasto1 DatiDelleRighe(std::string_view libretto) {
+  const auto righe = RigheDi(libretto);
+  Catasto1 dati;
+  for (std::size_t i = 0; i < dati.zero.size() && !righe.empty(); ++i) dati.zero[i] = Parte(righe[0], '|', i + 1);
+  for (std::size_t i = 0; i < dati.nove.size() && righe.size() > 1; ++i) dati.nove[i] = Parte(righe[1], '|', i + 1);
+  constexpr std::size_t primeRighe = 4; // 0, 9, an old 9, the comment
+  ListaRighe prime;
+  for (std::size_t i = 0; i < std::min(primeRighe, righe.size()); ++i) prime.Aggiungi(righe[i]);
+  dati.commento = CommentoDelleRighe(prime);
+  return dati;
 }
 
 } // namespace lirmeto

@@ -2,6 +2,7 @@
 // What the header form takes from the rows of the libretto.
 
 #include <core/lista_righe.h>
+#include <pregeo/catasto1_file.h>
 
 #include <optional>
 #include <string>
@@ -23,5 +24,8 @@ namespace lirmeto {
 
 // Whether a comment may take the place of this row.
 [[nodiscard]] bool CedeIlPosto(std::string_view riga);
+
+// Fields of rows 0 and 9, and the comment, of a libretto; what is not there is empty.
+[[nodiscard]] Catasto1 DatiDelleRighe(std::string_view libretto);
 
 } // namespace lirmeto

@@ -1,6 +1,4 @@
-// The surveyors of the header form: their .PFS files.
-
-#include <intestazione/catasto1_form.h>
+#include <intestazione/catasto1_tecnici.h>
 
 #include <base/percorsi.h>
 #include <base/testo.h>
@@ -14,7 +12,7 @@ std::string CartellaTecnici(const Sessione& sessione) {
   return sessione.CartellaProgramma + "\\TECNICI";
 }
 
-// Surname and name from the surveyor's text where the surname is one word: a file that an older program wrote may lack
+// Surname and name from the surveyor's text where the surname is one word: a file may lack
 // them. A surname of several words is taken as the file gives it.
 void DividiTecnico(Sessione& sessione) {
   if (Contiene(Taglia(sessione.Cognome), " ")) return;
@@ -27,43 +25,32 @@ void DividiTecnico(Sessione& sessione) {
 
 } // namespace
 
-void FormCatasto1TXT::ElencaTecnici() {
-  File1 = ambiente_.disco.Elenca(CartellaTecnici(ambiente_.sessione), ".PFS");
-  File1Indice = std::string::npos;
+void TecniciCatasto1::Elenca() {
+  file_ = ambiente_.disco.Elenca(CartellaTecnici(ambiente_.sessione), ".PFS");
+  scelto_ = std::string::npos;
 }
 
-void FormCatasto1TXT::ScegliTecnico(std::size_t indice) {
-  if (indice >= File1.size()) return;
-  File1Indice = indice;
-  constexpr int carica = 21;
-  Premi(carica);
+bool TecniciCatasto1::ESceltoPer(std::string_view titolo) const {
+  if (scelto_ < file_.size()) return true;
+  ambiente_.dialoghi.Messaggio("Selezionare un Tecnico!", titolo);
+  return false;
 }
 
-void FormCatasto1TXT::CaricaTecnicoScelto() {
-  if (File1Indice >= File1.size()) return ambiente_.dialoghi.Messaggio("Selezionare un Tecnico!", "Carica Tecnico");
-  Sessione& sessione = ambiente_.sessione;
-  CaricaTecnico(ambiente_, File1[File1Indice]);
-  DividiTecnico(sessione);
-  Cambia(casella::Cognome, sessione.Cognome);
-  Cambia(casella::Nome, sessione.Nome);
-  Cambia(casella::Qualifica, sessione.Qualifica);
-  Cambia(casella::Provincia, sessione.Provincia);
-  Cambia(casella::Iscrizione, sessione.NumeroIscrizione);
-  Cambia(casella::CodiceFiscale, sessione.CodiceFiscale);
-  Cambia(casella::Recapito, sessione.Recapito);
-  for (const std::size_t precisione : {casella::PrecisioneLineare, casella::PrecisioneAngolare})
-    Cambia(precisione, ValorePredefinito(precisione, sessione, {}));
+bool TecniciCatasto1::Carica() {
+  if (!ESceltoPer("Carica Tecnico")) return false;
+  CaricaTecnico(ambiente_, file_[scelto_]);
+  DividiTecnico(ambiente_.sessione);
+  return true;
 }
 
-void FormCatasto1TXT::EliminaTecnico() {
-  const std::string titolo = "Elimina Tecnico";
-  if (File1Indice >= File1.size()) return ambiente_.dialoghi.Messaggio("Selezionare un Tecnico!", titolo);
-  const std::string nome = File1[File1Indice];
-  const Risposta risposta =
-      ambiente_.dialoghi.Chiedi("Eliminare definitivamente " + nome + " ??", titolo, Bottoni::SiNo);
-  if (risposta != Risposta::Si) return;
+void TecniciCatasto1::Elimina() {
+  constexpr std::string_view titolo = "Elimina Tecnico";
+  if (!ESceltoPer(titolo)) return;
+  const std::string& nome = file_[scelto_];
+  if (ambiente_.dialoghi.Chiedi("Eliminare definitivamente " + nome + " ??", titolo, Bottoni::SiNo) != Risposta::Si)
+    return;
   ambiente_.disco.Elimina(CartellaTecnici(ambiente_.sessione) + "\\" + ComponenteFile(nome));
-  ElencaTecnici();
+  Elenca();
 }
 
 } // namespace lirmeto

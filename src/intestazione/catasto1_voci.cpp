@@ -1,12 +1,14 @@
 // The lists of the header form: loaded, lengthened, shortened, kept.
 
-#include <intestazione/catasto1_form.h>
+#include <intestazione/catasto1_elenchi.h>
 
 #include <base/testo.h>
 #include <core/lettura.h>
+#include <core/mostra_errore.h>
 #include <core/zero_nove.h>
 
 #include <algorithm>
+#include <functional>
 
 namespace lirmeto {
 
@@ -31,77 +33,70 @@ void CaricaCollegi(Ambiente& ambiente) {
 
 } // namespace
 
-void FormCatasto1TXT::CaricaElenchi() {
-  Prova([&] { CaricaCommento(); });
-  Prova([&] { CaricaProvinceComuni(ambiente_); });
-  Prova([&] { CaricaCollegi(ambiente_); });
-  Prova([&] { CaricaStrumentazione(); });
-  Voci(Elenco::Qualifica) = VociIniziali(Elenco::Qualifica);
-  Voci(Elenco::Tipologia) = VociIniziali(Elenco::Tipologia);
-  Voci(Elenco::Provincia) = NomiProvince(ambiente_.sessione);
-  ElencaTecnici();
+void ElenchiCatasto1::Carica() {
+  const auto prova = [this](const std::function<void()>& comando) { (void)Intrappola(ambiente_, comando); };
+  prova([&] { CaricaDaFile(Elenco::Commento); });
+  prova([&] { CaricaProvinceComuni(ambiente_); });
+  prova([&] { CaricaCollegi(ambiente_); });
+  prova([&] { CaricaDaFile(Elenco::Strumentazione); });
+  voci_[Posto(Elenco::Qualifica)] = VociIniziali(Elenco::Qualifica);
+  voci_[Posto(Elenco::Tipologia)] = VociIniziali(Elenco::Tipologia);
+  voci_[Posto(Elenco::Provincia)] = NomiProvince(ambiente_.sessione);
 }
 
 // A file that is missing is made with the first entries in it.
-void FormCatasto1TXT::CaricaElenco(Elenco elenco) {
+void ElenchiCatasto1::CaricaDaFile(Elenco elenco) {
   const std::string percorso = ambiente_.sessione.CartellaProgramma + std::string(DatiElenco(elenco).file);
-  if (ambiente_.disco.Esiste(percorso)) {
-    Voci(elenco) = LeggiVoci(CaricaFileIntero(ambiente_, percorso));
-    letti_.at(static_cast<std::size_t>(elenco)) = true;
-    return;
-  }
-  Voci(elenco) = VociIniziali(elenco);
-  letti_.at(static_cast<std::size_t>(elenco)) = true;
-  SalvaElenco(elenco);
+  const bool ceLo = ambiente_.disco.Esiste(percorso);
+  voci_.at(Posto(elenco)) = ceLo ? LeggiVoci(CaricaFileIntero(ambiente_, percorso)) : VociIniziali(elenco);
+  letti_.at(Posto(elenco)) = true;
+  if (!ceLo) Salva(elenco);
 }
 
-// A file that could not be read is not written over.
-void FormCatasto1TXT::SalvaElenco(Elenco elenco) {
-  if (!letti_.at(static_cast<std::size_t>(elenco))) return;
+void ElenchiCatasto1::Salva(Elenco elenco) {
+  if (!letti_.at(Posto(elenco))) return;
   ambiente_.disco.Scrivi(ambiente_.sessione.CartellaProgramma + std::string(DatiElenco(elenco).file),
                          RigheUnite(Voci(elenco)));
 }
 
-// The box's text becomes an entry.
-void FormCatasto1TXT::AggiungiVoce(Elenco elenco) {
-  const std::string voce(Taglia(Text1.at(DatiElenco(elenco).casella)));
+void ElenchiCatasto1::SalvaTutti() {
+  Salva(Elenco::Strumentazione);
+  Salva(Elenco::Commento);
+}
+
+void ElenchiCatasto1::Aggiungi(Elenco elenco, std::string_view voce) {
   const std::string titolo = "Aggiungi " + std::string(DatiElenco(elenco).nome);
   if (voce.empty()) return ambiente_.dialoghi.Messaggio("Casella vuota: nulla da aggiungere!", titolo);
   if (TrovaVoce(Voci(elenco), voce) != std::string::npos) {
-    std::string detto = voce + std::string(FineRiga);
+    std::string detto = std::string(voce) + std::string(FineRiga);
     detto += "è già nell'Archivio!"_w;
     return ambiente_.dialoghi.Messaggio(detto, titolo);
   }
-  Voci(elenco).push_back(voce);
-  SalvaStrumentazione();
-  SalvaCOMMENTO();
+  voci_.at(Posto(elenco)).emplace_back(voce);
+  SalvaTutti();
 }
 
-// The entry that the box shows goes; the box keeps its text.
-void FormCatasto1TXT::EliminaVoce(Elenco elenco) {
-  const std::string voce(Taglia(Text1.at(DatiElenco(elenco).casella)));
+// The box keeps its text.
+void ElenchiCatasto1::Elimina(Elenco elenco, std::string_view voce) {
   const std::size_t posto = TrovaVoce(Voci(elenco), voce);
   if (posto == std::string::npos)
-    return ambiente_.dialoghi.Messaggio("\"" + voce + "\"" + std::string(FineRiga) +
+    return ambiente_.dialoghi.Messaggio("\"" + std::string(voce) + "\"" + std::string(FineRiga) +
                                             std::string("non è nell'Archivio!"_w),
                                         "Elimina " + std::string(DatiElenco(elenco).nome));
-  Voci(elenco).erase(Voci(elenco).begin() + static_cast<std::ptrdiff_t>(posto));
-  SalvaStrumentazione();
-  SalvaCOMMENTO();
+  auto& voci = voci_.at(Posto(elenco));
+  voci.erase(voci.begin() + static_cast<std::ptrdiff_t>(posto));
+  SalvaTutti();
 }
 
-// The first entries that are missing come back behind the others.
-void FormCatasto1TXT::RipristinaVoci() {
+void ElenchiCatasto1::Ripristina() {
   for (const Elenco elenco : {Elenco::Qualifica, Elenco::Strumentazione, Elenco::Commento})
     for (const auto& voce : VociIniziali(elenco))
-      if (TrovaVoce(Voci(elenco), voce) == std::string::npos) Voci(elenco).push_back(voce);
-  SalvaStrumentazione();
-  SalvaCOMMENTO();
+      if (TrovaVoce(Voci(elenco), voce) == std::string::npos) voci_.at(Posto(elenco)).push_back(voce);
+  SalvaTutti();
 }
 
-std::size_t FormCatasto1TXT::VoceInCasella(Elenco elenco) const {
-  const auto& voci = Elenchi.at(static_cast<std::size_t>(elenco));
-  const std::string_view testo = Taglia(Text1.at(DatiElenco(elenco).casella));
+std::size_t ElenchiCatasto1::Trova(Elenco elenco, std::string_view testo) const {
+  const auto& voci = Voci(elenco);
   if (elenco != Elenco::Tipologia) return TrovaVoce(voci, testo);
   const auto trovata = std::find_if(voci.begin(), voci.end(), [testo](const std::string& voce) {
     return UgualiSenzaCaso(std::string_view(voce).substr(0, LettereTipologia), testo);
@@ -109,10 +104,10 @@ std::size_t FormCatasto1TXT::VoceInCasella(Elenco elenco) const {
   return trovata == voci.end() ? std::string::npos : static_cast<std::size_t>(trovata - voci.begin());
 }
 
-void FormCatasto1TXT::Scegli(Elenco elenco, std::size_t voce) {
-  if (voce >= Voci(elenco).size()) return;
+std::optional<std::string> ElenchiCatasto1::PerCasella(Elenco elenco, std::size_t voce) const {
+  if (voce >= Voci(elenco).size()) return std::nullopt;
   const std::string& testo = Voci(elenco)[voce];
-  Cambia(DatiElenco(elenco).casella, elenco == Elenco::Tipologia ? testo.substr(0, LettereTipologia) : testo);
+  return elenco == Elenco::Tipologia ? testo.substr(0, LettereTipologia) : testo;
 }
 
 } // namespace lirmeto

@@ -38,9 +38,9 @@ struct Sportello : Banco {
   }
   void Apri() {
     form.AlCaricamento();
-    form.Text1[casella::CodiceFiscale] = CodiceGiusto;
+    form.Cambia(casella::CodiceFiscale, CodiceGiusto);
   }
-  [[nodiscard]] std::string Casella(std::size_t indice) const { return form.Text1.at(indice); }
+  [[nodiscard]] std::string Casella(std::size_t indice) const { return form.Caselle()[indice]; }
 };
 
 // --- load
@@ -49,31 +49,33 @@ TEST(Catasto1, AperturaRiempieLeCaselleDaIniELibretto) {
   Sportello sala({"0|010224|7|G224|12A|12,3|DE ROSSI ANNA MARIA|INGEGNERE|VENEZIA|", "9|12.6|10|||VER|FR|", "6|ciao|"});
   sala.disco.Metti("C:\\pregeo\\exe\\collegi.txt", "PADOVA , PD\r\nROVIGO,RO");
   sala.form.AlCaricamento();
-  EXPECT_EQ(Testi(sala.form.Text1.begin(), sala.form.Text1.end()), (Testi{"010224",
-                                                                          "7",
-                                                                          "G224",
-                                                                          "12A",
-                                                                          "12,3",
-                                                                          "DE",
-                                                                          "INGEGNERE",
-                                                                          "VENEZIA",
-                                                                          "13",
-                                                                          "10",
-                                                                          "20",
-                                                                          "0",
-                                                                          "VER",
-                                                                          "FR",
-                                                                          "GEODIMETRO INTEGRATO",
-                                                                          "ciao",
-                                                                          "1234",
-                                                                          "RSSMRA70A01G224K",
-                                                                          "",
-                                                                          "ROSSI ANNA MARIA"}));
-  EXPECT_EQ(sala.form.Voci(Elenco::Provincia), (Testi{"PADOVA", "ROVIGO"}));
+  EXPECT_EQ(Testi(sala.form.Caselle().Testi().begin(), sala.form.Caselle().Testi().end()),
+            (Testi{"010224",
+                   "7",
+                   "G224",
+                   "12A",
+                   "12,3",
+                   "DE",
+                   "INGEGNERE",
+                   "VENEZIA",
+                   "13",
+                   "10",
+                   "20",
+                   "0",
+                   "VER",
+                   "FR",
+                   "GEODIMETRO INTEGRATO",
+                   "ciao",
+                   "1234",
+                   "RSSMRA70A01G224K",
+                   "",
+                   "ROSSI ANNA MARIA"}));
+  EXPECT_EQ(sala.form.Elenchi().Voci(Elenco::Provincia), (Testi{"PADOVA", "ROVIGO"}));
   EXPECT_EQ(sala.form.ComuneInCasella(), "PADOVA (PD)");
   EXPECT_EQ(sala.sessione.EsitoForm, EsitoAnnullato);
   EXPECT_TRUE(sala.disco.Contenuto(Programma + "\\TIPOLOGIASTRUMENTAZIONE.INI").starts_with("MISURE ASSENTI\r\n"));
-  EXPECT_EQ(LeggiVoci(sala.disco.Contenuto(Programma + "\\SALVACOMMENTO.INI")), sala.form.Voci(Elenco::Commento));
+  EXPECT_EQ(LeggiVoci(sala.disco.Contenuto(Programma + "\\SALVACOMMENTO.INI")),
+            sala.form.Elenchi().Voci(Elenco::Commento));
   EXPECT_TRUE(sala.dialoghi.detti.empty()) << sala.dialoghi.UltimoTesto();
 }
 
@@ -356,14 +358,14 @@ TEST(Catasto1, ElenchiAllungatiAccorciatiTenuti) {
   Sportello sala;
   sala.disco.Metti(strumenti, "a=\"b\"\n\n  \nSTAZIONE"); // no line end at the end
   sala.Apri();
-  EXPECT_EQ(sala.form.Voci(Elenco::Strumentazione), (Testi{"a=\"b\"", "STAZIONE"}));
+  EXPECT_EQ(sala.form.Elenchi().Voci(Elenco::Strumentazione), (Testi{"a=\"b\"", "STAZIONE"}));
   sala.form.Cambia(casella::Strumentazione, "stazione");
   sala.form.Premi(16);
   EXPECT_TRUE(Contiene(sala.dialoghi.UltimoTesto(), "nell'Archivio!"));
   sala.form.Premi(17);
   EXPECT_EQ(sala.disco.Contenuto(strumenti), "a=\"b\"\r\n");
   sala.form.Premi(30);
-  EXPECT_EQ(sala.form.Voci(Elenco::Strumentazione).size(), 12U);
+  EXPECT_EQ(sala.form.Elenchi().Voci(Elenco::Strumentazione).size(), 12U);
   sala.form.Scegli(Elenco::Tipologia, 3);
   sala.form.Scegli(Elenco::Tipologia, 99);
   EXPECT_EQ(sala.Casella(casella::Tipologia), "CM");
@@ -393,10 +395,10 @@ TEST(Catasto1, TecniciScelti) {
   sala.form.ScegliTecnico(1);
   EXPECT_EQ(sala.Casella(casella::Iscrizione) + sala.Casella(casella::Nome), "SDE X");
   sala.form.Premi(14);
-  EXPECT_EQ(sala.form.File1.size(), 2U); // No
+  EXPECT_EQ(sala.form.Tecnici().File().size(), 2U); // No
   sala.dialoghi.risposte = {Risposta::Si};
   sala.form.Premi(14);
-  EXPECT_EQ(sala.form.File1, (Testi{"BIANCHI LUCA UGO.PFS"}));
+  EXPECT_EQ(sala.form.Tecnici().File(), (Testi{"BIANCHI LUCA UGO.PFS"}));
   EXPECT_FALSE(sala.disco.Esiste(Programma + "\\TECNICI\\X.PFS"));
 }
 

@@ -182,7 +182,7 @@ void FinestraCatasto1::AggiungiElencoTecnici(QGridLayout& griglia) {
     Mostra();
   });
   connect(tecnici_, &QListWidget::currentRowChanged, this,
-          [this](int riga) { modello_.File1Indice = riga < 0 ? std::string::npos : static_cast<std::size_t>(riga); });
+          [this](int riga) { modello_.SegnaTecnico(riga < 0 ? std::string::npos : static_cast<std::size_t>(riga)); });
   auto* accanto = new QWidget(this);
   auto* bottoni = new QVBoxLayout(accanto);
   bottoni->setContentsMargins(0, 0, 0, 0);
@@ -295,7 +295,7 @@ void FinestraCatasto1::CollegaCasella(std::size_t indice, QLineEdit* linea) {
   linea->setAccessibleName(AQString(EtichetteCaselle()[indice]));
   connect(linea, &QLineEdit::textEdited, this, [this, indice, linea](const QString& testo) {
     modello_.Cambia(indice, DaQString(testo));
-    MostraTesto(*linea, modello_.Text1[indice]);
+    MostraTesto(*linea, modello_.Caselle()[indice]);
     if (indice == casella::Comune) comune_->setText(AQString(modello_.ComuneInCasella()));
   });
   connect(linea, &QLineEdit::editingFinished, this, [this, indice] {
@@ -383,7 +383,7 @@ void FinestraCatasto1::Premi(int indice) {
 void FinestraCatasto1::Mostra() {
   MostraElenchi();
   MostraTecnici();
-  for (std::size_t i = 0; i < NumeroCaselle; ++i) MostraTesto(*caselle_[i], modello_.Text1[i]);
+  for (std::size_t i = 0; i < NumeroCaselle; ++i) MostraTesto(*caselle_[i], modello_.Caselle()[i]);
   const Sessione& sessione = modello_.DatiSessione();
   comune_->setText(AQString(modello_.ComuneInCasella()));
   estratto_->setText(modello_.EtichettaEstratto.empty() ? QStringLiteral("(nessuno)")
@@ -399,7 +399,7 @@ void FinestraCatasto1::Mostra() {
 // Each list stands at the entry that its box holds, so that the keys go on from there; the box keeps its own text.
 void FinestraCatasto1::MostraElenchi() {
   for (std::size_t i = 0; i < NumeroElenchi; ++i) {
-    const QStringList voci = AQStringList(modello_.Elenchi[i]);
+    const QStringList voci = AQStringList(modello_.Elenchi().Voci(static_cast<Elenco>(i)));
     const std::size_t voce = modello_.VoceInCasella(static_cast<Elenco>(i));
     const int posto = voce == std::string::npos ? -1 : static_cast<int>(voce);
     QComboBox& elenco = *elenchi_[i];
@@ -417,15 +417,15 @@ void FinestraCatasto1::MostraElenchi() {
 
 void FinestraCatasto1::MostraTecnici() {
   const QSignalBlocker fermo(tecnici_);
-  const QStringList voci = AQStringList(modello_.File1);
+  const QStringList voci = AQStringList(modello_.Tecnici().File());
   QStringList mostrate;
   for (int i = 0; i < tecnici_->count(); ++i) mostrate.append(tecnici_->item(i)->text());
   if (mostrate != voci) {
     tecnici_->clear();
     tecnici_->addItems(voci);
   }
-  const bool scelto = modello_.File1Indice < modello_.File1.size();
-  tecnici_->setCurrentRow(scelto ? static_cast<int>(modello_.File1Indice) : -1);
+  const bool scelto = modello_.Tecnici().Scelto() < modello_.Tecnici().File().size();
+  tecnici_->setCurrentRow(scelto ? static_cast<int>(modello_.Tecnici().Scelto()) : -1);
 }
 
 } // namespace lirmeto::ui
