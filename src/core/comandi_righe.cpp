@@ -78,42 +78,8 @@ std::vector<std::string_view> Parole(std::string_view linea) {
   return parole;
 }
 
-// Rows of a text that satisfy a test, each with its line end.
-template <typename Condizione>
-void AggiungiRighe(std::string& testo, const std::vector<std::string_view>& righe, const Condizione& vale) {
-  for (const auto riga : righe)
-    if (vale(riga)) testo.append(riga).append(FineRiga);
-}
-
-// Rows of a kind that hold none of these texts.
-auto DiGenere(Genere genere, std::span<const std::string_view> senza = {}) {
-  return [genere, senza](std::string_view riga) {
-    return GenereDi(riga) == genere &&
-           std::none_of(senza.begin(), senza.end(), [&](std::string_view testo) { return Contiene(riga, testo); });
-  };
-}
-
-bool AttributoEstratto(std::string_view riga) {
-  constexpr std::array<std::string_view, 6> inizi = {"6|PFCAR", "6|DISTO", "6|SCALA", "6|INQUA", "6|DITTA", "6|PARTI"};
-  return std::any_of(inizi.begin(), inizi.end(), [&](std::string_view inizio) { return riga.starts_with(inizio); });
-}
-
-std::string TestoEstratto(Ambiente& ambiente) {
-  const Sessione& sessione = ambiente.sessione;
-  const std::string percorso =
-      sessione.RadicePregeo + "\\pregeo\\estratti\\" + ComponenteFile(sessione.EstrattoAssociato);
-  if (sessione.EstrattoAssociato.empty() || !ambiente.disco.Esiste(percorso))
-    throw Errore(errore::FileNonTrovato, "Estratto associato non trovato: " + percorso);
-  return CaricaFileIntero(ambiente, percorso);
-}
-
-std::string IntestazioneProposta(std::string_view rigaZero, std::string_view mappali) {
-  constexpr std::size_t campoParticelle = 5;
-  std::vector<std::string_view> campi = Dividi(rigaZero, "|");
-  if (campi.size() <= campoParticelle)
-    throw Errore(errore::IndiceFuoriIntervallo, "La prima riga dell'Estratto non ha il campo delle particelle");
-  campi[campoParticelle] = mappali;
-  return Unisci(campi, "|");
+auto DiGenere(Genere genere) {
+  return [genere](std::string_view riga) { return GenereDi(riga) == genere; };
 }
 
 } // namespace
@@ -224,24 +190,6 @@ void LibrettoDaElaborazionePregeo(Ambiente& ambiente) {
 void subModelloCensuario(Ambiente& ambiente) {
   AggiornaLibrettoMisure(ambiente);
   if (ApriForm(ambiente, "KR_EDM")) subRiordinoRighe(ambiente);
-}
-
-std::string GeneraLibrettoConStralcio(Ambiente& ambiente) {
-  constexpr std::array<std::string_view, 2> fiducialiOMappa = {"8|PF", "%"};
-  constexpr std::array<std::string_view, 1> mappa = {"%"};
-  const Sessione& sessione = ambiente.sessione;
-  const std::string estratto = TestoEstratto(ambiente);
-  const auto righe = RigheDi(estratto);
-  const auto proposta = RigheDi(sessione.PropostaStralcio);
-  std::string testo = std::string(RigaProposta) + std::string(FineRiga);
-  const std::string_view rigaZero = righe.empty() ? std::string_view{} : righe.front();
-  testo.append(IntestazioneProposta(rigaZero, sessione.Mappali)).append(FineRiga);
-  AggiungiRighe(testo, proposta, DiGenere(Genere::Coordinate));
-  AggiungiRighe(testo, righe, DiGenere(Genere::Coordinate, fiducialiOMappa));
-  AggiungiRighe(testo, proposta, DiGenere(Genere::Contorno));
-  AggiungiRighe(testo, righe, DiGenere(Genere::Contorno, mappa));
-  AggiungiRighe(testo, righe, AttributoEstratto);
-  return testo;
 }
 
 } // namespace lirmeto

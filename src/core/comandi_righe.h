@@ -37,8 +37,4 @@ void LibrettoDaElaborazionePregeo(Ambiente& ambiente);
 // Opens the census workbench, then reorders the rows.
 void subModelloCensuario(Ambiente& ambiente);
 
-// The text of a proposal from the libretto and its associated extract. Throws Errore 53 when there is no extract,
-// 9 when its first row has no field of parcels.
-[[nodiscard]] std::string GeneraLibrettoConStralcio(Ambiente& ambiente);
-
 } // namespace lirmeto

@@ -36,7 +36,6 @@ struct Sessione {
   std::string EstrattoAssociato; // file name of the associated extract (.EMP)
   std::string MisurateAssociate; // file name of the measured-distance archive
   std::string PropostaLibretto;  // the update proposal, from its heading to the end
-  std::string PropostaStralcio;  // rows of a separation for GeneraLibrettoConStralcio; no command fills it yet
 
   // The automated typology under way.
   std::string TipologiaCorrente;     // its code, field 6 of row 9; "1000": no extract is involved

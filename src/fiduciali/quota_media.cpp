@@ -1,7 +1,6 @@
 #include <fiduciali/quota_media.h>
 
 #include <base/testo.h>
-#include <core/lettura.h>
 #include <core/riga.h>
 
 namespace lirmeto {
@@ -16,15 +15,6 @@ std::optional<std::string> QuotaMediaCon(std::string_view testo, std::string_vie
   for (const auto riga : RigheDi(testo))
     if (Contiene(riga, chiave)) quota = Parte(riga, '|', 2);
   return quota;
-}
-
-bool CaricaQuotaMedia(Ambiente& ambiente) {
-  Sessione& sessione = ambiente.sessione;
-  const std::string percorso = PercorsoQuotaMedia(sessione);
-  if (!ambiente.disco.Esiste(percorso)) return false;
-  const auto quota = QuotaMediaCon(CaricaFileIntero(ambiente, percorso), sessione.CodiceComune);
-  if (quota) sessione.QuotaMedia = *quota;
-  return quota.has_value();
 }
 
 } // namespace lirmeto

@@ -3,7 +3,7 @@
 //
 //   "G224|PADOVA|12|"    cadastral code, name, metres
 
-#include <core/ambiente.h>
+#include <core/sessione.h>
 
 #include <optional>
 #include <string>
@@ -15,8 +15,5 @@ namespace lirmeto {
 
 // Field 2 of the last line that contains the key, a code or a name; none without such a line, or without a key.
 [[nodiscard]] std::optional<std::string> QuotaMediaCon(std::string_view testo, std::string_view chiave);
-
-// QuotaMedia of the session by the code of its comune. Whether it was found: if not, QuotaMedia stays.
-bool CaricaQuotaMedia(Ambiente& ambiente);
 
 } // namespace lirmeto

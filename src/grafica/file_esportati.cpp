@@ -55,15 +55,4 @@ bool SoloPerScambio(const Ambiente& ambiente) {
   return ambiente.disco.Esiste(NelProgramma(ambiente, "temp\\IncollaDaFileSiNo.TXT"));
 }
 
-void AccodaPunto(Ambiente& ambiente, const std::string& percorso, const std::string& nome, const PuntoPiano& posto) {
-  constexpr std::string_view formato = "###############0.000";
-  ambiente.sessione.PuntoErrore = "AggiungiPuntoAFile";
-  std::string testo = ambiente.disco.Esiste(percorso) ? ambiente.disco.Leggi(percorso) : std::string{};
-  if (!testo.empty() && !testo.ends_with('\n')) testo += FineRiga; // the last row may have no end of its own
-  const std::string riga = "8|" + nome + "|" + Formatta(posto.est, formato) + "|" + Formatta(posto.nord, formato) + "|";
-  testo += Sostituisci(riga, ",", ".");
-  testo += FineRiga;
-  ambiente.disco.Scrivi(percorso, testo);
-}
-
 } // namespace lirmeto

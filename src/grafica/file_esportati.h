@@ -1,5 +1,5 @@
 #pragma once
-// The drawing as files of the folders of the program, and a point as a row of a file of the user.
+// The drawing as files of the folders of the program.
 
 #include <core/ambiente.h>
 #include <grafica/disegno_condiviso.h>
@@ -17,8 +17,5 @@ std::string ScriviScambio(Ambiente& ambiente, const DisegnoCondiviso& disegno);
 
 // The exchange file was all that the program was started for.
 [[nodiscard]] bool SoloPerScambio(const Ambiente& ambiente);
-
-// The row "8|name|east|north|" behind the rows of a file, the east first as it is in no other row 8.
-void AccodaPunto(Ambiente& ambiente, const std::string& percorso, const std::string& nome, const PuntoPiano& posto);
 
 } // namespace lirmeto

@@ -140,10 +140,6 @@ void Grafica::KR_CaricaPropostaDaLibretto(std::string_view percorso) {
   Carica(percorso, RigheSezioni(LeggiTestoDisegno(ambiente_, percorso, "KR_CaricaPropostaDaLibretto")));
 }
 
-void Grafica::KR_CaricaProposta_SUR(std::string_view percorso) {
-  Carica(percorso, RigheSezioni(LeggiTestoDisegno(ambiente_, percorso, "KR_CaricaProposta_SUR")));
-}
-
 void Grafica::KR_Elaborazione_SUR(std::string_view percorso) {
   Carica(percorso, RigheIntere(LeggiTestoDisegno(ambiente_, percorso, "KR_Elaborazione_SUR")));
 }
@@ -199,10 +195,6 @@ std::string Grafica::KR_CopiaInFile() {
   std::string percorso = ScriviScambio(ambiente_, disegno_);
   fineProgramma_ = SoloPerScambio(ambiente_);
   return percorso;
-}
-
-void Grafica::AggiungiPuntoAFile(const PuntoPiano& posto) {
-  AccodaPunto(ambiente_, Percorso, NomeNuovoPunto, posto);
 }
 
 } // namespace lirmeto

@@ -107,7 +107,6 @@ public:
   // Loaders. A file that is not there is error 53, and the drawing that stood before stays.
   void KR_CaricaEstratto_EMP(std::string_view percorso);
   void KR_CaricaPropostaDaLibretto(std::string_view percorso);
-  void KR_CaricaProposta_SUR(std::string_view percorso);
   void KR_Elaborazione_SUR(std::string_view percorso);
   void KR_LoadFileCSV(std::string_view percorso);
   void EsplodiPDF(std::string_view percorso);
@@ -123,9 +122,6 @@ public:
   std::string KR_CopiaInFile();
   // Set when the exchange file was all that the program was started for: it ends then.
   [[nodiscard]] bool FineProgramma() const { return fineProgramma_; }
-
-  // A row 8 named `NomeNuovoPunto` behind the rows of the file loaded last.
-  void AggiungiPuntoAFile(const PuntoPiano& posto);
 
 private:
   void SalvaDXFEApri();

@@ -167,24 +167,5 @@ TEST(DaElaborazione, SoloLeRigheDeiPunti) {
   EXPECT_EQ(banco.Righe(), (Righe{Zero, Nove}));
 }
 
-TEST(Stralcio, RigheDellEstrattoSenzaLaMappa) {
-  Banco banco;
-  banco.Apri(Testo({Zero, Nove}));
-  EXPECT_THROW((void)GeneraLibrettoConStralcio(banco.ambiente), Errore);
-  banco.sessione.EstrattoAssociato = "..\\X.EMP";
-  EXPECT_THROW((void)GeneraLibrettoConStralcio(banco.ambiente), Errore);
-  banco.sessione.EstrattoAssociato = "X.EMP";
-  banco.disco.Metti("C:\\pregeo\\estratti\\X.EMP", "0|1|2|\r\n");
-  EXPECT_THROW((void)GeneraLibrettoConStralcio(banco.ambiente), Errore);
-  banco.disco.Metti(
-      "C:\\pregeo\\estratti\\X.EMP",
-      Testo({"0|12032018|PD1|G224|00010|101,102|PD|", "8|1%|1|2|", "8|PF01/0010/G224|1|2|", "8|5L|3|4|",
-             "7|2|1%|2%|NC|1|1|9|", "7|2|5L|6L|RT|", "6|PARTICELLA|12|", "6|ALTRO|", "6|DISTORSIONE|1.5|"}));
-  banco.sessione.PropostaStralcio = Testo({"7|1|9|RC|", "8|9|1|1|", "6|DITTA|x|"});
-  EXPECT_EQ(GeneraLibrettoConStralcio(banco.ambiente),
-            Testo({"6|ESTRATTO DI MAPPA|", "0|12032018|PD1|G224|00010|12,3|PD|", "8|9|1|1|", "8|5L|3|4|", "7|1|9|RC|",
-                   "7|2|5L|6L|RT|", "6|PARTICELLA|12|", "6|DISTORSIONE|1.5|"}));
-}
-
 } // namespace
 } // namespace lirmeto

@@ -82,18 +82,11 @@ INSTANTIATE_TEST_SUITE_P(Casi, Nomi,
                                          CasoNome{"PF01/0010/..\\A", Punto("001", "0", "01"), false, false},
                                          CasoNome{"PF01/0010", Punto("001", "0", "01"), false, false}));
 
-TEST(QuotaMedia, ValeLUltimaRigaConIlCodice) {
-  Banco banco;
-  EXPECT_FALSE(CaricaQuotaMedia(banco.ambiente));
-  banco.disco.Metti(PercorsoQuotaMedia(banco.sessione), "G224|PADOVA|12|\r\nA001|ABANO|14|\r\nG224|PADOVA|13");
-  banco.sessione.QuotaMedia = "7";
-  EXPECT_FALSE(CaricaQuotaMedia(banco.ambiente)) << "without a comune every line would do";
-  banco.sessione.CodiceComune = "L736";
-  EXPECT_FALSE(CaricaQuotaMedia(banco.ambiente));
-  EXPECT_EQ(banco.sessione.QuotaMedia, "7");
-  banco.sessione.CodiceComune = "G224";
-  EXPECT_TRUE(CaricaQuotaMedia(banco.ambiente));
-  EXPECT_EQ(banco.sessione.QuotaMedia, "13");
+TEST(QuotaMedia, ValeLUltimaRigaConLaChiave) {
+  constexpr std::string_view testo = "G224|PADOVA|12|\r\nA001|ABANO|14|\r\nG224|PADOVA|13";
+  EXPECT_EQ(QuotaMediaCon(testo, ""), std::nullopt) << "without a comune every line would do";
+  EXPECT_EQ(QuotaMediaCon(testo, "L736"), std::nullopt);
+  EXPECT_EQ(QuotaMediaCon(testo, "PADOVA"), "13");
 }
 
 const Righe Testata = {"0|12032018|1|G224|0010|1|ROSSI MARIO|GEOMETRA|PADOVA|", "9|20|10|20|5|V|FR|G|"};

@@ -139,16 +139,6 @@ TEST(Svg, CioCheSiVedeInPixel) {
       "</g>\n</svg>\n");
 }
 
-TEST_F(Esportazioni, UnPuntoInCodaAlFile) {
-  grafica.Percorso = "C:\\A.EMP";
-  grafica.NomeNuovoPunto = "9,1%";
-  grafica.AggiungiPuntoAFile({1.23456, -2});
-  EXPECT_EQ(File("C:\\A.EMP"), "8|9.1%|1.235|-2.000|~");
-  banco.disco.Metti("C:\\A.EMP", "0|");
-  grafica.AggiungiPuntoAFile({0, 0.5});
-  EXPECT_EQ(File("C:\\A.EMP"), "0|~8|9.1%|0.000|0.500|~") << "a last row without its end stays a row";
-}
-
 TEST_F(Esportazioni, NumeriSenzaFineNonEsconoElFileResta) {
   Punto("1%", std::numeric_limits<double>::max(), 0);
   Punto(" 2", -std::numeric_limits<double>::max(), std::numeric_limits<double>::infinity());

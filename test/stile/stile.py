@@ -109,19 +109,7 @@ def formato(progetto):
     yield from (riga for riga in esito.stderr.split("\n") if re.search(r": (error|warning): ", riga))
 
 
-def parole(progetto):
-    """Words that belong to how the project was made and not to what it is, and paths of one machine."""
-    vietate = re.compile(r"\b(speci[f]ication|spe[c][.]md|spe[c]s?)\b|\bPart[s]? [0-9]+\.[0-9]+|(?<![\w.>])/(wor[k]|hom[e]|roo[t])/\w", re.I)
-    for nome in progetto.file():
-        if b"\0" in (progetto.radice / nome).read_bytes()[:8000] or nome.startswith("fuzz/corpus/"):
-            continue
-        for numero, riga in enumerate(progetto.righe(nome), 1):
-            trovato = vietate.search(riga)
-            if trovato:
-                yield f"{nome}:{numero}: {trovato[0]}"
-
-
-REGOLE = {f.__name__: f for f in (finestre, numeri, lunghezza, risalite, strati, formato, parole)}
+REGOLE = {f.__name__: f for f in (finestre, numeri, lunghezza, risalite, strati, formato)}
 
 # For each rule: invented files, and of these the ones it must find.
 BASE = {".clang-format": "BasedOnStyle: LLVM\n", "src/CMakeLists.txt": "strato(base)\nstrato(core base)\nstrato(alto core)\n"}
@@ -144,9 +132,6 @@ AUTOPROVE = {
                 "src/core/e.cpp": "#include <ui/x.h>\n", "src/ui/f.cpp": "#include <alto/x.h>\n"},
                {"src/core/a.cpp", "src/base/b.h", "src/cli/d.cpp", "src/core/e.cpp"}),
     "formato": ({"src/core/a.cpp": "int   x;\n", "src/core/b.cpp": "int x;\n"}, {"src/core/a.cpp"}),
-    "parole": ({"a.md": "as the speci" + "fication says\n", "b.md": "see Par" + "t 1.2\n", "c.md": "cd /wor" + "k/x\n",
-                "d.md": "special, inspect, part 2 of 3, ./work/x, build/home/y\n", "e.md": "read the spe" + "c first\n"},
-               {"a.md", "b.md", "c.md", "e.md"}),
 }
 
 

@@ -131,6 +131,8 @@ void GraficaPannello::RiempiBarra() {
     immagine->setToolTip(QStringLiteral("Salva la vista come immagine PNG, SVG o PDF"));
     MostraDidascalia(*barra_, immagine);
   }
+  barra_->addAction(QStringLiteral("Coincidenti"), this, [this] { grafica_.KR_PuntiCoincidenti(); })
+      ->setToolTip(QStringLiteral("Elenca i punti che distano fra loro meno di un centimetro"));
   auto* vuoto = new QWidget(barra_);
   vuoto->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   barra_->addWidget(vuoto);
