@@ -10,7 +10,7 @@
 namespace lirmeto {
 
 enum class Comando {
-  NessunaAzione,      // present in the window and does nothing: meant so
+  NessunaAzione,      // present in the window and does nothing: its place is kept
   NonDisponibile,     // its work is still to come: shown disabled
   NuovoLibretto,      // needs the header form
   NuovoLibrettoVuoto, // the same from its button

@@ -121,7 +121,7 @@ ListaRighe RigheDaElencare(const std::string& libretto, Dialoghi& dialoghi) {
 }
 
 // The defaults go where a row is missing first and where it is of another kind then: a file of one row that is no
-// header gets row 9 both behind and before it. That is meant so.
+// header gets row 9 both behind and before it: no row of the file is taken for what it may not be.
 void MettiZeroNove(ListaRighe& righe, const Sessione& sessione) {
   if (righe.empty()) righe.Aggiungi(sessione.RigaZero);
   if (righe.size() < 2) righe.Aggiungi(sessione.RigaNove);

@@ -17,7 +17,7 @@ struct CartellaPrevista {
 };
 
 // The order matters: parents come before what lies in them. The one folder
-// under FIDUCIAL that hangs on the drive of the programs is meant so.
+// under FIDUCIAL that hangs on the drive of the programs is where the sibling program that owns it looks.
 constexpr std::array<CartellaPrevista, 21> CartellePreviste = {{
     {Base::Dati, "\\FIDUCIAL"},
     {Base::Dati, "\\fiducial\\DITTA"},

@@ -2,18 +2,14 @@
 
 #include <base/errore.h>
 #include <base/numeri.h>
-#include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/apertura.h>
 #include <core/apri_form.h>
-#include <core/lettura.h>
 #include <core/riga.h>
 #include <core/riordino.h>
 #include <core/salvataggio.h>
 
 #include <algorithm>
-#include <array>
-#include <span>
 #include <vector>
 
 namespace lirmeto {
@@ -138,7 +134,7 @@ void InvertiSelezione(Ambiente& ambiente) {
 
 void CopiaNegliAppunti(Ambiente& ambiente) {
   Sessione& sessione = ambiente.sessione;
-  const std::string testo = RigheUnite(sessione.List1.Righe());
+  std::string testo = RigheUnite(sessione.List1.Righe());
   ambiente.appunti.MettiTesto(testo);
   sessione.PuntoErrore = "CopiaNegliAppunti";
   ambiente.disco.Scrivi(sessione.CartellaProgramma + "\\temp\\TagUno.tag", testo + std::string(FineRiga));
@@ -146,7 +142,7 @@ void CopiaNegliAppunti(Ambiente& ambiente) {
   ambiente.dialoghi.Messaggio("Il Libretto è stato copiato!"_w, "Copia Libretto");
 }
 
-// The kind 2 of the first two is meant so, whatever their captions say.
+// The first two give rows of kind 2, whatever their captions say: the user completes them as sightings.
 void ImportaRighe8DaExcel(Ambiente& ambiente) {
   ImportaDaExcel(
       ambiente, [](std::string_view linea, std::size_t) { return "2|" + std::string(linea) + "|"; }, "Decozero_133");

@@ -11,8 +11,8 @@ enum class Ordine {
 };
 
 // Sorts the other rows of each group by their text with field 1 right-aligned in twenty columns: names by length, then
-// by bytes; field 1 is trimmed in all rows afterwards. A name of more than twenty characters keeps its last twenty:
-// meant so.
+// by bytes; field 1 is trimmed in all rows afterwards. A name of more than twenty characters keeps its last twenty,
+// which tell the points of a survey apart.
 void OrdinaStazioni(ListaRighe& righe, Ordine ordine);
 
 } // namespace lirmeto

@@ -107,7 +107,7 @@ std::string CercaEstratto(Ambiente& ambiente, std::string_view identificativo) {
   const std::string cartella = ambiente.sessione.RadicePregeo + "\\pregeo\\estratti\\";
   for (const auto& nome : ambiente.disco.Elenca(cartella, ".EMP")) {
     const std::string riga = PrimaRiga(ambiente.disco, cartella + nome);
-    if (riga.empty()) break; // an empty first line ends the search: meant so
+    if (riga.empty()) break; // a file that is being written: what lies behind it is not sure either
     if (UgualiSenzaCaso(Parte(riga, '|', 2), identificativo) && Contiene(riga, "|")) return nome;
   }
   return {};

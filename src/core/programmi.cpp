@@ -26,7 +26,7 @@ void TerminaProcesso(Ambiente& ambiente, std::string_view immagine) {
   int ultimo = 0;
   for (const long processo : processi) ultimo = ambiente.processi.Termina(processo);
   // The message says that the program was ended and is shown when the last end
-  // failed: that sense is meant so.
+  // failed: the program has then gone by itself, or soon will.
   if (ultimo != 0)
     ambiente.dialoghi.Messaggio("Il programma " + std::string(immagine) + std::string(" è stato terminato!"_w));
 }

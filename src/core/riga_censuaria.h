@@ -21,7 +21,8 @@ namespace lirmeto {
 inline constexpr std::size_t LunghezzaCensuaria = 70;
 
 // Whether a line is a census row: of kind 6 and of exactly seventy characters. There is no other test, so that the
-// heading and the count rows are census rows too, and so is any other row 6 of that length: meant so.
+// heading and the count rows are census rows too, and so is any other row 6 of that length: the
+// columns are all that a reader of the form goes by.
 [[nodiscard]] bool RigaCensuaria(std::string_view riga);
 
 // A field: its place in a split at the bars, from 0; its first column, from 1, and its width.
@@ -113,7 +114,7 @@ private:
 };
 
 // The rows that a block should have by its count rows, the heading counted. Fusions of the second kind are left out:
-// meant so, a block that holds one never has as many as it says.
+// their count is of parcels and not of rows, so that a block that holds one never has as many as it says.
 [[nodiscard]] double RigheIndicate(const ListaRighe& censuario);
 
 // The row as the province of Gorizia wants it, and nothing generic: fields 2, 5 and 9 in ten columns, field 12 two

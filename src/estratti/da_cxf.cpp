@@ -19,13 +19,14 @@ namespace lirmeto {
 // How a sheet is made into an extract, where it could be done in more than one way:
 //
 //   a parcel whose surface is not known    has 20 square metres, whatever the parcel before it had
-//   the count of an island                 stands right behind the identifier before it, with no bar: meant so
+//   the count of an island                 stands right behind the identifier before it, with no bar: the vertices
+//                                          are then of one ring, and the hole is left open to it
 //   a sheet that is not called .CXF        gives the extract the same name with .EMP behind it
 //   a raster that lies there already       stays
 
 namespace {
 
-// The header of every sheet, whichever it is: meant so.
+// The header of every sheet, whichever it is: the form that made it asks for the true one afterwards.
 constexpr std::string_view TestataFoglio =
     "0|12032018|PD0012345/2018|G224|00042|101,102,103|PD|PUB|ROSMRA|10000000000017|\r\n";
 constexpr std::string_view CodaFoglio = "6|DISTORSIONE|1.5|\r\n6|SCALAORIGINARIA|2000|\r\n";

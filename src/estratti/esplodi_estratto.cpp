@@ -40,7 +40,7 @@ Lista ListaDiPunto(std::string_view riga) {
   return &KR_Estratto::Punti;
 }
 
-// The distances come first, so that "6|DISTORSIONE|" lies among them and comes back out there: meant so.
+// The distances come first, so that "6|DISTORSIONE|" lies among them and comes back out there: it is of them.
 Lista ListaDiAttributo(std::string_view riga) {
   if (riga.starts_with("6|DIST")) return &KR_Estratto::DISTANZA;
   if (riga.starts_with("6|PA")) return &KR_Estratto::PARTICELLA;
@@ -117,7 +117,7 @@ std::string RigaSette(std::string_view testa, const std::vector<std::string>& ri
 }
 
 // The rings from the last row to the first: SETTE holds them in the reverse order of the file, and a load and save
-// turns their order round. Meant so: two give the first order back.
+// turns their order round, for a ring's continuations are known when its head is met; two give the first order back.
 void UnisciAnelli(KR_Estratto& estratto) {
   std::vector<std::string> riporto;
   for (std::size_t i = estratto.List1.size(); i > 0; --i) {

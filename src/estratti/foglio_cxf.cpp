@@ -16,7 +16,8 @@ namespace lirmeto {
 //   a quoted token whose quotes do not close    ends with its line
 //   what stands behind the closing quote        is passed over, up to the comma or the line's end
 //   the name of a parcel                        the whole code, its blanks at the end too
-//   a token "BORDO" of another record           opens a border: meant so; what follows is then seldom one, and an error
+//   a token "BORDO" of another record           opens a border, as records begin in no other way; what follows is then
+//                                               seldom one, and an error
 //   a surface that is missing or too short      is empty
 
 namespace {

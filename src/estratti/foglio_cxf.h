@@ -59,7 +59,7 @@ public:
   explicit SuperficiSup(std::string_view testo);
 
   // The surface of the first line, in the order of the file, that begins with the name: that of "2720" serves for "272"
-  // where it stands before; meant so. None when no line does.
+  // where it stands before: names have no end of their own in that file. None when no line does.
   [[nodiscard]] std::optional<std::string_view> CaricaSuperficiParticelle(std::string_view nome);
 
 private:

@@ -211,7 +211,7 @@ double ComeScritta(double superficie) {
 }
 
 // Takes the holes of a parcel off the rings of its name. Only those that stand behind it in SETTE: a hole before its
-// parcel is not taken off, meant so.
+// parcel has no ring yet that it could be taken off.
 void TogliBuchi(const ListaRighe& sette, std::vector<double>& superfici) {
   constexpr std::size_t secondoNome = 2;              // places before the last
   std::unordered_map<std::string_view, double> buchi; // by the parcel's name, of the rows behind

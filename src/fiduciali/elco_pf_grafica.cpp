@@ -61,7 +61,8 @@ PuntoGrafica DaDipingere(const PuntoPF& punto) {
   return grafico;
 }
 
-// "NU" stands in longer words too, and they count: meant so.
+// "NU" stands in longer words too, and they count: the archive writes what became of a point in free words, and a point
+// too many in grey does no harm.
 bool FuoriUso(const PuntoPF& punto) {
   const std::string posto = Maiuscolo(punto.riferimentoPlanimetrico);
   return Contiene(posto, "NU") || Contiene(posto, "N.U.") || Contiene(posto, "NON") || Contiene(posto, "EX PF");
@@ -122,7 +123,7 @@ void KR_ElcoPFGrafica::MettiRapporto(double rapporto) {
 }
 
 // The extent starts from the third point, and an array of fewer has zeros there: with less than three points the origin
-// is seen too. Meant so.
+// is seen too: so small a comune is shown where it lies.
 void KR_ElcoPFGrafica::ZoomTutto() {
   constexpr std::size_t terzo = 2;
   constexpr double margine = 1.2;

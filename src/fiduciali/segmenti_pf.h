@@ -21,7 +21,7 @@ inline constexpr std::size_t MassimoSegmenti = 10'001;
 // Lines of an archive that hold a comune of these points, in byte order, each pair once. The comuni are the last four
 // characters of the names, in the order met; of the lines with the same first 30 characters the first counts, those of
 // the first comune before those of the others. Names of points of two comuni that differ in the last character alone
-// fall together there, and that is meant so.
+// fall together there: a report has one line a pair, and their sheets are one.
 [[nodiscard]] std::vector<std::string_view> RigheDeiComuni(Dialoghi& dialoghi, std::span<const std::string_view> nomi,
                                                            std::string_view archivio);
 

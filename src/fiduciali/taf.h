@@ -75,8 +75,8 @@ struct CoordinatePF {
   std::string nord;
 };
 
-// The quick look-up. It reads narrower columns than the record, and that is meant so: sheet 8-10, annex 11-13 ("0" when
-// blank), number 16-17, north 103-113, east 116-126. A name whose number is not filled with zeros is not found.
+// The quick look-up. It reads narrower columns than the record, which some archives fill otherwise: sheet 8-10, annex
+// 11-13 ("0" when blank), number 16-17, north 103-113, east 116-126. A name whose number is not filled with zeros is not found.
 [[nodiscard]] std::optional<CoordinatePF> CercaPFinTAF(Ambiente& ambiente, std::string_view nome);
 
 // The same for several names, in their order; the TAF of a comune is read once for all its points.

@@ -18,7 +18,7 @@ bool RigaMisura(std::string_view riga) {
   return genere == Genere::Stazione || genere == Genere::Battuta;
 }
 
-// Narrower than what the reorder takes for GPS, and meant so: "|GDOP=" is not looked for.
+// Narrower than what the reorder takes for GPS: a row with "|GDOP=" is a result and no measure, and is not kept.
 bool DiGps(std::string_view riga) {
   if (RigaMisura(riga)) return Contiene(riga, ",");
   return GenereDi(riga) == Genere::Libera &&

@@ -144,7 +144,7 @@ private:
             std::sqrt(piana * piana + dislivello * dislivello)};
   }
 
-  // In spite of its words the row stays, without a zenith angle: meant so.
+  // In spite of its words the row stays, without a zenith angle: the user sees in the list which point it was.
   void AvvisaCoincidente(const std::string& nome) const {
     std::string testo = "Il punto " + nome;
     testo += " è coincidente con la stazione."_w;

@@ -33,7 +33,7 @@ struct OpzioniLibretto {
   bool IncrementoMillesimale = false;
   bool MettiCs = false;
   bool EliminaPuntiNote = false;
-  bool PfDaEstratto = false; // the look-up in the TAF runs while this is off: meant so
+  bool PfDaEstratto = false; // the points come with the extract: the look-up in the TAF runs while this is off
   bool MantieniGps = true;
   bool NoteMancanti = true;
   bool RiordinoFittizio = true; // kept, and of no effect: the reorder always runs

@@ -86,7 +86,7 @@ void AggiungiAnello(std::string& testo, const PolilineaCad& polilinea, std::size
   testo += RigheUnite(ComponiRighe7({nomi.begin(), nomi.end()}, "NC", coda));
 }
 
-// A picture's name on a text that is none: meant so, the extract only has to have a file beside it.
+// A picture's name on a text that is none: the extract only has to have a file beside it.
 constexpr std::string_view ImmagineFinta = "8|1|-12571.845|-5882.526|SF|\r\n"
                                            "8|2|-12581.580|-5880.237|SF|\r\n"
                                            "6|Contorno fabbricato|\r\n"

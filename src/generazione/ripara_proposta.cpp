@@ -259,7 +259,8 @@ private:
            !contorno.coda[1].empty();
   }
 
-  // Both ends on the parcel's contour make a stretch of the map, be it another stretch than theirs: meant so.
+  // Both ends on the parcel's contour make a stretch of the map, be it another stretch than theirs: its
+  // vertices are the map's, whichever way they are joined.
   void ScriviTratti(const Righe& nomi) {
     if (nomi.size() > 1) AggiungiRiga(testo_, CommentoContorno);
     for (std::size_t i = 1; i < nomi.size(); ++i) {

@@ -125,7 +125,7 @@ private:
       if (const PuntoDisegno* punto = g_.tabelle.Trova(nome)) punti.push_back(*punto);
     Metti("4|" + a + "|" + b + "|50|" + NotaDi(a_));
     for (const auto& punto : punti) MettiDistanza(punto, a_);
-    // The note is that of the point last looked up and not of B: meant so.
+    // The note is that of the point last looked up and not of B, which has none of its own here: B closes the figure.
     Metti("4|" + b + "|" + a + "|-50|" + NotaDi(punti.empty() ? b_ : punti.back()));
     for (const auto& punto : punti) MettiDistanza(punto, b_);
     Metti("4|" + a + "|0.00|");

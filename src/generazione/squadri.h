@@ -13,7 +13,8 @@ struct Squadratura { // metres
 };
 
 // Abscissa along AB from A, below zero behind A. The ordinate is above zero on the right of AB before the foot of A and
-// changes its sign behind it: meant so. None when A and B are one point.
+// changes its sign behind it, since the rows 5 of such a point are read by one who looks back from A. None when A and B
+// are one point.
 [[nodiscard]] std::optional<Squadratura> MisuraSquadro(const PuntoDisegno& a, const PuntoDisegno& b,
                                                        const PuntoDisegno& c);
 

@@ -12,7 +12,7 @@ namespace lirmeto {
 
 // Names of three characters must share the first with the station's, of four the first two unless the station ends
 // "000"; names of the same length from four on all but the last three. So station 1000 sees 1100, and 1100 does not see
-// 1000: meant so. A point marked "<EL>" is not sighted.
+// 1000: a thousand opens a survey, and is sighted by none of it. A point marked "<EL>" is not sighted.
 class PuntiPerNome {
 public:
   explicit PuntiPerNome(const TabelleDisegno& tabelle);

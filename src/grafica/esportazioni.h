@@ -24,11 +24,11 @@ private:
 
 // An ENTITIES section alone: a point of each layer, so that a viewer shows the layers that stay empty, the points and
 // the lines. `nomiSpenti` is Check2: points are written while their names are off the screen, and free names always.
-// That is the reverse of what the screen shows, and meant so. Throws Errore 9 for a drawing without points.
+// Who clears the screen of names wants them in the other program. Throws Errore 9 for a drawing without points.
 [[nodiscard]] std::string TestoDXF(const ArchivioGrafica& archivio, bool nomiSpenti);
 
 // An HTML page that draws on a canvas of a thousand pixels. Its scale is a whole number of pixels a metre: a view above
-// a thousand metres falls together in the middle, meant so.
+// a thousand metres falls together in the middle: a page is for a survey, and a sheet would not fit on it.
 [[nodiscard]] std::string TestoPagina(const ArchivioGrafica& archivio, const VistaGrafica& vista);
 
 // Drawing orders for print.exe, metres from the centre of the view:

@@ -116,7 +116,7 @@ private:
     punto_ = "AggiungiGrafica2";
   }
 
-  // The colour of a stretch lags a vertex behind its style: meant so.
+  // The colour of a stretch lags a vertex behind its style: where two codes meet, the line between shows both.
   void Vertice(std::string_view nome) {
     if (sottoProposta_) colore_ = colore::BluChiaro;
     if (!prima_.empty()) archivio_.AggiungiTra(nome, prima_, {colore_, spessore_, stile_});

@@ -83,7 +83,7 @@ private:
 [[nodiscard]] std::string ValorePredefinito(std::size_t indice, const Sessione& sessione, const Data& oggi);
 
 // A date of six digits with its century, "20" where the value of the last two is below 88 and "19" otherwise; any other
-// text as it is. The rows themselves are read with another threshold, 80: both are meant so.
+// text as it is. No act is older than 1988; rows may carry any date and are read with another threshold, 80.
 [[nodiscard]] std::string DataAOttoCifre(std::string_view data);
 
 // "ddmmyyyy" as a date of the calendar; nothing for any other text.

@@ -16,7 +16,8 @@ namespace lirmeto {
 //
 //   the fields of a row        counted from its last vertex, whatever the number of vertices
 //   "+" and "-"                looked for in the whole line, names and areas alike
-//   an origin without an area  takes the area that the line before had: meant so
+//   an origin without an area  takes the area that the line before had: the office adds up the lines as
+//                              they stand, and a line without an area would be none to it
 //   no exported proposal       the files of the last time stay as they are
 
 namespace {

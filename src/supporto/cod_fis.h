@@ -10,7 +10,8 @@
 
 namespace lirmeto {
 
-// Caption of a list of comuni. The two codes stand in the rows in the other order: meant so.
+// Caption of a list of comuni. The two codes stand in the rows in the other order: the rows are what others read, and
+// the caption is only looked at.
 inline constexpr std::string_view TestataComuni = "Nome Comune                            C.Cat C.Fis Prov.";
 
 // A list of comuni, searched while typing, of which one is taken. A row is the name in 40 columns, the table's four

@@ -19,7 +19,8 @@ struct Segnaposto {
   std::string Sessione::*valore; // null: wiped
 };
 
-// In the order of their replacement. The comune's name is not put in: meant so.
+// In the order of their replacement. The comune's name is not put in: a model is of one comune and has it in
+// its text.
 constexpr std::array<Segnaposto, 13> Segnaposti = {{
     {"_nome_dos_libretto_", &Sessione::NomeFileLibretto},
     {"_anno_libretto_", &Sessione::AnnoLibretto},

@@ -158,7 +158,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoStazioni{{"1|A|", "2|1|", "2|X12345678901234567890|", "33"},
                                  {"1|A|", "2|1|", "2|12345678901234567890|", "33"}}));
 
-// The told way: every name padded, every row compared as text.
+// The plain way: every name padded, every row compared as text.
 Righe OrdinatePerEsteso(Righe righe) {
   auto allinea = [](const std::string& riga) {
     const auto parti = Dividi(riga, "|");
