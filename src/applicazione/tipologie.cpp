@@ -3,10 +3,10 @@
 #include <base/errore.h>
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <core/lettura.h>
 #include <core/proposta_libretto.h>
 #include <core/riga.h>
 #include <core/salvataggio.h>
-#include <core/servizi.h>
 #include <core/zero_nove.h>
 #include <estratti/kr_estratto.h>
 #include <generazione/mappale_da_mantenere.h>

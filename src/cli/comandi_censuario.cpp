@@ -5,8 +5,8 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <core/lettura.h>
 #include <core/salvataggio.h>
-#include <core/servizi.h>
 #include <proposte/archivio_particelle.h>
 #include <proposte/kr_fraziona.h>
 #include <proposte/kr_stralcio.h>

@@ -2,9 +2,9 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/lettura.h>
 #include <core/mostra_errore.h>
 #include <core/riga.h>
-#include <core/servizi.h>
 #include <core/zero_nove.h>
 #include <estratti/kr_estratto.h>
 #include <generazione/tipologia.h>

@@ -3,11 +3,11 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/apertura.h>
+#include <core/lettura.h>
 #include <core/mostra_errore.h>
 #include <core/proposta_libretto.h>
 #include <core/riga.h>
 #include <core/riordino.h>
-#include <core/servizi.h>
 #include <pregeo/trasvea.h>
 
 #include <algorithm>

@@ -10,7 +10,7 @@
 #include <ui/estratti/testi_estratto.h>
 
 #include <base/errore.h>
-#include <core/servizi.h>
+#include <core/apri_form.h>
 
 #include <QButtonGroup>
 #include <QDragEnterEvent>

@@ -6,7 +6,7 @@
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_pannello.h>
 
-#include <core/servizi.h>
+#include <base/percorsi.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
