@@ -328,7 +328,7 @@ TEST(Annulla, LIntestazioneConfermata) {
   finestre.utente = [](Modello& modello) {
     auto& form = dynamic_cast<FormCatasto1TXT&>(modello);
     form.Cambia(1, "99");
-    form.ConfermaConfigurazione0();
+    form.Premi(0);
   };
   sala.dialoghi.risposte = {Risposta::Si}; // a fiscal code that is none
   KR_LibrettoOriginale finestra(vero);
