@@ -109,8 +109,7 @@ struct CasoPulsante {
 class OgniPulsante : public testing::TestWithParam<CasoPulsante> {};
 
 TEST_P(OgniPulsante, LasciaSulDisco) {
-  const int indice = GetParam().first;
-  const auto& attesi = GetParam().second;
+  const int indice = GetParam().indice;
   Sala sala;
   sala.tavolo.banco.dialoghi.fileScelto = indice == 21   ? "C:\\DATI\\FUORI.EMP"
                                           : indice == 27 ? "C:\\DATI\\F.CXF"
@@ -124,7 +123,6 @@ TEST_P(OgniPulsante, LasciaSulDisco) {
     Scrivi(finestra, "NuovoNome", "NUOVO");
     Scrivi(finestra, "NomeParticella", "36");
     Scrivi(finestra, "NuovoNomeParticella", "AAA");
-    std::vector<std::string> titoli;
     if (indice == 3 || indice == 18) NellaProssimaFinestra([](QWidget& seconda) { seconda.close(); });
     auto& bottone = Trova<QToolButton>(finestra, ("Pulsante_" + std::to_string(indice)).c_str());
     EXPECT_FALSE(bottone.icon().isNull());
@@ -137,7 +135,7 @@ TEST_P(OgniPulsante, LasciaSulDisco) {
         cambiati += (prima.contains(file) ? "~" : "+") + file.substr(file.rfind('\\') + 1) + " ";
     for (const auto& [file, contenuto] : prima)
       if (!sala.Disco().file.contains(file)) cambiati += "-" + file.substr(file.rfind('\\') + 1) + " ";
-    EXPECT_EQ(cambiati, attesi);
+    EXPECT_EQ(cambiati, GetParam().cambiati);
   });
   EXPECT_EQ(sala.tavolo.banco.sessione.EstrattoAssociato, indice == 15 ? "A.EMP" : indice == 2 ? "N.EMP" : "");
 }
