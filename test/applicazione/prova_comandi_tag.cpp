@@ -249,8 +249,7 @@ TEST(Strumenti, LaTagPassaDalloSmistamentoELeCaselleSeguono) {
 
 TEST(Forme, OgnunaSiApreColSuoModelloCaricato) {
   Banco banco;
-  banco.sessione.EstrattoAssociato = "E.EMP";
-  banco.disco.Metti("C:\\pregeo\\estratti\\E.EMP", "0|AUTOALLESTITO|0|0|0|0|0|0|0|0|\r\n");
+  banco.sessione.EstrattoAssociato = "A.EMP";
   for (const Forma& form : Forme()) {
     bool mostrata = false;
     banco.finestre.utente = [&](Modello& modello) {

@@ -1,5 +1,7 @@
 #include <ui/comune/colonna_elenco.h>
 
+#include <ui/comune/casella_con_titolo.h>
+
 #include <QLabel>
 #include <QListWidget>
 #include <QVBoxLayout>
@@ -10,11 +12,9 @@ QWidget* ColonnaElenco(const QString& titolo, QListWidget& elenco) {
   auto* riquadro = new QWidget(elenco.parentWidget());
   auto* colonna = new QVBoxLayout(riquadro);
   colonna->setContentsMargins(0, 0, 0, 0);
-  auto* sopra = new QLabel(titolo, riquadro);
-  sopra->setObjectName(QStringLiteral("TitoloGruppo"));
   elenco.setAccessibleName(titolo);
   elenco.setUniformItemSizes(true);
-  colonna->addWidget(sopra);
+  colonna->addWidget(TitoloGruppo(titolo, riquadro));
   colonna->addWidget(&elenco, 1);
   return riquadro;
 }

@@ -1,6 +1,7 @@
 #include <ui/estratti/finestra_completa.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/colonna_elenco.h>
 #include <ui/comune/piede_scelta.h>
 #include <ui/comune/testo_qt.h>
@@ -20,16 +21,6 @@
 
 namespace lirmeto::ui {
 
-namespace {
-
-QLabel* Titolo(const QString& testo, QWidget* padre) {
-  auto* titolo = new QLabel(testo, padre);
-  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
-  return titolo;
-}
-
-} // namespace
-
 FinestraCompleta::FinestraCompleta(CompletaAutoallestito& modello, QWidget* padre)
     : QDialog(padre), modello_(modello), particelle_(new QListWidget(this)), righe_(new QStringListModel(this)),
       rigaZero_(new QLabel(this)), comune_(new QLabel(this)), codice_(new QLabel(this)) {
@@ -46,7 +37,7 @@ FinestraCompleta::FinestraCompleta(CompletaAutoallestito& modello, QWidget* padr
   file->setEditTriggers(QAbstractItemView::NoEditTriggers);
   auto* sinistra = new QVBoxLayout;
   sinistra->addWidget(ColonnaElenco(QStringLiteral("Particelle"), *particelle_), 2);
-  sinistra->addWidget(Titolo(QStringLiteral("Righe del file"), this));
+  sinistra->addWidget(TitoloGruppo(QStringLiteral("Righe del file"), this));
   sinistra->addWidget(file, 3);
   auto* destra = new QVBoxLayout;
   destra->addWidget(CreaTestata());
@@ -82,7 +73,7 @@ QWidget* FinestraCompleta::CreaTestata() {
   rigaZero_->setWordWrap(true);
   rigaZero_->setTextFormat(Qt::PlainText);
   comune_->setObjectName(QStringLiteral("EtichettaComune"));
-  griglia->addWidget(Titolo(QStringLiteral("Estratto"), gruppo), 0, 0, 1, 3);
+  griglia->addWidget(TitoloGruppo(QStringLiteral("Estratto"), gruppo), 0, 0, 1, 3);
   griglia->addWidget(rigaZero_, 1, 0, 1, 3);
   griglia->addWidget(new QLabel(QStringLiteral("Comune"), gruppo), 2, 0);
   griglia->addWidget(comune_, 2, 1);
@@ -101,7 +92,7 @@ QWidget* FinestraCompleta::CreaParticella() {
   auto* griglia = new QGridLayout(gruppo);
   griglia->setContentsMargins(0, 8, 0, 0);
   griglia->setColumnStretch(1, 1);
-  griglia->addWidget(Titolo(QStringLiteral("Particella"), gruppo), 0, 0, 1, 3);
+  griglia->addWidget(TitoloGruppo(QStringLiteral("Particella"), gruppo), 0, 0, 1, 3);
   griglia->addWidget(CreaQualita(), 1, 0, 1, 3);
   QLineEdit* descrizione = AggiungiCasella(*griglia, QStringLiteral("Descrizione"),
                                            QStringLiteral("DescrizioneParticella"), modello_.DescrizioneParticella);
@@ -135,13 +126,7 @@ QWidget* FinestraCompleta::CreaQualita() {
 
 QLineEdit* FinestraCompleta::AggiungiCasella(QGridLayout& griglia, const QString& titolo, const QString& nome,
                                              std::string& valore) {
-  const int riga = griglia.rowCount();
-  auto* casella = new QLineEdit(this);
-  casella->setObjectName(nome);
-  casella->setAccessibleName(titolo);
-  connect(casella, &QLineEdit::textEdited, this, [&valore](const QString& testo) { valore = DaQString(testo); });
-  griglia.addWidget(new QLabel(titolo, this), riga, 0);
-  griglia.addWidget(casella, riga, 1);
+  QLineEdit* casella = ui::AggiungiCasella(griglia, titolo, nome, valore, this);
   caselle_.push_back({casella, &valore});
   return casella;
 }

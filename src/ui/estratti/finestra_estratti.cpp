@@ -1,6 +1,7 @@
 #include <ui/estratti/finestra_estratti.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/colonna_elenco.h>
 #include <ui/comune/percorsi_qt.h>
 #include <ui/comune/testo_qt.h>
@@ -69,12 +70,6 @@ QString IconaDi(int indice) {
   const auto trovata =
       std::find_if(icone.begin(), icone.end(), [indice](const auto& una) { return una.first == indice; });
   return trovata == icone.end() ? QString() : QString::fromLatin1(trovata->second);
-}
-
-QLabel* Titolo(const QString& testo, QWidget* padre) {
-  auto* titolo = new QLabel(testo, padre);
-  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
-  return titolo;
 }
 
 } // namespace
@@ -177,8 +172,9 @@ QWidget* FinestraEstratti::CreaElenco() {
   elenco_->setModel(nomi_);
   elenco_->setUniformItemSizes(true);
   elenco_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  connect(elenco_->selectionModel(), &QItemSelectionModel::currentChanged, this,
-          [this](const QModelIndex& posto) { Seleziona(posto.row()); });
+  // The list makes its first file the current one when it gets the keys: only what is selected counts.
+  connect(elenco_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          [this](const QItemSelection& scelti) { Seleziona(scelti.isEmpty() ? -1 : scelti.first().top()); });
   auto* colonna = new QVBoxLayout(intorno);
   colonna->setContentsMargins(10, 6, 8, 10);
   colonna->addLayout(opzioni);
@@ -240,7 +236,7 @@ void FinestraEstratti::AggiungiEtichette(QBoxLayout& colonna) {
        {nullptr, &EtichetteEstratto::estMedio},
        {nullptr, &EtichetteEstratto::versione},
        {nullptr, &EtichetteEstratto::tipo}}};
-  colonna.addWidget(Titolo(QStringLiteral("Estratto"), this));
+  colonna.addWidget(TitoloGruppo(QStringLiteral("Estratto"), this));
   auto* griglia = new QGridLayout;
   griglia->setHorizontalSpacing(10);
   griglia->setVerticalSpacing(4);
@@ -274,32 +270,20 @@ void FinestraEstratti::AggiungiNomi(QBoxLayout& colonna) {
     colonna.addLayout(bottoni);
   };
   const auto griglia = [&](const QString& titolo) -> QGridLayout& {
-    colonna.addWidget(Titolo(titolo, this));
+    colonna.addWidget(TitoloGruppo(titolo, this));
     auto* caselle = new QGridLayout;
     colonna.addLayout(caselle);
     return *caselle;
   };
   (void)AggiungiCasella(griglia(QStringLiteral("Nuovo nome dell'estratto")), QStringLiteral("Nome"),
-                        QStringLiteral("NuovoNome"), modello_.NuovoNome);
+                        QStringLiteral("NuovoNome"), modello_.NuovoNome, this);
   riga({11, 12});
   QGridLayout& particella = griglia(QStringLiteral("Particella"));
   (void)AggiungiCasella(particella, QStringLiteral("Attuale"), QStringLiteral("NomeParticella"),
-                        modello_.NomeParticella);
+                        modello_.NomeParticella, this);
   (void)AggiungiCasella(particella, QStringLiteral("Nuova"), QStringLiteral("NuovoNomeParticella"),
-                        modello_.NuovoNomeParticella);
+                        modello_.NuovoNomeParticella, this);
   riga({13, 14});
-}
-
-QLineEdit* FinestraEstratti::AggiungiCasella(QGridLayout& griglia, const QString& titolo, const QString& nome,
-                                             std::string& valore) {
-  const int riga = griglia.rowCount();
-  auto* casella = new QLineEdit(this);
-  casella->setObjectName(nome);
-  casella->setAccessibleName(titolo);
-  connect(casella, &QLineEdit::textEdited, this, [&valore](const QString& testo) { valore = DaQString(testo); });
-  griglia.addWidget(new QLabel(titolo, this), riga, 0);
-  griglia.addWidget(casella, riga, 1);
-  return casella;
 }
 
 // --- what it does

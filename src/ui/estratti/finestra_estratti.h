@@ -10,9 +10,7 @@
 
 class QBoxLayout;
 class QButtonGroup;
-class QGridLayout;
 class QLabel;
-class QLineEdit;
 class QListView;
 class QStackedWidget;
 class QStringListModel;
@@ -53,7 +51,6 @@ private:
   [[nodiscard]] QToolButton* CreaBottone(int indice, Qt::ToolButtonStyle stile);
   void AggiungiEtichette(QBoxLayout& colonna);
   void AggiungiNomi(QBoxLayout& colonna);
-  QLineEdit* AggiungiCasella(QGridLayout& griglia, const QString& titolo, const QString& nome, std::string& valore);
 
   void Fa(const std::function<void()>& azione);
   void Seleziona(int riga);

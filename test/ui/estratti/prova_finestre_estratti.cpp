@@ -175,6 +175,7 @@ TEST(FinestraEstratti, MostraDisegnoTestiERaster) {
 TEST(FinestraEstratti, FiltriESenzaSelezioneUnMessaggio) {
   Sala sala;
   sala.Con("", [&](QWidget& finestra) {
+    EXPECT_FALSE(Trova<QListView>(finestra, "File1").selectionModel()->hasSelection());
     const auto* nomi = Trova<QListView>(finestra, "File1").model();
     EXPECT_EQ(nomi->rowCount(), 4);
     Premi(finestra, "Filtro_PNG");
@@ -203,6 +204,9 @@ TEST(FinestraEstratti, UnFileLasciatoEntraEUnoMilleSiElencano) {
     EXPECT_EQ(Trova<QListView>(finestra, "File1").model()->rowCount(), 1004);
     QMimeData dati;
     dati.setUrls({QUrl::fromLocalFile(QStringLiteral("C:\\DATI\\manca.emp"))});
+    QDragEnterEvent entra(QPoint(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, {});
+    QApplication::sendEvent(&finestra, &entra);
+    EXPECT_TRUE(entra.isAccepted());
     QDropEvent lascia(QPointF(5, 5), Qt::CopyAction, &dati, Qt::LeftButton, {});
     QApplication::sendEvent(&finestra, &lascia);
     QCoreApplication::processEvents();
@@ -220,16 +224,16 @@ struct CasoRaster {
 };
 
 TEST(Raster, PngTifEJpgSiVedonoIlRestoSiDice) {
-  std::string enorme = Immagine("PNG", 8);
-  for (const std::size_t posto : {16U, 20U}) enorme.replace(posto, 4, std::string("\0\0\x4E\x20", 4)); // 20,000 a side
   const std::string png = Immagine("PNG", 5000);
-  for (const CasoRaster& caso : {CasoRaster{"png", png, true}, CasoRaster{"tif", Immagine("TIFF", 30), true},
-                                 CasoRaster{"jpg", Immagine("JPG", 30), true}, CasoRaster{"enorme", enorme, false},
-                                 CasoRaster{"vuoto", "", false}, CasoRaster{"testo", "filevuoto", false},
-                                 CasoRaster{"tagliato", Immagine("JPG", 300).substr(0, 120), false}}) {
+  for (const CasoRaster& caso :
+       {CasoRaster{"png", png, true}, CasoRaster{"tif", Immagine("TIFF", 30), true},
+        CasoRaster{"jpg", Immagine("JPG", 30), true}, CasoRaster{"enorme", Immagine("PNG", 20'000), false},
+        CasoRaster{"vuoto", "", false}, CasoRaster{"testo", "filevuoto", false},
+        CasoRaster{"tagliato", Immagine("JPG", 300).substr(0, 120), false}}) {
     ui::AnteprimaRaster raster;
     raster.MostraByte(caso.byte);
     EXPECT_EQ(raster.Avviso().isEmpty(), caso.mostrata) << caso.nome << raster.Avviso().toStdString();
+    EXPECT_EQ(raster.Avviso().startsWith(QStringLiteral("Immagine troppo grande")), caso.nome == "enorme");
   }
 }
 

@@ -1,0 +1,30 @@
+#include <ui/comune/casella_con_titolo.h>
+
+#include <ui/comune/testo_qt.h>
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace lirmeto::ui {
+
+QLabel* TitoloGruppo(const QString& testo, QWidget* padre) {
+  auto* titolo = new QLabel(testo, padre);
+  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
+  return titolo;
+}
+
+QLineEdit* AggiungiCasella(QGridLayout& griglia, const QString& titolo, const QString& nome, std::string& valore,
+                           QWidget* padre) {
+  const int riga = griglia.rowCount();
+  auto* casella = new QLineEdit(padre);
+  casella->setObjectName(nome);
+  casella->setAccessibleName(titolo);
+  QObject::connect(casella, &QLineEdit::textEdited, casella,
+                   [&valore](const QString& testo) { valore = DaQString(testo); });
+  griglia.addWidget(new QLabel(titolo, padre), riga, 0);
+  griglia.addWidget(casella, riga, 1);
+  return casella;
+}
+
+} // namespace lirmeto::ui

@@ -1,0 +1,21 @@
+#pragma once
+// The title of a group, and a box with its title beside it.
+
+#include <string>
+
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QString;
+class QWidget;
+
+namespace lirmeto::ui {
+
+[[nodiscard]] QLabel* TitoloGruppo(const QString& testo, QWidget* padre);
+
+// A box in the next row of a grid, its title to its left. What is typed goes to `valore`, which must outlive it; the
+// title names the box for screen readers too.
+[[nodiscard]] QLineEdit* AggiungiCasella(QGridLayout& griglia, const QString& titolo, const QString& nome,
+                                         std::string& valore, QWidget* padre);
+
+} // namespace lirmeto::ui
