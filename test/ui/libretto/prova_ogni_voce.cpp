@@ -168,7 +168,7 @@ TEST(OgniVoce, DeiPulsantiFaCioCheDice) {
       {15, "programma desktop"},
       {16, "finestra Edit Libretto Misure"},
       {17, "spenta"},
-      {18, "spenta"},
+      {18, "finestra Gestione Estratti di Mappa - Estratto Associato = , selezione, file"},
       {20, "programma C:\\Program Files (x86)\\Gondella\\GondellaLibretti.exe"},
       {25, "pannello"},
       {27, "selezione"},
