@@ -25,6 +25,7 @@ namespace lirmeto {
 
 namespace {
 
+constexpr std::string_view NomeForm = "Tipol10";
 constexpr std::string_view Contorno = "CONTORNO.TXT";
 
 struct StrumentoDisegno {
@@ -65,8 +66,13 @@ void Tipol10::Prova(std::string_view punto, void (Tipol10::*comando)()) {
 
 void Tipol10::AlCaricamento() {
   ambiente_.sessione.EsitoForm = EsitoAnnullato;
+  PostoSalvato = LeggiPosizione(ambiente_.impostazioni, NomeForm);
   Titolo = "Tipologia " + ambiente_.sessione.TipologiaCorrente;
   Prova("Tipol10", &Tipol10::Carica);
+}
+
+void Tipol10::SalvaPosto(const PosizioneForm& posto) {
+  ScriviPosizione(ambiente_.impostazioni, NomeForm, posto);
 }
 
 // The text is read before the folder that it lies in is emptied.
@@ -89,6 +95,12 @@ void Tipol10::DisegnaEstratto(std::string_view proposta) {
   CreaPercorso(ambiente_, CartellaTemp(sessione));
   ambiente_.disco.Scrivi(file, testo.append(proposta));
   Grafica1.KR_CaricaEstratto_EMP(file);
+}
+
+void Tipol10::Ricarica() {
+  (void)Intrappola(ambiente_, [&] {
+    if (!Grafica1.Percorso.empty()) Grafica1.KR_CaricaEstratto_EMP(std::string(Grafica1.Percorso));
+  });
 }
 
 void Tipol10::ButtonPlus1(int indice) {

@@ -5,10 +5,12 @@
 #include <base/dialoghi.h>
 #include <core/ambiente.h>
 #include <core/lista_righe.h>
+#include <core/posizione_form.h>
 #include <generazione/elenco_cad.h>
 #include <generazione/tipologia.h>
 #include <grafica/grafica.h>
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,11 +28,14 @@ public:
   std::string Text3 = "1"; // what is added to it for the next
   Grafica Grafica1;        // the extract and the proposal
   bool Chiusa = false;
+  std::optional<PosizioneForm> PostoSalvato; // where the form stood last
 
   [[nodiscard]] Ambiente& Dintorni() { return ambiente_; }
 
   // Reads the text of the typology, empties the program's \temp, shows the extract.
   void AlCaricamento();
+  // The form is going, and stood there.
+  void SalvaPosto(const PosizioneForm& posto);
 
   // Confirm, close, listing in the clipboard, DXF. Errors are reported; List1 is then as it was.
   void ButtonPlus1(int indice);
@@ -38,6 +43,10 @@ public:
   // Drawing tools: new point, red contour, black contour, contour begun anew, contour into rows, middle point, point by
   // two distances.
   void ButtonPlus2(int indice);
+  // No tool: a click does nothing.
+  void NessunoStrumento() { ScegliStrumento({}); }
+  // The picture again, as the display flags now have it loaded.
+  void Ricarica();
   // A tool that places points takes one name: called after a click, it gives the next.
   void DopoIlClick();
 

@@ -27,6 +27,7 @@ namespace lirmeto {
 
 namespace {
 
+constexpr std::string_view NomeForm = "KR_Dapregeo";
 constexpr std::string_view Nota = "<P!>";
 constexpr int SalvaDxf = 5; // entry of the drawing's menu
 
@@ -100,11 +101,16 @@ void KR_Dapregeo::Prova(std::string_view punto, void (KR_Dapregeo::*comando)()) 
 }
 
 void KR_Dapregeo::AlCaricamento() {
+  PostoSalvato = LeggiPosizione(ambiente_.impostazioni, NomeForm);
   estrattoPrima_ = ambiente_.sessione.EstrattoAssociato;
   Grafica1.KR_Clear();
   Prova("CaricaPregeo800", &KR_Dapregeo::CaricaPregeo800);
   Titolo = ambiente_.sessione.NomeFileLibretto;
   CambiaRiga(0);
+}
+
+void KR_Dapregeo::SalvaPosto(const PosizioneForm& posto) {
+  ScriviPosizione(ambiente_.impostazioni, NomeForm, posto);
 }
 
 void KR_Dapregeo::CaricaPregeo800() {

@@ -14,6 +14,7 @@
 #include <base/dialoghi.h>
 #include <core/ambiente.h>
 #include <core/lista_righe.h>
+#include <core/posizione_form.h>
 #include <grafica/grafica.h>
 
 #include <array>
@@ -42,13 +43,19 @@ public:
   Grafica Grafica1;
   std::optional<std::size_t> Riga; // of the archive, the one that is shown
   bool Chiusa = false;
+  std::optional<PosizioneForm> PostoSalvato; // where the form stood last
 
   [[nodiscard]] Ambiente& Dintorni() { return ambiente_; }
 
   void AlCaricamento();
+  // The form is going, and stood there.
+  void SalvaPosto(const PosizioneForm& posto);
   // Another row of the archive is shown; one that is not there changes nothing. Errors are reported, and what was shown
   // is taken away: it was another libretto.
   void CambiaRiga(std::size_t riga);
+
+  // The drawing again, as the display flags now have it loaded.
+  void Ricarica() { Prova("Ricarica", &KR_Dapregeo::Disegna); }
 
   // Buttons: 0 closes, 2 imports and closes, 3 saves the drawing as DXF.
   void Pulsante(int indice);

@@ -10,10 +10,13 @@
 #include <ui/fiduciali/finestra_importa_fiduciali.h>
 #include <ui/fiduciali/finestra_seleziona_misurate.h>
 #include <ui/generazione/finestra_libretto_disegno.h>
+#include <ui/generazione/finestra_mappali.h>
+#include <ui/generazione/finestra_tipol10.h>
 #include <ui/intestazione/finestra_catasto1.h>
 #include <ui/libretto/finestra_riordino.h>
 #include <ui/libretto/finestra_scartate.h>
 #include <ui/pregeo/finestra_configura_pregeo.h>
+#include <ui/pregeo/finestra_dapregeo.h>
 #include <ui/supporto/finestra_assegna_descrizione.h>
 #include <ui/supporto/finestra_autore.h>
 #include <ui/supporto/finestra_codfis.h>
@@ -52,6 +55,10 @@ constexpr std::array Mostratori = {
     &MostraSe<FormConfiguraPregeo, FinestraConfiguraPregeo>,
     &MostraSe<FormDisegno, FinestraDisegno>,
     &MostraSe<LibrettoDaDisegno, FinestraLibrettoDisegno>,
+    &MostraSe<KR_Dapregeo, FinestraDapregeo>,
+    &MostraSe<SelezionaMappali, FinestraSelezionaMappali>,
+    &MostraSe<MappaleDaMantenere, FinestraMappaleDaMantenere>,
+    &MostraSe<Tipol10, FinestraTipol10>,
     &MostraSe<KR_StampaGenerale, FinestraStampaGenerale>,
     &MostraSe<KR_CodFis, FinestraCodFis>,
     &MostraSe<KR_Comuni8, FinestraComuni>,
