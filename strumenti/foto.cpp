@@ -18,12 +18,15 @@
 #include <ui/fiduciali/finestra_elco_pf_grafica.h>
 #include <ui/fiduciali/finestra_elco_pf_griglia.h>
 #include <ui/generazione/finestra_libretto_disegno.h>
+#include <ui/generazione/finestra_mappali.h>
+#include <ui/generazione/finestra_tipol10.h>
 #include <ui/intestazione/finestra_catasto1.h>
 #include <ui/libretto/finestra_principale.h>
 #include <ui/libretto/finestra_riordino.h>
 #include <ui/libretto/finestra_scartate.h>
 #include <ui/libretto/vista_righe.h>
 #include <ui/pregeo/finestra_configura_pregeo.h>
+#include <ui/pregeo/finestra_dapregeo.h>
 #include <ui/supporto/finestra_autore.h>
 #include <ui/supporto/finestra_codfis.h>
 #include <ui/supporto/finestra_editor.h>
@@ -33,6 +36,7 @@
 #include <base/testo.h>
 #include <core/apertura.h>
 #include <estratti/kr_estratto.h>
+#include <generazione/polilinee_dxf.h>
 #include <piattaforma/disco_dischi.h>
 #include <piattaforma/orologi.h>
 #include <piattaforma/processi_linux.h>
@@ -158,10 +162,13 @@ public:
   void Scrivi(std::string_view /*sezione*/, std::string_view /*chiave*/, std::string_view /*valore*/) override {}
 };
 
-class AppuntiVuoti final : public Appunti {
+class AppuntiPropri final : public Appunti {
 public:
-  [[nodiscard]] std::string Testo() const override { return {}; }
-  void MettiTesto(std::string_view /*testo*/) override {}
+  [[nodiscard]] std::string Testo() const override { return testo_; }
+  void MettiTesto(std::string_view testo) override { testo_ = testo; }
+
+private:
+  std::string testo_;
 };
 
 // Takes and saves the pictures of one libretto.
@@ -210,7 +217,52 @@ public:
     return Salva(finestra, "libretto_disegno");
   }
 
+  // Pregeo's archive, and a new building from the menu to its proposal. They write, and start the exchange programs.
+  [[nodiscard]] bool Tipologie(const std::string& dxf) {
+    DisegnoCondiviso disegno;
+    KR_Dapregeo archivio(ambiente_, disegno);
+    archivio.AlCaricamento();
+    archivio.CambiaRiga(archivio.MSFlexGrid1.size() - 1);
+    ui::FinestraDapregeo finestraArchivio(archivio);
+    finestraArchivio.resize(1220, 690);
+    finestraArchivio.show();
+    if (!Salva(finestraArchivio, "da_pregeo")) return false;
+    ambiente_.sessione.TipologiaCorrente = "07";
+    return Mappali() && Proposta(dxf);
+  }
+
 private:
+  bool Mappali() {
+    SelezionaMappali mappali(ambiente_);
+    mappali.AlCaricamento();
+    mappali.SelezionaTutti();
+    ui::FinestraSelezionaMappali scelta(mappali);
+    scelta.show();
+    const bool salvata = Salva(scelta, "seleziona_mappali");
+    mappali.Conferma();
+    Sessione& sessione = ambiente_.sessione;
+    const std::string scelte = std::exchange(sessione.ParticelleScelte, "57,58,74");
+    sessione.RigheEnteUrbano = "6|PARTICELLA|57|  |ENTE URBANO |7544|    | | |\r\n";
+    MappaleDaMantenere mantiene(ambiente_);
+    mantiene.AlCaricamento();
+    ui::FinestraMappaleDaMantenere finestra(mantiene);
+    finestra.show();
+    sessione.ParticelleScelte = scelte;
+    return Salva(finestra, "mappale_da_mantenere") && salvata;
+  }
+
+  bool Proposta(const std::string& dxf) {
+    DisegnoCondiviso disegno;
+    Tipol10 form(ambiente_, disegno);
+    form.AlCaricamento();
+    ambiente_.appunti.MettiTesto(ElencoDaDxf(ambiente_.dialoghi, ambiente_.disco.Leggi(dxf)));
+    form.ButtonPlus1(2);
+    ui::FinestraTipol10 finestra(form);
+    finestra.resize(1220, 690);
+    finestra.show();
+    return Salva(finestra, "tipologia");
+  }
+
   // A sighting in the middle of the rows, with some of its neighbours selected.
   bool Principale(ui::FinestraPrincipale& finestra) {
     ElencoRighe& righe = modello_.DatiSessione().List1;
@@ -403,6 +455,24 @@ private:
   QDir uscita_;
 };
 
+// The forms that write and start programs, on the drives given: a copy that may change.
+int FotografaTipologie(const std::filesystem::path& dischi, const QString& uscita, const QString& file,
+                       const QString& dxf) {
+  Sessione sessione;
+  DiscoDischi disco(dischi);
+  ProcessiLinux processi(disco);
+  DialoghiMuti dialoghi;
+  NessunaFinestra finestre;
+  ImpostazioniVuote impostazioni;
+  AppuntiPropri appunti;
+  OrologioDiSistema orologio;
+  Ambiente ambiente{sessione, disco, dialoghi, finestre, processi, impostazioni, appunti, orologio};
+  processi.CreaCartelleDiSistema();
+  KR_LibrettoOriginale modello(ambiente);
+  if (!modello.Avvia(ui::DaQString(file))) return 1;
+  return Fotografo(modello, ambiente, QDir(uscita)).Tipologie(ui::DaQString(dxf)) ? 0 : 1;
+}
+
 int Fotografa(const std::filesystem::path& dischi, const QString& uscita, const QString& file, bool disegno) {
   Sessione sessione;
   DiscoDischi discoVero(dischi);
@@ -412,7 +482,7 @@ int Fotografa(const std::filesystem::path& dischi, const QString& uscita, const 
   DialoghiMuti dialoghi;
   NessunaFinestra finestre;
   ImpostazioniVuote impostazioni;
-  AppuntiVuoti appunti;
+  AppuntiPropri appunti;
   OrologioDiSistema orologio;
   Ambiente ambiente{sessione, disco, dialoghi, finestre, processi, impostazioni, appunti, orologio};
   KR_LibrettoOriginale modello(ambiente);
@@ -447,10 +517,13 @@ int main(int argc, char** argv) {
   ui::VestiApplicazione(applicazione);
   QCommandLineParser lettore;
   lettore.addHelpOption();
-  lettore.addOptions({{QStringLiteral("dischi"), QStringLiteral("Cartella delle unità."), QStringLiteral("DIR")},
-                      {QStringLiteral("uscita"), QStringLiteral("Cartella delle immagini."), QStringLiteral("DIR")},
-                      {QStringLiteral("disegno"), QStringLiteral("Il file è un disegno.")},
-                      {QStringLiteral("scala"), QStringLiteral("1 o 2."), QStringLiteral("N"), QStringLiteral("1")}});
+  lettore.addOptions(
+      {{QStringLiteral("dischi"), QStringLiteral("Cartella delle unità."), QStringLiteral("DIR")},
+       {QStringLiteral("uscita"), QStringLiteral("Cartella delle immagini."), QStringLiteral("DIR")},
+       {QStringLiteral("disegno"), QStringLiteral("Il file è un disegno.")},
+       {QStringLiteral("tipologie"), QStringLiteral("L'archivio di Pregeo, e la proposta dalle polilinee di un DXF."),
+        QStringLiteral("DXF")},
+       {QStringLiteral("scala"), QStringLiteral("1 o 2."), QStringLiteral("N"), QStringLiteral("1")}});
   lettore.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Libretto da mostrare."));
   lettore.process(applicazione);
   const QStringList file = lettore.positionalArguments();
@@ -458,6 +531,8 @@ int main(int argc, char** argv) {
     lettore.showHelp(2);
   const QString uscita = lettore.value(QStringLiteral("uscita"));
   if (!QDir().mkpath(uscita)) return 1;
+  if (const QString dxf = lettore.value(QStringLiteral("tipologie")); !dxf.isEmpty())
+    return FotografaTipologie(lettore.value(QStringLiteral("dischi")).toStdString(), uscita, file.first(), dxf);
   return Fotografa(lettore.value(QStringLiteral("dischi")).toStdString(), uscita, file.first(),
                    lettore.isSet(QStringLiteral("disegno")));
 }

@@ -18,22 +18,22 @@ namespace {
 
 using prova::Banco;
 using prova::Testo;
-using Righe = std::vector<std::string>;
+using Elenco = std::vector<std::string>;
 
 const std::string Zero = "0|01022024|7|G224|0010|12,3|ROSSI MARIO|GEOMETRA|PADOVA|";
 
 // Parcel 35 is land, 36 urban, 37 rural, 38 divided.
-const Righe Estratto = {"0|12032018|1|G224|00042|35,36|PD|PUB|A|1|",
-                        "8|1%|10.000|10.000|",
-                        "8|2%|10.000|110.000|",
-                        "8|3%|110.000|110.000|",
-                        "8|PF01/0010/G224|5|5|",
-                        "7|4|1%|2%|3%|1%|NC|35|35|5000|",
-                        "6|PARTICELLA|35|  |SEMINATIVO  |1|    | | |",
-                        "6|particella|36|  |ente urbano |1|    | | |",
-                        "6|PARTICELLA|37|  |FABB RURALE |1|    | | |",
-                        "6|PARTICELLA|38|  |FR DIV SUB  |1|    | | |",
-                        "6|DITTA|X|"};
+const Elenco Estratto = {"0|12032018|1|G224|00042|35,36|PD|PUB|A|1|",
+                         "8|1%|10.000|10.000|",
+                         "8|2%|10.000|110.000|",
+                         "8|3%|110.000|110.000|",
+                         "8|PF01/0010/G224|5|5|",
+                         "7|4|1%|2%|3%|1%|NC|35|35|5000|",
+                         "6|PARTICELLA|35|  |SEMINATIVO  |1|    | | |",
+                         "6|particella|36|  |ente urbano |1|    | | |",
+                         "6|PARTICELLA|37|  |FABB RURALE |1|    | | |",
+                         "6|PARTICELLA|38|  |FR DIV SUB  |1|    | | |",
+                         "6|DITTA|X|"};
 
 struct Sala : Banco {
   KR_LibrettoOriginale finestra{ambiente};
@@ -57,7 +57,7 @@ struct Sala : Banco {
     form.ButtonPlus1(2);
     form.ButtonPlus1(0);
   };
-  Righe mostrate;
+  Elenco mostrate;
 
 private:
   void Gioca(Modello& modello) {
@@ -75,29 +75,29 @@ private:
 // From the entry of the menu to the proposal, which takes the old one's place; undo brings that back.
 TEST(Tipologie, LaSetteDallaVoceAllaProposta) {
   Sala sala;
-  const Righe prima = sala.Righe();
+  const Elenco prima = sala.Righe();
   sala.finestra.Esegui(Comando::NuovaCostruzione);
-  EXPECT_EQ(sala.mostrate, (Righe{"S", "T"}));
+  EXPECT_EQ(sala.mostrate, (Elenco{"S", "T"}));
   EXPECT_EQ(sala.sessione.ParticelleScelte + "/" + sala.sessione.ParticellaMantenuta, "35,38/35,38");
   EXPECT_EQ(sala.sessione.TipologiaCorrente, "07");
-  Righe attese = {Zero,
-                  "9|20|10|20|0|P|07|N|",
-                  "8|A|1|2|",
-                  "6|ESTRATTO DI MAPPA|",
-                  "8|1%|10.000|10.000|",
-                  "8|2%|10.000|110.000|",
-                  "8|3%|110.000|110.000|",
-                  "7|4|1%|2%|3%|1%|NC|35|35|5000|",
-                  "6|ESTRATTO DI MAPPA AGGIORNATO|",
-                  "8|1*|20.000|20.000|",
-                  "8|2*|20.000|30.000|",
-                  "8|3*|32.000|30.000|",
-                  "8|1*|20.000|20.000|",
-                  "7|4|1*|2*|3*|1*|RC|35,38+|35,38|60|",
-                  "6|Contorno fabbricato|",
-                  "7|2|1*|2*|RC|",
-                  "7|2|2*|3*|RC|",
-                  "7|2|3*|1*|RC|"};
+  Elenco attese = {Zero,
+                   "9|20|10|20|0|P|07|N|",
+                   "8|A|1|2|",
+                   "6|ESTRATTO DI MAPPA|",
+                   "8|1%|10.000|10.000|",
+                   "8|2%|10.000|110.000|",
+                   "8|3%|110.000|110.000|",
+                   "7|4|1%|2%|3%|1%|NC|35|35|5000|",
+                   "6|ESTRATTO DI MAPPA AGGIORNATO|",
+                   "8|1*|20.000|20.000|",
+                   "8|2*|20.000|30.000|",
+                   "8|3*|32.000|30.000|",
+                   "8|1*|20.000|20.000|",
+                   "7|4|1*|2*|3*|1*|RC|35,38+|35,38|60|",
+                   "6|Contorno fabbricato|",
+                   "7|2|1*|2*|RC|",
+                   "7|2|2*|3*|RC|",
+                   "7|2|3*|1*|RC|"};
   EXPECT_EQ(sala.Righe(), attese);
   EXPECT_EQ(sala.sessione.PropostaLibretto, Testo({attese.begin() + 3, attese.end()}));
   sala.finestra.Esegui(Comando::Annulla);
@@ -108,8 +108,8 @@ TEST(Tipologie, LePolilineeStannoPrimaDellaProposta) {
   Sala sala;
   sala.sessione.EstrattoAssociato.clear(); // none is needed
   sala.finestra.Esegui(Comando::PolilineeDxf);
-  const Righe righe = sala.Righe();
-  EXPECT_EQ(sala.mostrate, Righe{"T"});
+  const Elenco righe = sala.Righe();
+  EXPECT_EQ(sala.mostrate, Elenco{"T"});
   ASSERT_EQ(righe.size(), 13U);
   EXPECT_EQ(righe[1], "9|20|10|20|0|P|FR|N|");
   EXPECT_EQ(righe[3], "8|1*|20.000|20.000|");
@@ -129,7 +129,7 @@ class Rinuncia : public testing::TestWithParam<CasoRinuncia> {};
 TEST_P(Rinuncia, LasciaIlLibrettoComEra) {
   Sala sala;
   GetParam().prepara(sala);
-  const Righe prima = sala.Righe();
+  const Elenco prima = sala.Righe();
   sala.finestra.Esegui(GetParam().comando);
   EXPECT_EQ(sala.Righe(), prima);
   EXPECT_EQ(sala.dialoghi.UltimoTesto().substr(0, GetParam().detto.size()), GetParam().detto);
@@ -188,8 +188,8 @@ INSTANTIATE_TEST_SUITE_P(Casi, Filtro,
 TEST(Mappali, LaParticellaMantenutaStaPerPrima) {
   Sala sala;
   sala.mantiene = [](MappaleDaMantenere& form) {
-    EXPECT_EQ(form.List1, (Righe{"35", "36", "37", "38"}));
-    EXPECT_EQ(form.List2, Righe{"6|PARTICELLA|36|  |ENTE URBANO |1|    | | |"});
+    EXPECT_EQ(form.List1, (Elenco{"35", "36", "37", "38"}));
+    EXPECT_EQ(form.List2, Elenco{"6|PARTICELLA|36|  |ENTE URBANO |1|    | | |"});
     form.ConfermaMappali();
     EXPECT_FALSE(form.Chiusa) << "none is selected";
     form.ClickList2(0); // takes parcel 36 away
@@ -197,7 +197,7 @@ TEST(Mappali, LaParticellaMantenutaStaPerPrima) {
     form.ConfermaMappali();
   };
   sala.finestra.Esegui(Comando::FusioneParticelle);
-  EXPECT_EQ(sala.mostrate, (Righe{"S", "M", "T"}));
+  EXPECT_EQ(sala.mostrate, (Elenco{"S", "M", "T"}));
   EXPECT_EQ(sala.sessione.ParticelleScelte + "/" + sala.sessione.ParticellaMantenuta, "37,35,38/37");
 }
 
