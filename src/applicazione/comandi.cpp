@@ -41,6 +41,7 @@ constexpr std::array ElencoPulsanti = {
 constexpr std::string_view File = "File";
 constexpr std::string_view Modifica = "Modifica Libretto";
 constexpr std::string_view Cambia = "Cambia";
+constexpr std::string_view Verifiche = "Verifiche";
 constexpr std::string_view Excel = "Da Excel";
 constexpr std::string_view Gondella = "Gondella";
 constexpr std::string_view Utilita = "Utilità"_w;
@@ -76,6 +77,13 @@ constexpr std::array ElencoVoci = {
     VoceMenu{Modifica, Cambia, "Seleziona Stazioni", Comando::SelezionaStazioni},
     VoceMenu{Modifica, Cambia, "Seleziona Squadri", Comando::SelezionaSquadri},
     VoceMenu{Modifica, Cambia, "Seleziona Contorni", Comando::SelezionaContorni},
+
+    VoceMenu{Verifiche, {}, "Elenco delle Segnalazioni", Comando::MostraVerifiche},
+    VoceMenu{Verifiche, {}, "Segnalazione Successiva", Comando::SegnalazioneSuccessiva},
+    VoceMenu{Verifiche, {}, "Segnalazione Precedente", Comando::SegnalazionePrecedente},
+    VoceMenu{Verifiche, {}, "Prendi il Rimedio", Comando::PrendiRimedio},
+    VoceMenu{Verifiche, {}, Separatore, Comando::NessunaAzione},
+    VoceMenu{Verifiche, {}, "Rilievo accanto alle Righe", Comando::MostraRilievo},
 
     VoceMenu{Excel, {}, "Righe 8 - (P, N, E)", Comando::Righe8DaExcel},
     VoceMenu{Excel, {}, "Righe 8 Nome Auto (N, E)", Comando::Righe8NomeAutoDaExcel},

@@ -57,6 +57,11 @@ enum class Comando {
   MostraRigheScartate, // of the last command
   TutteLeOpzioni,
   NessunaOpzione,
+  MostraVerifiche, // the list of findings below the rows, or away with it
+  SegnalazioneSuccessiva,
+  SegnalazionePrecedente,
+  PrendiRimedio, // of the chosen finding
+  MostraRilievo, // the picture beside the rows, or away with it
   Disegno,       // any drawing file in a window of its own
   CodiceFiscale, // the search of a comune
   Comuni,

@@ -114,6 +114,8 @@ void KR_LibrettoOriginale::Esegui(Comando comando) {
   if (comando == Comando::Ripeti) return Torna(&Storia::Ripeti);
   if (comando == Comando::ArchiviaLibretti) return EseguiStrumento("Silvarca");
   if (comando == Comando::MostraRigheScartate) return MostraScartate();
+  if (EseguiVerifiche(comando)) return;
+  if (comando == Comando::EsportaLibretto || comando == Comando::SalvaLibretto) ContaErrori();
   Comanda(DidascaliaDi(comando), [&] {
     if (EseguiDa(Selezioni, comando, ambiente_)) return Righe_Indice();
     if (const Tipologia* tipologia = TrovaTipologia(comando)) return EseguiTipologia(ambiente_, *tipologia);

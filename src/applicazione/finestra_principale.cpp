@@ -83,7 +83,8 @@ bool EstensioneLibretto(std::string_view percorso) {
 
 } // namespace
 
-KR_LibrettoOriginale::KR_LibrettoOriginale(Ambiente& ambiente) : ambiente_(ambiente) {
+KR_LibrettoOriginale::KR_LibrettoOriginale(Ambiente& ambiente)
+    : Verifiche(ambiente), Rilievo(ambiente, Verifiche.Esito()), ambiente_(ambiente) {
   for (const auto testo : TestiOpzioni) Opzioni.push_back({std::string(testo), true});
 }
 
@@ -139,6 +140,7 @@ void KR_LibrettoOriginale::CaricaElenco() {
   Prova([&] { LeggiDitta(); });
   sessione.PuntoErrore = "Decozero_141";
   MostraSessione();
+  LeggiPostiVerifiche();
   storia_.Ricomincia(sessione);
 }
 

@@ -7,6 +7,8 @@
 #include <core/ambiente.h>
 #include <core/posizione_form.h>
 #include <core/storia.h>
+#include <verifiche/figura_rilievo.h>
+#include <verifiche/pannello_verifiche.h>
 
 #include <cstdint>
 #include <functional>
@@ -40,7 +42,14 @@ public:
   std::string AvvisoScartate; // in the status line: rows that the last command dropped
   Carattere CarattereElenco;
   bool PannelloStrumenti = false; // the tools panel is visible
-  bool Finita = false;            // the session has ended: the window closes
+  PannelloVerifiche Verifiche;
+  FiguraRilievo Rilievo;
+  std::string AvvisoErrori;     // in the status line: errors that the rows still have when they leave the program
+  bool ElencoVerifiche = false; // the list of findings stands below the rows
+  bool RilievoVisibile = false; // the picture stands beside them
+  int AltezzaVerifiche = 180;   // pixels
+  int LarghezzaRilievo = 420;   // pixels
+  bool Finita = false;          // the session has ended: the window closes
 
   [[nodiscard]] Sessione& DatiSessione() { return ambiente_.sessione; }
 
@@ -76,6 +85,18 @@ public:
   void TastoCancella();
   void Trascina(const std::string& percorso);
 
+  // Brings findings and picture up to the rows. Whether the findings are others than before.
+  bool AggiornaVerifiche();
+  // A finding of the list was chosen: its row becomes the current one and the only one selected.
+  void ScegliSegnalazione(std::size_t indice);
+  // A place of the picture was clicked: the row of the point there, within so many metres, becomes the current one.
+  void CliccaRilievo(const PuntoPiano& posto, double entro);
+  // The findings that are shown, into the clipboard, or as a report.
+  void CopiaSegnalazioni();
+  void StampaSegnalazioni();
+  // The user has drawn the border of the list or of the picture.
+  void DimensionaVerifiche(int altezzaVerifiche, int larghezzaRilievo);
+
   // Editing the boxes writes into the session.
   void CambiaIscrizione(std::string_view testo);
   void CambiaCodiceFiscale(std::string_view testo);
@@ -92,6 +113,11 @@ private:
   void LeggiDitta();
   void SelezionaCarattere();
   [[nodiscard]] bool EseguiConForm(Comando comando);
+  [[nodiscard]] bool EseguiVerifiche(Comando comando);
+  void PrendiRimedio();
+  void LeggiPostiVerifiche();
+  void ContaErrori();
+  void VaiARiga(std::size_t riga);
   void EseguiAltri(Comando comando);
   void NuovoLibretto(std::string_view marcatore);
   [[nodiscard]] bool DaSalvare() const;

@@ -17,6 +17,7 @@ inline constexpr std::int16_t LibrettoDaDisegno = 10;
 inline constexpr std::int16_t KR_Dapregeo = 11;
 inline constexpr std::int16_t AnteprimaGrafica = 14;
 inline constexpr std::int16_t Tipol10 = 15;
+inline constexpr std::int16_t RilievoAccanto = 16; // the picture beside the rows of the main window
 } // namespace host
 
 // One hook stands at a time. The surface puts it up when the pointer enters and takes it down when it leaves.
