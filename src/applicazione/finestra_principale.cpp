@@ -188,6 +188,7 @@ void KR_LibrettoOriginale::Righe_Indice() {
       TestoIntero(sessione.List1.Indice() + 1) + "/" + TestoIntero(static_cast<long long>(sessione.List1.Quante()));
   PannelloStrumenti = false;
   EtichettaFile = sessione.NomeFileLibretto;
+  SeguiRiga();
 }
 
 void KR_LibrettoOriginale::PuntatoreSuPulsante(int indice) {

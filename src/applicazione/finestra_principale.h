@@ -118,6 +118,7 @@ private:
   void LeggiPostiVerifiche();
   void ContaErrori();
   void VaiARiga(std::size_t riga);
+  void SeguiRiga();
   void EseguiAltri(Comando comando);
   void NuovoLibretto(std::string_view marcatore);
   [[nodiscard]] bool DaSalvare() const;
@@ -140,6 +141,7 @@ private:
   Ambiente& ambiente_;
   Storia storia_;
   std::optional<std::uint64_t> salvato_; // what stands on the disk, as its number; none when that is not known
+  long rigaAccesa_ = -1; // of the picture
 };
 
 } // namespace lirmeto

@@ -46,9 +46,19 @@ bool KR_LibrettoOriginale::AggiornaVerifiche() {
   Prova([&] {
     altre = Verifiche.Aggiorna();
     if (altre) AvvisoErrori.clear();
-    if (RilievoVisibile) Rilievo.Aggiorna();
+    if (!RilievoVisibile) return;
+    Rilievo.Aggiorna();
+    if (altre && rigaAccesa_ >= 0) Rilievo.ScegliRiga(static_cast<std::size_t>(rigaAccesa_), false);
   });
   return altre;
+}
+
+// The picture follows the current row.
+void KR_LibrettoOriginale::SeguiRiga() {
+  const long riga = ambiente_.sessione.List1.Indice();
+  if (!RilievoVisibile || riga == rigaAccesa_) return;
+  rigaAccesa_ = riga;
+  if (riga >= 0) Rilievo.ScegliRiga(static_cast<std::size_t>(riga), true);
 }
 
 bool KR_LibrettoOriginale::EseguiVerifiche(Comando comando) {
@@ -85,8 +95,9 @@ void KR_LibrettoOriginale::ScegliSegnalazione(std::size_t indice) {
 void KR_LibrettoOriginale::CliccaRilievo(const PuntoPiano& posto, double entro) {
   const auto riga = Rilievo.RigaVicina(posto, entro);
   if (!riga) return;
-  VaiARiga(*riga);
+  rigaAccesa_ = static_cast<long>(*riga); // the view stays: the point stands under the pointer
   Rilievo.ScegliRiga(*riga, false);
+  VaiARiga(*riga);
 }
 
 // The row as the finding saw it is the one that is mended.

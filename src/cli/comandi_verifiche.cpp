@@ -129,7 +129,7 @@ std::string ComandoVerifiche(Ambiente& /*ambiente*/, const std::vector<std::stri
   std::string uscita;
   for (const Regola& regola : Regole)
     uscita += std::string(regola.codice) + "\t" + std::string(NomeSeverita(regola.severita)) + "\t" +
-              AUtf8(regola.frase) + "\t" + AUtf8(regola.motivo) + "\n";
+              AUtf8(Sostituisci(regola.frase, "{#", "{")) + "\t" + AUtf8(regola.motivo) + "\n";
   return uscita;
 }
 

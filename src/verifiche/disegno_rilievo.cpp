@@ -58,7 +58,7 @@ void DisegnaPoligonali(const Atto& atto, ArchivioGrafica& archivio) {
   Punto prima = SenzaPunto;
   for (std::size_t i = 0; i < atto.righe.InizioProposta(); ++i) {
     const RigaLetta& letta = atto.righe[i];
-    if (letta.forma != Forma::Poligonale) continue;
+    if (letta.forma != FormaRiga::Poligonale) continue;
     if (letta.conteggio != 0) prima = SenzaPunto;
     for (const Punto punto : letta.punti) {
       if (prima != SenzaPunto && atto.rete.Nota(prima) && atto.rete.Nota(punto))

@@ -10,8 +10,8 @@ namespace lirmeto {
 
 namespace {
 
-std::string RigaDi(const Segnalazione& s) {
-  return s.riga ? TestoIntero(static_cast<long long>(*s.riga)) : std::string{};
+std::string Frase(const Segnalazione& s) {
+  return Testo(s, PannelloVerifiche::PrimaRiga);
 }
 
 std::string Quanti(std::size_t quanti, std::string_view uno, std::string_view molti) {
@@ -25,13 +25,17 @@ bool Minore(const Segnalazione& a, const Segnalazione& b, OrdineVerifiche ordine
   case OrdineVerifiche::Codice:
     return a.regola->codice < b.regola->codice;
   case OrdineVerifiche::Testo:
-    return Testo(a) < Testo(b);
+    return Frase(a) < Frase(b);
   default:
     return false; // the findings are in the order of the rows
   }
 }
 
 } // namespace
+
+std::string PannelloVerifiche::NumeroRiga(const Segnalazione& s) {
+  return s.riga ? TestoIntero(static_cast<long long>(*s.riga + PrimaRiga)) : std::string{};
+}
 
 bool PannelloVerifiche::Aggiorna() {
   verificatore_.Aggiorna();
@@ -60,7 +64,7 @@ void PannelloVerifiche::Ordina(OrdineVerifiche ordine) {
 bool PannelloVerifiche::Passa(const Segnalazione& s) const {
   if (!Mostrata(s.regola->severita)) return false;
   return cercato_.empty() ||
-         Contiene(Maiuscolo(std::string(s.regola->codice) + " " + RigaDi(s) + " " + Testo(s)), cercato_);
+         Contiene(Maiuscolo(std::string(s.regola->codice) + " " + NumeroRiga(s) + " " + Frase(s)), cercato_);
 }
 
 // What was chosen is no longer: the list is another one.
@@ -111,7 +115,7 @@ std::string PannelloVerifiche::SpiegazioneDi(std::size_t riga) const {
   std::string spiegazione;
   for (const Segnalazione& s : verificatore_.Di(riga)) {
     if (!spiegazione.empty()) spiegazione += "\n";
-    spiegazione += std::string(s.regola->codice) + " " + Testo(s);
+    spiegazione += std::string(s.regola->codice) + " " + Frase(s);
   }
   return spiegazione;
 }
@@ -133,8 +137,8 @@ std::vector<std::string> PannelloVerifiche::Righe() const {
   std::vector<std::string> righe;
   for (std::size_t i = 0; i < voci_.size(); ++i) {
     const Segnalazione& s = Voce(i);
-    righe.push_back(std::string(NomeSeverita(s.regola->severita)) + "\t" + RigaDi(s) + "\t" +
-                    std::string(s.regola->codice) + "\t" + Testo(s));
+    righe.push_back(std::string(NomeSeverita(s.regola->severita)) + "\t" + NumeroRiga(s) + "\t" +
+                    std::string(s.regola->codice) + "\t" + Frase(s));
   }
   return righe;
 }

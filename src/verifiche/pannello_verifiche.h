@@ -18,6 +18,11 @@ class PannelloVerifiche {
 public:
   explicit PannelloVerifiche(Ambiente& ambiente) : verificatore_(ambiente) {}
 
+  // The windows count the rows from here.
+  static constexpr std::size_t PrimaRiga = 1;
+  // Of a finding as the list shows it; empty for the whole act.
+  [[nodiscard]] static std::string NumeroRiga(const Segnalazione& s);
+
   // Brings the findings up to the rows as they are now. Whether they are others than before.
   bool Aggiorna();
   // Tables, archives and extract are read again with the next one.

@@ -12,7 +12,7 @@ namespace lirmeto {
 namespace {
 
 bool DiMisura(const RigaLetta& letta) {
-  return letta.sezione == Sezione::Misure;
+  return letta.sezione == SezioneAtto::Misure;
 }
 
 // The middle one of several, coordinate by coordinate; the mean of two. A single wrong one of three does not move it.
@@ -50,12 +50,12 @@ void Rete::Raccogli(const RigheLette& righe) {
     const RigaLetta& letta = righe[i];
     if (!DiMisura(letta)) continue;
     const auto& n = letta.numeri;
-    if (letta.forma == Forma::Stazione) {
+    if (letta.forma == FormaRiga::Stazione) {
       stazioni_.push_back({i, letta.nome, false, stime_.size(), stime_.size(), false, {}, 0, 0});
-    } else if (letta.forma == Forma::Battuta && !stazioni_.empty()) {
+    } else if (letta.forma == FormaRiga::Battuta && !stazioni_.empty()) {
       stime_.push_back({i, letta.nome, {n[0], n[1]}, {}, n[3], letta.haDistanza, false});
       stazioni_.back().dopo = stime_.size();
-    } else if (letta.forma == Forma::Coordinate) {
+    } else if (letta.forma == FormaRiga::Coordinate) {
       coordinate_.push_back({i, letta.nome, {n[1], n[0]}, {}, 0, true, false});
     }
   }
@@ -67,19 +67,19 @@ void Rete::RaccogliGps(const RigheLette& righe) {
   Geocentrica base;
   for (std::size_t i = 0; i < righe.Quante(); ++i) {
     const RigaLetta& letta = righe[i];
-    if (!DiMisura(letta) || (letta.forma != Forma::BaseGps && letta.forma != Forma::VettoreGps)) continue;
+    if (!DiMisura(letta) || (letta.forma != FormaRiga::BaseGps && letta.forma != FormaRiga::VettoreGps)) continue;
     const Geocentrica valori{letta.numeri[0], letta.numeri[1], letta.numeri[2]};
-    if (letta.forma == Forma::BaseGps) {
+    if (letta.forma == FormaRiga::BaseGps) {
       base = valori;
       if (!piano) {
         piano.emplace(base);
         stazioni_.push_back({i, letta.nome, true, stime_.size(), stime_.size(), false, {}, 0, 0});
       }
     }
-    if (!piano || (letta.forma == Forma::VettoreGps && !letta.haDistanza)) continue;
-    const PuntoPiano locale = piano->Su(letta.forma == Forma::BaseGps ? base : base + valori);
-    if (letta.forma == Forma::BaseGps && stazioni_.back().punto == letta.nome) continue;
-    const double distanza = letta.forma == Forma::VettoreGps ? valori.Lunghezza() : 0;
+    if (!piano || (letta.forma == FormaRiga::VettoreGps && !letta.haDistanza)) continue;
+    const PuntoPiano locale = piano->Su(letta.forma == FormaRiga::BaseGps ? base : base + valori);
+    if (letta.forma == FormaRiga::BaseGps && stazioni_.back().punto == letta.nome) continue;
+    const double distanza = letta.forma == FormaRiga::VettoreGps ? valori.Lunghezza() : 0;
     stime_.push_back({i, letta.nome, locale, {}, distanza, true, false});
     stazioni_.back().dopo = stime_.size();
   }
@@ -216,8 +216,8 @@ void Rete::Squadri(const RigheLette& righe) {
   for (std::size_t i = 0; i < righe.Quante(); ++i) {
     const RigaLetta& letta = righe[i];
     if (!DiMisura(letta)) continue;
-    if (letta.genere == 4) base = letta.forma == Forma::Squadro ? &letta : nullptr;
-    if (letta.forma != Forma::Offset || base == nullptr) continue;
+    if (letta.genere == 4) base = letta.forma == FormaRiga::Squadro ? &letta : nullptr;
+    if (letta.forma != FormaRiga::Offset || base == nullptr) continue;
     if (!Nota(base->punti[0]) || !Nota(base->punti[1])) continue;
     const PuntoPiano& a = Dove(base->punti[0]);
     const PuntoPiano& b = Dove(base->punti[1]);

@@ -48,13 +48,13 @@ bool NotaVuota(std::string_view nota) {
 void LeggiStazione(const Campi& campi, RigaLetta& letta) {
   const std::string_view campo = CampoSe(campi, 2);
   if (CampoGnss(campo)) {
-    letta.forma = Forma::BaseGps;
+    letta.forma = FormaRiga::BaseGps;
     const Terna terna = LeggiTerna(campo);
     std::copy_n(terna.valori.begin(), 3, letta.numeri.begin());
     letta.numeri[3] = Misura(CampoSe(campi, 3));
     return;
   }
-  letta.forma = Forma::Stazione;
+  letta.forma = FormaRiga::Stazione;
   letta.haZenit = QuantiCampi(campi) > 3 && !Taglia(campo).empty();
   if (letta.haZenit) letta.numeri[0] = NumeroDi(campo);
 }
@@ -71,7 +71,7 @@ void LeggiBattuta(const Campi& campi, RigaLetta& letta) {
   const std::size_t quanti = QuantiCampi(campi);
   const std::string_view campo = CampoSe(campi, 2);
   if (CampoGnss(campo)) {
-    letta.forma = Forma::VettoreGps;
+    letta.forma = FormaRiga::VettoreGps;
     const Terna terna = LeggiTerna(campo);
     std::copy_n(terna.valori.begin(), 3, letta.numeri.begin());
     letta.haDistanza = terna.quanti == 3;
@@ -79,7 +79,7 @@ void LeggiBattuta(const Campi& campi, RigaLetta& letta) {
     return;
   }
   constexpr std::size_t conAltezza = 6;
-  letta.forma = Forma::Battuta;
+  letta.forma = FormaRiga::Battuta;
   letta.haZenit = quanti >= conAltezza;
   letta.senzaNota = NotaVuota(CampoSe(campi, quanti == conAltezza + 1 ? conAltezza : 4));
   const double zenit = letta.haZenit ? NumeroDi(CampoSe(campi, 3)) : 0;
@@ -87,28 +87,28 @@ void LeggiBattuta(const Campi& campi, RigaLetta& letta) {
 }
 
 void LeggiPoligonale(const Campi& campi, NomiPunti& nomi, RigaLetta& letta) {
-  letta.forma = Forma::Poligonale;
+  letta.forma = FormaRiga::Poligonale;
   letta.conteggio = static_cast<std::int32_t>(std::clamp(Valore(CampoSe(campi, 1)), 0.0, 1e6));
   for (std::size_t i = 2; i < QuantiCampi(campi); ++i) letta.punti.push_back(nomi.Numero(Taglia(campi[i])));
 }
 
 // The forms told apart by their number of fields: 5 is a base, 6 a levelling from the middle, fewer one from an end.
 void LeggiAllineamento(const Campi& campi, NomiPunti& nomi, RigaLetta& letta) {
-  letta.forma = Forma::Livellazione;
+  letta.forma = FormaRiga::Livellazione;
   if (QuantiCampi(campi) != 5) return;
-  letta.forma = NumeroDi(campi[3]) == 0 ? Forma::Squadro : Forma::BaseAltra;
+  letta.forma = NumeroDi(campi[3]) == 0 ? FormaRiga::Squadro : FormaRiga::BaseAltra;
   letta.punti = {letta.nome, nomi.Numero(Taglia(campi[2]))};
 }
 
 void LeggiSquadro(const Campi& campi, RigaLetta& letta) {
   constexpr std::size_t conOrdinata = 5;
-  letta.forma = QuantiCampi(campi) >= conOrdinata ? Forma::Offset : Forma::Dislivello;
+  letta.forma = QuantiCampi(campi) >= conOrdinata ? FormaRiga::Offset : FormaRiga::Dislivello;
   letta.numeri[0] = NumeroDi(CampoSe(campi, 2));
-  if (letta.forma == Forma::Offset) letta.numeri[1] = NumeroDi(campi[3]);
+  if (letta.forma == FormaRiga::Offset) letta.numeri[1] = NumeroDi(campi[3]);
 }
 
 void LeggiContorno(const Campi& campi, NomiPunti& nomi, RigaLetta& letta) {
-  letta.forma = Forma::Contorno;
+  letta.forma = FormaRiga::Contorno;
   letta.conteggio = static_cast<std::int32_t>(std::clamp(Valore(CampoSe(campi, 1)), 0.0, 1e6));
   const std::size_t fine = FineVertici(campi);
   for (std::size_t i = 2; i < fine; ++i) letta.punti.push_back(nomi.Numero(Taglia(campi[i])));
@@ -124,7 +124,7 @@ void LeggiCoordinate(const Campi& campi, bool fiduciale, RigaLetta& letta) {
   const std::size_t quanti = QuantiCampi(campi);
   const std::string_view terzo = Taglia(CampoSe(campi, 3));
   const bool quota = fiduciale ? quanti == 5 : quanti == 5 && terzo.size() == 2 && Cifre(terzo);
-  letta.forma = quota || quanti < 4 ? Forma::Quota : Forma::Coordinate;
+  letta.forma = quota || quanti < 4 ? FormaRiga::Quota : FormaRiga::Coordinate;
   letta.numeri = {NumeroDi(CampoSe(campi, 2)), quota ? 0 : NumeroDi(terzo), 0, 0};
 }
 
@@ -138,11 +138,11 @@ void LeggiRiga6(std::string_view riga, RigaLetta& letta) {
                                                      "6|S|",     "6|C|",     "6|V|"};
   const auto comincia = [&](std::string_view inizio) { return riga.starts_with(inizio); };
   if (Riga6Gps(riga)) {
-    letta.forma = Forma::Sessione;
+    letta.forma = FormaRiga::Sessione;
   } else if (Contiene(riga, "6|DettaglioTipoAgg=")) {
-    letta.forma = Forma::Altra;
+    letta.forma = FormaRiga::Altra;
   } else if (riga.size() == LunghezzaCensuario || std::any_of(inizi.begin(), inizi.end(), comincia)) {
-    letta.forma = Forma::Censuario;
+    letta.forma = FormaRiga::Censuario;
   }
 }
 

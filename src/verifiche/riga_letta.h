@@ -38,7 +38,7 @@ private:
   std::vector<bool> fiduciali_;
 };
 
-enum class Forma : std::uint8_t {
+enum class FormaRiga : std::uint8_t {
   Altra,
   Stazione,     // row 1; numeri: height
   BaseGps,      // row 1; numeri: X, Y, Z geocentric, height of the antenna
@@ -60,14 +60,14 @@ enum class Forma : std::uint8_t {
 enum class Segno : std::uint8_t { Nessuno, InizioRelazione, FineRelazione, Proposta };
 
 // Where in the act a row stands, which decides what it may hold.
-enum class Sezione : std::uint8_t { Misure, Relazione, Proposta };
+enum class SezioneAtto : std::uint8_t { Misure, Relazione, Proposta };
 
 // Metres and grads throughout.
 struct RigaLetta {
   std::int8_t genere = -1; // 0 to 9; -1: none of them
-  Forma forma = Forma::Altra;
+  FormaRiga forma = FormaRiga::Altra;
   Segno segno = Segno::Nessuno;
-  Sezione sezione = Sezione::Misure;
+  SezioneAtto sezione = SezioneAtto::Misure;
   bool haDistanza = false; // of a sighting
   bool haZenit = false;    // of a sighting; of a station: it has a height
   bool senzaNota = false;  // of a sighting

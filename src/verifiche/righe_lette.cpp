@@ -49,12 +49,12 @@ bool RigheLette::Aggiorna(const ListaRighe& righe) {
   righe_ = righe;
   Adatta(lette_, cambiate, righe_.size());
   Adatta(dette_, cambiate, righe_.size());
-  for (std::size_t i = cambiate.inizio; i < righe_.size() - cambiate.coda; ++i) Leggi(i, Sezione::Misure);
+  for (std::size_t i = cambiate.inizio; i < righe_.size() - cambiate.coda; ++i) Leggi(i, SezioneAtto::Misure);
   PonSezioni();
   return true;
 }
 
-void RigheLette::Leggi(std::size_t indice, Sezione sezione) {
+void RigheLette::Leggi(std::size_t indice, SezioneAtto sezione) {
   campi_.Dividi(righe_[indice]);
   RigaLetta& letta = lette_[indice];
   letta = LeggiRiga(righe_[indice], campi_, nomi_);
@@ -66,16 +66,16 @@ void RigheLette::Leggi(std::size_t indice, Sezione sezione) {
 
 // A mark may put the rows behind it into another section than they were in.
 void RigheLette::PonSezioni() {
-  Sezione sezione = Sezione::Misure;
+  SezioneAtto sezione = SezioneAtto::Misure;
   proposta_ = lette_.size();
   for (std::size_t i = 0; i < lette_.size(); ++i) {
-    if (lette_[i].segno == Segno::InizioRelazione && sezione == Sezione::Misure) sezione = Sezione::Relazione;
+    if (lette_[i].segno == Segno::InizioRelazione && sezione == SezioneAtto::Misure) sezione = SezioneAtto::Relazione;
     if (lette_[i].segno == Segno::Proposta) {
-      sezione = Sezione::Proposta;
+      sezione = SezioneAtto::Proposta;
       proposta_ = std::min(proposta_, i);
     }
     if (lette_[i].sezione != sezione) Leggi(i, sezione);
-    if (lette_[i].segno == Segno::FineRelazione && sezione == Sezione::Relazione) sezione = Sezione::Misure;
+    if (lette_[i].segno == Segno::FineRelazione && sezione == SezioneAtto::Relazione) sezione = SezioneAtto::Misure;
   }
 }
 

@@ -26,7 +26,7 @@ public:
   void Riporta(Raccolta& raccolta) const;
 
 private:
-  void Leggi(std::size_t indice, Sezione sezione);
+  void Leggi(std::size_t indice, SezioneAtto sezione);
   void PonSezioni();
 
   ListaRighe righe_;

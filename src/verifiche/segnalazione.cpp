@@ -1,7 +1,9 @@
 #include <verifiche/segnalazione.h>
 
+#include <base/numeri.h>
 #include <base/testo.h>
 
+#include <algorithm>
 #include <array>
 
 namespace lirmeto {
@@ -26,16 +28,18 @@ std::string_view NomeSeverita(Severita severita) {
   return nomi.at(static_cast<std::size_t>(severita));
 }
 
-std::string Testo(const Segnalazione& segnalazione) {
+std::string Testo(const Segnalazione& segnalazione, std::size_t primaRiga) {
   std::string testo;
   const std::string_view frase = segnalazione.regola->frase;
-  for (std::size_t i = 0; i < frase.size(); ++i) {
-    if (frase[i] != '{' || i + 2 >= frase.size() || frase[i + 2] != '}') {
-      testo += frase[i];
-      continue;
-    }
-    testo += Parte(segnalazione.valori, '\t', static_cast<std::size_t>(frase[i + 1] - '1'));
-    i += 2;
+  for (std::size_t da = 0; da < frase.size();) {
+    const std::size_t aperta = std::min(frase.find('{', da), frase.size());
+    testo += frase.substr(da, aperta - da);
+    const std::size_t chiusa = frase.find('}', aperta);
+    if (chiusa == std::string_view::npos) break;
+    const bool riga = frase[aperta + 1] == '#';
+    const std::string_view valore = Parte(segnalazione.valori, '\t', static_cast<std::size_t>(frase[chiusa - 1] - '1'));
+    testo += riga ? Formatta(Valore(valore) + static_cast<double>(primaRiga), "0") : std::string(valore);
+    da = chiusa + 1;
   }
   return testo;
 }

@@ -21,7 +21,7 @@ enum class Severita : std::uint8_t { Errore, Avviso, Nota };
 struct Regola {
   std::string_view codice; // "L012": stable, so that a finding can be looked up and talked about
   Severita severita = Severita::Errore;
-  std::string_view frase; // with {1}, {2}, ... where the values of a finding go
+  std::string_view frase; // with {1}, {2}, ... where the values of a finding go; {#1}: a row
   std::string_view motivo;
 };
 
@@ -34,8 +34,8 @@ struct Segnalazione {
   bool operator==(const Segnalazione&) const = default;
 };
 
-// The sentence of a finding with its values.
-[[nodiscard]] std::string Testo(const Segnalazione& segnalazione);
+// The sentence of a finding with its values. Rows are counted from `primaRiga`: the windows call the first row 1.
+[[nodiscard]] std::string Testo(const Segnalazione& segnalazione, std::size_t primaRiga = 0);
 
 // The findings as they are made.
 class Raccolta {

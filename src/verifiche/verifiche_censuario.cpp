@@ -49,7 +49,7 @@ public:
 
   void Verifica() {
     for (std::size_t i = 0; i < atto_.righe.Quante(); ++i)
-      if (atto_.righe[i].forma == Forma::Censuario && atto_.righe[i].sezione == Sezione::Misure) Riga(i);
+      if (atto_.righe[i].forma == FormaRiga::Censuario && atto_.righe[i].sezione == SezioneAtto::Misure) Riga(i);
     for (const SezioneCensuaria& sezione : sezioni_) VerificaSezione(sezione);
   }
 

@@ -1,7 +1,6 @@
 #include <verifiche/atto.h>
 #include <verifiche/contorni_letti.h>
 #include <verifiche/incroci.h>
-#include <verifiche/verifiche_righe.h>
 
 #include <base/numeri.h>
 #include <base/testo.h>
@@ -19,10 +18,10 @@ constexpr std::size_t MassimoNomi = 10; // of a row 7
 void VerificaRigheContorno(const Atto& atto, Raccolta& raccolta) {
   for (std::size_t i = 0; i < atto.righe.InizioProposta(); ++i) {
     const RigaLetta& letta = atto.righe[i];
-    if (letta.forma != Forma::Contorno) continue;
+    if (letta.forma != FormaRiga::Contorno) continue;
     if (letta.punti.size() > MassimoNomi)
       raccolta.Riga(RegolaDi("C005"), i, 0, {TestoIntero(static_cast<long long>(letta.punti.size()))});
-    if (letta.conteggio == 0 && (i == 0 || atto.righe[i - 1].forma != Forma::Contorno))
+    if (letta.conteggio == 0 && (i == 0 || atto.righe[i - 1].forma != FormaRiga::Contorno))
       raccolta.Riga(RegolaDi("C008"), i, 1);
     if (CodiceDiLinea(letta.Codice())) continue;
     const Campi campi(atto.righe.Testo(i));

@@ -1,7 +1,6 @@
 #include <verifiche/atto.h>
 #include <verifiche/contorni_letti.h>
 #include <verifiche/incroci.h>
-#include <verifiche/verifiche_righe.h>
 
 #include <base/numeri.h>
 #include <base/testo.h>

@@ -70,11 +70,11 @@ public:
 
   void Riga(std::size_t riga) {
     switch (atto_.righe[riga].forma) {
-    case Forma::BaseGps:
+    case FormaRiga::BaseGps:
       return Base(riga);
-    case Forma::VettoreGps:
+    case FormaRiga::VettoreGps:
       return Vettore(riga);
-    case Forma::Sessione:
+    case FormaRiga::Sessione:
       return Sessione6(riga);
     default:
       return;
@@ -142,7 +142,7 @@ private:
 void VerificaGnss(const Atto& atto, Raccolta& raccolta) {
   Giro giro(atto, raccolta);
   for (std::size_t i = 0; i < atto.righe.Quante(); ++i)
-    if (atto.righe[i].sezione == Sezione::Misure) giro.Riga(i);
+    if (atto.righe[i].sezione == SezioneAtto::Misure) giro.Riga(i);
 }
 
 } // namespace lirmeto

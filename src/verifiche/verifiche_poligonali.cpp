@@ -27,7 +27,7 @@ std::vector<Poligonale> Raccogli(const RigheLette& righe) {
   std::vector<Poligonale> poligonali;
   for (std::size_t i = 0; i < righe.Quante(); ++i) {
     const RigaLetta& letta = righe[i];
-    if (letta.forma != Forma::Poligonale || letta.sezione != Sezione::Misure) continue;
+    if (letta.forma != FormaRiga::Poligonale || letta.sezione != SezioneAtto::Misure) continue;
     if (letta.conteggio != 0 || poligonali.empty()) poligonali.emplace_back();
     for (std::size_t k = 0; k < letta.punti.size(); ++k)
       poligonali.back().push_back({letta.punti[k], i, PrimoVertice + k});
@@ -133,7 +133,7 @@ std::vector<bool> Definiti(const RigheLette& righe) {
   for (std::size_t i = 0; i < righe.Quante(); ++i) {
     const RigaLetta& letta = righe[i];
     const bool da = letta.genere == 1 || letta.genere == 2 || letta.genere == 5 || letta.genere == 8;
-    if (da && letta.sezione == Sezione::Misure) definiti[letta.nome] = true;
+    if (da && letta.sezione == SezioneAtto::Misure) definiti[letta.nome] = true;
   }
   return definiti;
 }
@@ -154,7 +154,7 @@ void VerificaSquadri(const Atto& atto, Raccolta& raccolta) {
   const auto definiti = Definiti(atto.righe);
   for (std::size_t i = 0; i < atto.righe.Quante(); ++i) {
     const RigaLetta& letta = atto.righe[i];
-    if (letta.genere != 4 || letta.sezione != Sezione::Misure) continue;
+    if (letta.genere != 4 || letta.sezione != SezioneAtto::Misure) continue;
     const auto punti = letta.punti.empty() ? std::vector<Punto>{letta.nome} : letta.punti;
     for (std::size_t k = 0; k < punti.size(); ++k)
       if (!definiti[punti[k]]) raccolta.Riga(RegolaDi("R017"), i, 1 + k, {atto.righe.Nomi().Nome(punti[k])});

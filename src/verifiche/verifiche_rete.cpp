@@ -187,10 +187,10 @@ void VerificaOrfane(const Atto& atto, Raccolta& raccolta) {
   bool base = false;
   for (std::size_t i = 0; i < atto.righe.Quante(); ++i) {
     const RigaLetta& letta = atto.righe[i];
-    if (letta.sezione != Sezione::Misure) continue;
-    stazione = stazione || letta.forma == Forma::Stazione;
+    if (letta.sezione != SezioneAtto::Misure) continue;
+    stazione = stazione || letta.forma == FormaRiga::Stazione;
     base = base || letta.genere == 4;
-    if (letta.forma == Forma::Battuta && !stazione) raccolta.Riga(RegolaDi("R015"), i, 0);
+    if (letta.forma == FormaRiga::Battuta && !stazione) raccolta.Riga(RegolaDi("R015"), i, 0);
     if (letta.genere == 5 && !base) raccolta.Riga(RegolaDi("R016"), i, 0);
   }
 }

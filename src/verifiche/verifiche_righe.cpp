@@ -100,7 +100,7 @@ void CampiSbagliati(const RigaDaVerificare& r, std::string_view attesi, Raccolta
 void VerificaStazione(const RigaDaVerificare& r, Raccolta& raccolta) {
   const std::size_t quanti = QuantiCampi(r.campi);
   VerificaNome(r, 1, raccolta);
-  if (r.letta.forma == Forma::BaseGps) {
+  if (r.letta.forma == FormaRiga::BaseGps) {
     if (quanti < 4 || quanti > 5) return CampiSbagliati(r, "5", raccolta);
     VerificaAltezza(r, 3, raccolta);
     return VerificaNota(r, 4, raccolta);
@@ -139,7 +139,7 @@ void VerificaBattutaConZenit(const RigaDaVerificare& r, Raccolta& raccolta) {
 
 void VerificaBattuta(const RigaDaVerificare& r, Raccolta& raccolta) {
   VerificaNome(r, 1, raccolta);
-  if (r.letta.forma == Forma::VettoreGps) return VerificaVettore(r, raccolta);
+  if (r.letta.forma == FormaRiga::VettoreGps) return VerificaVettore(r, raccolta);
   const std::size_t quanti = QuantiCampi(r.campi);
   if (quanti < 4 || quanti > CampiBattuta) return CampiSbagliati(r, "5 o 7", raccolta);
   if (quanti <= CampiBattutaPiana) return VerificaBattutaPiana(r, raccolta);
@@ -182,11 +182,11 @@ void VerificaContorno(const RigaDaVerificare& r, Raccolta& raccolta) {
 
 void VerificaCoordinate(const RigaDaVerificare& r, Raccolta& raccolta) {
   const std::size_t quanti = QuantiCampi(r.campi);
-  const bool proposta = r.letta.sezione == Sezione::Proposta;
+  const bool proposta = r.letta.sezione == SezioneAtto::Proposta;
   if (quanti < 4 || (quanti > 6 && !proposta)) return CampiSbagliati(r, "da 4 a 6", raccolta);
   if (!proposta) VerificaNome(r, 1, raccolta);
   Numero(r, 2, raccolta);
-  if (r.letta.forma == Forma::Coordinate) Numero(r, 3, raccolta);
+  if (r.letta.forma == FormaRiga::Coordinate) Numero(r, 3, raccolta);
 }
 
 void VerificaPerGenere(const RigaDaVerificare& r, Raccolta& raccolta) {
@@ -256,7 +256,7 @@ std::string InLettereSemplici(std::string_view riga) {
 void VerificaCaratteri(const RigaDaVerificare& r, Raccolta& raccolta) {
   if (std::any_of(r.riga.begin(), r.riga.end(), Controllo)) Di(raccolta, RegolaDi("L016"), 0);
   if (std::all_of(r.riga.begin(), r.riga.end(), Semplice)) return;
-  const Regola& regola = r.letta.sezione == Sezione::Relazione ? RegolaDi("L014") : RegolaDi("L015");
+  const Regola& regola = r.letta.sezione == SezioneAtto::Relazione ? RegolaDi("L014") : RegolaDi("L015");
   Di(raccolta, regola, 0, {}, InLettereSemplici(r.riga));
 }
 

@@ -1,5 +1,4 @@
 #include <verifiche/atto.h>
-#include <verifiche/verifiche_righe.h>
 
 #include <base/numeri.h>
 #include <base/testo.h>
@@ -122,8 +121,11 @@ void VerificaEst(const Atto& atto, Raccolta& raccolta) {
   const std::string_view scritto = Valore9(atto, CampoEstMedio);
   if (std::fabs(Misura(scritto) - medio) <= DifferenzaEst) return;
   const std::string giusto = Formatta(medio, "0");
+  const std::string_view riga = atto.righe.Testo(RigaNove);
+  std::string rimedio; // a row that is too short has no place for it
+  if (QuanteParti(riga, '|') > CampoEstMedio) rimedio = ConCampo(riga, CampoEstMedio, giusto);
   raccolta.Riga(RegolaDi("T012"), RigaNove, CampoEstMedio, {scritto.empty() ? "0" : scritto, giusto},
-                ConCampo(atto.righe.Testo(RigaNove), CampoEstMedio, giusto));
+                std::move(rimedio));
 }
 
 bool TipologiaNota(std::string_view tipologia) {

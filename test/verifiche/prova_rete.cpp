@@ -30,8 +30,8 @@ void MettiPunto(DisegnoNoto& d, const std::string& nome, const PuntoPiano& p, do
 void MettiLinea(DisegnoNoto& d, const std::string& a, const std::string& b) {
   const PuntoPiano p = d.posti[a];
   const PuntoPiano q = d.posti[b];
-  d.linee.push_back("L," + Formatta(p.est, "0.000") + "," + Formatta(p.nord, "0.000") + ",0," + Formatta(q.est, "0.000") +
-                    "," + Formatta(q.nord, "0.000") + ",0");
+  d.linee.push_back("L," + Formatta(p.est, "0.000") + "," + Formatta(p.nord, "0.000") + ",0," +
+                    Formatta(q.est, "0.000") + "," + Formatta(q.nord, "0.000") + ",0");
 }
 
 // Stations on a ring, each seen from its neighbours, with points around it that the stations beside it see too; points

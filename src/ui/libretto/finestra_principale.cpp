@@ -10,6 +10,9 @@
 #include <ui/libretto/pannello_strumenti.h>
 #include <ui/libretto/riga_di_stato.h>
 #include <ui/libretto/vista_righe.h>
+#include <ui/verifiche/elenco_verifiche.h>
+#include <ui/verifiche/pannello_rilievo.h>
+#include <ui/verifiche/segni.h>
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -18,6 +21,7 @@
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <QSplitter>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -43,7 +47,10 @@ FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDa
       pulsanti_(new PannelloPulsanti(Disponibile(), this)), dati_(new PannelloDati(modello, this)),
       strumenti_(new PannelloStrumenti(this)), righe_(new VistaRighe(modello.DatiSessione().List1, this)),
       ricerca_(new BarraRicerca(this)), spiegazione_(new RigaDiStato(this)), nomeFile_(new QLabel(this)),
-      posizione_(new QLabel(this)), scartate_(new QToolButton(this)) {
+      posizione_(new QLabel(this)), verifiche_(new ElencoVerifiche(modello.Verifiche, this)),
+      rilievo_(new PannelloRilievo(modello.Rilievo, this)), accanto_(new QSplitter(Qt::Horizontal, this)),
+      sopra_(new QSplitter(Qt::Vertical, this)), conta_(new QToolButton(this)), ritardo_(new QTimer(this)),
+      scartate_(new QToolButton(this)) {
   setObjectName(QStringLiteral("KR_LibrettoOriginale"));
   RiempiMenu(*menuBar(), Disponibile(), [this](Comando comando) { Comanda(comando); });
   auto* piano = new QSplitter(Qt::Horizontal, this);
@@ -66,6 +73,7 @@ FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDa
   setCentralWidget(tutto);
   CollegaElenco();
   CollegaRicerca();
+  CollegaVerifiche();
   CreaScorciatoie();
   connect(pulsanti_, &PannelloPulsanti::Premuto, this, &FinestraPrincipale::Comanda);
   connect(dati_, &PannelloDati::Premuto, this, &FinestraPrincipale::Comanda);
@@ -87,7 +95,19 @@ QWidget* FinestraPrincipale::CreaCentro() {
   colonna->setSpacing(0);
   colonna->addWidget(CreaTestata());
   colonna->addWidget(ricerca_);
-  colonna->addWidget(righe_, 1);
+  accanto_->addWidget(righe_);
+  accanto_->addWidget(rilievo_);
+  accanto_->setStretchFactor(0, 1);
+  sopra_->addWidget(accanto_);
+  sopra_->addWidget(verifiche_);
+  sopra_->setStretchFactor(0, 1);
+  for (QSplitter* diviso : {accanto_, sopra_}) {
+    diviso->setChildrenCollapsible(false);
+    diviso->setHandleWidth(3);
+    connect(diviso, &QSplitter::splitterMoved, this, &FinestraPrincipale::TieniMisure);
+  }
+  righe_->setMinimumWidth(180);
+  colonna->addWidget(sopra_, 1);
   return centro;
 }
 
@@ -125,7 +145,14 @@ QWidget* FinestraPrincipale::CreaPiede() {
   scartate_->setToolTip(QStringLiteral("Mostra l'elenco delle righe scartate"));
   scartate_->setFocusPolicy(Qt::TabFocus);
   connect(scartate_, &QToolButton::clicked, this, [this] { Comanda(Comando::MostraRigheScartate); });
+  conta_->setObjectName(QStringLiteral("ContaVerifiche"));
+  conta_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  conta_->setToolTip(QStringLiteral("Mostra o nasconde l'elenco delle segnalazioni (Ctrl+F8)"));
+  conta_->setAutoRaise(true);
+  conta_->setFocusPolicy(Qt::TabFocus);
+  connect(conta_, &QToolButton::clicked, this, [this] { Comanda(Comando::MostraVerifiche); });
   riga->addWidget(spiegazione_, 1);
+  riga->addWidget(conta_);
   riga->addWidget(scartate_);
   return piede;
 }
@@ -158,6 +185,68 @@ void FinestraPrincipale::CollegaRicerca() {
   });
 }
 
+void FinestraPrincipale::CollegaVerifiche() {
+  righe_->Segni([this](std::size_t riga) { return modello_.Verifiche.SegnoDi(riga); },
+                [this](std::size_t riga) { return AQString(modello_.Verifiche.SpiegazioneDi(riga)); });
+  ritardo_->setSingleShot(true);
+  ritardo_->setInterval(0);
+  connect(ritardo_, &QTimer::timeout, this, &FinestraPrincipale::AggiornaVerifiche);
+  connect(verifiche_, &ElencoVerifiche::Scelta, this, [this](std::size_t indice) {
+    Fa([&] { modello_.ScegliSegnalazione(indice); });
+    VaiAllaCorrente();
+  });
+  connect(verifiche_, &ElencoVerifiche::RimedioRichiesto, this, [this] { Comanda(Comando::PrendiRimedio); });
+  connect(verifiche_, &ElencoVerifiche::CopiaRichiesta, this, [this] { Fa([&] { modello_.CopiaSegnalazioni(); }); });
+  connect(verifiche_, &ElencoVerifiche::StampaRichiesta, this, [this] { Fa([&] { modello_.StampaSegnalazioni(); }); });
+  connect(verifiche_, &ElencoVerifiche::ChiusuraRichiesta, this, [this] { Comanda(Comando::MostraVerifiche); });
+  connect(rilievo_, &PannelloRilievo::ChiusuraRichiesta, this, [this] { Comanda(Comando::MostraRilievo); });
+  connect(rilievo_, &PannelloRilievo::Cliccato, this, [this](const PuntoPiano& posto, double entro) {
+    Fa([&] { modello_.CliccaRilievo(posto, entro); });
+    VaiAllaCorrente();
+  });
+}
+
+// The current row comes into view, and of a chosen finding its field is lit.
+void FinestraPrincipale::VaiAllaCorrente() {
+  const long indice = Elenco().Indice();
+  if (indice >= 0) righe_->VaiA(static_cast<std::size_t>(indice));
+  const auto scelta = modello_.Verifiche.Scelta();
+  const bool sua = scelta && modello_.Verifiche.Voce(*scelta).riga == static_cast<std::size_t>(indice);
+  righe_->AccendiCampo(static_cast<std::size_t>(indice), sua ? modello_.Verifiche.Voce(*scelta).campo : 0);
+}
+
+void FinestraPrincipale::AggiornaVerifiche() {
+  if (occupata_ || chiusa_) return;
+  if (modello_.AggiornaVerifiche()) righe_->AccendiCampo(0, 0);
+  MostraVerifiche();
+}
+
+// The model says what stands there and how large; hidden parts take no room.
+void FinestraPrincipale::MostraVerifiche() {
+  const bool elencoNuovo = modello_.ElencoVerifiche && verifiche_->isHidden();
+  const bool rilievoNuovo = modello_.RilievoVisibile && rilievo_->isHidden();
+  verifiche_->setVisible(modello_.ElencoVerifiche);
+  rilievo_->setVisible(modello_.RilievoVisibile);
+  if (elencoNuovo)
+    sopra_->setSizes({std::max(1, sopra_->height() - modello_.AltezzaVerifiche), modello_.AltezzaVerifiche});
+  if (rilievoNuovo)
+    accanto_->setSizes({std::max(1, accanto_->width() - modello_.LarghezzaRilievo), modello_.LarghezzaRilievo});
+  if (modello_.ElencoVerifiche) verifiche_->Mostra();
+  if (modello_.RilievoVisibile) rilievo_->Mostra();
+  const Conteggio& quante = modello_.Verifiche.Esito().Quante();
+  const Severita peggiore = quante.errori > 0   ? Severita::Errore
+                            : quante.avvisi > 0 ? Severita::Avviso
+                                                : Severita::Nota;
+  conta_->setIcon(quante.Tutte() == 0 ? QIcon() : IconaSegno(peggiore));
+  conta_->setText(AQString(modello_.AvvisoErrori.empty() ? modello_.Verifiche.Riepilogo() : modello_.AvvisoErrori));
+  righe_->viewport()->update();
+}
+
+void FinestraPrincipale::TieniMisure() {
+  modello_.DimensionaVerifiche(verifiche_->isVisible() ? verifiche_->height() : modello_.AltezzaVerifiche,
+                               rilievo_->isVisible() ? rilievo_->width() : modello_.LarghezzaRilievo);
+}
+
 void FinestraPrincipale::CreaScorciatoie() {
   const auto aggiungi = [this](const QKeySequence& tasti, const std::function<void()>& azione) {
     connect(new QShortcut(tasti, this), &QShortcut::activated, this, azione);
@@ -181,6 +270,9 @@ void FinestraPrincipale::Fa(const std::function<void()>& azione) {
 void FinestraPrincipale::Comanda(Comando comando) {
   Fa([&] { modello_.Esegui(comando); });
   // What came back is brought into view.
+  const bool segnalazione = comando == Comando::SegnalazioneSuccessiva || comando == Comando::SegnalazionePrecedente ||
+                            comando == Comando::PrendiRimedio;
+  if (segnalazione) return VaiAllaCorrente();
   const bool storia = comando == Comando::Annulla || comando == Comando::Ripeti;
   if (storia && Elenco().Indice() >= 0) righe_->VaiA(static_cast<std::size_t>(Elenco().Indice()));
 }
@@ -201,6 +293,7 @@ void FinestraPrincipale::Mostra() {
   if (righe_->font() != carattere) righe_->setFont(carattere);
   MostraElenco();
   MostraStoria();
+  MostraVerifiche();
 }
 
 // The entries that name the last command, and the notice of the last reorder.
@@ -222,6 +315,7 @@ void FinestraPrincipale::MostraElenco() {
   righe_->Aggiorna();
   MostraSpiegazione();
   MostraStrumenti();
+  ritardo_->start();
   if (ricerca_->isVisible() && versioneTrovate_ != Elenco().Versione()) Cerca();
 }
 

@@ -12,14 +12,18 @@
 
 class QAction;
 class QLabel;
+class QSplitter;
+class QTimer;
 class QToolButton;
 class QVBoxLayout;
 
 namespace lirmeto::ui {
 
 class BarraRicerca;
+class ElencoVerifiche;
 class PannelloDati;
 class PannelloPulsanti;
+class PannelloRilievo;
 class PannelloStrumenti;
 class RigaDiStato;
 class VistaRighe;
@@ -48,6 +52,7 @@ private:
   [[nodiscard]] QWidget* CreaPiede();
   void CollegaElenco();
   void CollegaRicerca();
+  void CollegaVerifiche();
   void CreaScorciatoie();
   void Comanda(Comando comando);
   void Fa(const std::function<void()>& azione);
@@ -56,6 +61,10 @@ private:
   void MostraStoria();
   void MostraStrumenti();
   void MostraSpiegazione();
+  void AggiornaVerifiche();
+  void MostraVerifiche();
+  void TieniMisure();
+  void VaiAllaCorrente();
   void Cerca();
   void VaiATrovata(bool avanti);
   void ChiudiSeFinita();
@@ -74,6 +83,12 @@ private:
   RigaDiStato* spiegazione_;
   QLabel* nomeFile_;
   QLabel* posizione_;
+  ElencoVerifiche* verifiche_;
+  PannelloRilievo* rilievo_;
+  QSplitter* accanto_;               // rows and picture
+  QSplitter* sopra_;                 // both of them and the list of findings
+  QToolButton* conta_;               // how many findings there are; shows and hides their list
+  QTimer* ritardo_;                  // the checks follow when the event loop is free
   QToolButton* scartate_;            // notice of the rows that a reorder dropped; lists them
   std::vector<std::size_t> trovate_; // rows that hold the text looked for
   std::optional<unsigned long> versioneTrovate_;

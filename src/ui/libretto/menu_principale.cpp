@@ -93,6 +93,16 @@ QKeySequence Scorciatoia(Comando comando) {
     return QKeySequence(Qt::CTRL | Qt::Key_Z);
   case Comando::Ripeti:
     return QKeySequence(Qt::CTRL | Qt::Key_Y);
+  case Comando::MostraVerifiche:
+    return QKeySequence(Qt::CTRL | Qt::Key_F8);
+  case Comando::SegnalazioneSuccessiva:
+    return QKeySequence(Qt::Key_F8);
+  case Comando::SegnalazionePrecedente:
+    return QKeySequence(Qt::SHIFT | Qt::Key_F8);
+  case Comando::PrendiRimedio:
+    return QKeySequence(Qt::ALT | Qt::Key_Return);
+  case Comando::MostraRilievo:
+    return QKeySequence(Qt::Key_F9);
   case Comando::Chiudi:
     return QKeySequence(Qt::CTRL | Qt::Key_Q);
   default:

@@ -3,15 +3,19 @@
 #include <ui/comune/aspetto.h>
 #include <ui/comune/ricerca.h>
 #include <ui/comune/testo_qt.h>
+#include <ui/verifiche/segni.h>
 
+#include <QHelpEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
 #include <QUrl>
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace lirmeto::ui {
 
@@ -20,6 +24,8 @@ namespace {
 constexpr int Striscia = 5; // pixels
 constexpr int PrimaDelTesto = 8;
 constexpr int CifreMinime = 4; // room for row numbers
+constexpr int LatoSegno = 9;   // of the mark of what is said of a row
+constexpr int PostoSegno = 15;
 
 int Entro(std::size_t valore) {
   return static_cast<int>(std::min<std::size_t>(valore, std::numeric_limits<int>::max()));
@@ -55,6 +61,32 @@ void VistaRighe::Aggiorna() {
 void VistaRighe::Evidenzia(const std::string& testo) {
   evidenziato_ = testo;
   viewport()->update();
+}
+
+void VistaRighe::Segni(SegnoDi segno, SpiegazioneDi spiegazione) {
+  segno_ = std::move(segno);
+  spiegazione_ = std::move(spiegazione);
+  viewport()->update();
+}
+
+void VistaRighe::AccendiCampo(std::size_t riga, std::size_t campo) {
+  rigaAccesa_ = riga;
+  campoAcceso_ = campo;
+  viewport()->update();
+}
+
+// The sentences stand where the pointer rests on a mark; elsewhere the list's own hint.
+bool VistaRighe::viewportEvent(QEvent* evento) {
+  if (evento->type() == QEvent::ToolTip && spiegazione_) {
+    const auto* aiuto = static_cast<QHelpEvent*>(evento);
+    const auto riga = RigaAlPunto(aiuto->pos());
+    const QString testo = riga && aiuto->pos().x() < LarghezzaMargine() ? spiegazione_(*riga) : QString();
+    if (!testo.isEmpty()) {
+      QToolTip::showText(aiuto->globalPos(), testo, viewport());
+      return true;
+    }
+  }
+  return QAbstractScrollArea::viewportEvent(evento);
 }
 
 void VistaRighe::VaiA(std::size_t riga) {
@@ -94,13 +126,44 @@ void VistaRighe::DisegnaRiga(QPainter& pittore, std::size_t riga) const {
   const std::string_view testo = elenco_.Riga(riga);
   const ColoriRiga colori = ColoriDelGenere(testo);
   const QRect zona = intero.adjusted(margine, 0, 0, 0);
+  DisegnaSegnoDi(pittore, riga, intero);
   DisegnaNumero(pittore, riga, QRect(0, intero.top(), margine, intero.height()));
   pittore.fillRect(zona, elenco_.Selezionata(riga) ? ColoreSelezione() : colori.fondo);
   pittore.fillRect(QRect(zona.left(), zona.top(), Striscia, zona.height()), colori.striscia);
+  DisegnaCampo(pittore, riga, zona.adjusted(Striscia + PrimaDelTesto, 0, 0, 0));
   DisegnaTesto(pittore, testo, zona.adjusted(Striscia + PrimaDelTesto, 0, 0, 0));
   if (elenco_.Indice() != static_cast<long>(riga)) return;
   pittore.setPen(hasFocus() ? palette().highlight().color() : ColoreBarre());
   pittore.drawRect(zona.adjusted(Striscia, 0, -1, -1));
+}
+
+void VistaRighe::DisegnaSegnoDi(QPainter& pittore, std::size_t riga, const QRect& rettangolo) const {
+  const auto segno = segno_ ? segno_(riga) : std::nullopt;
+  if (!segno) return;
+  const int alto = rettangolo.top() + (rettangolo.height() - LatoSegno) / 2;
+  DisegnaSegno(pittore, *segno, QRectF((PostoSegno - LatoSegno) / 2 + 1, alto, LatoSegno, LatoSegno));
+}
+
+// Behind the field that a finding is about.
+void VistaRighe::DisegnaCampo(QPainter& pittore, std::size_t riga, const QRect& rettangolo) const {
+  if (campoAcceso_ == 0 || riga != rigaAccesa_) return;
+  const std::string_view testo = elenco_.Riga(riga);
+  std::size_t inizio = 0;
+  for (std::size_t i = 0; i < campoAcceso_ && inizio != std::string_view::npos; ++i) {
+    inizio = testo.find('|', inizio);
+    if (inizio != std::string_view::npos) ++inizio;
+  }
+  if (inizio == std::string_view::npos) return;
+  const std::size_t fine = std::min(testo.find('|', inizio), testo.size());
+  const auto prima = static_cast<std::size_t>(horizontalScrollBar()->value());
+  const auto visto = [&](std::size_t da, std::size_t a) {
+    return PerDisegno(testo.substr(std::min(da, testo.size()), a > da ? a - da : 0));
+  };
+  const QFontMetricsF misure(font());
+  const double x = rettangolo.left() + misure.horizontalAdvance(visto(prima, inizio));
+  const double larga = misure.horizontalAdvance(visto(std::max(prima, inizio), fine));
+  pittore.fillRect(QRectF(x - 1, rettangolo.top() + 1, std::max(larga, 4.0) + 2, rettangolo.height() - 2),
+                   ColoreTrovato());
 }
 
 void VistaRighe::DisegnaNumero(QPainter& pittore, std::size_t riga, const QRect& rettangolo) const {
@@ -153,7 +216,8 @@ int VistaRighe::LarghezzaColonna() const {
 
 int VistaRighe::LarghezzaMargine() const {
   const auto cifre = std::max<qsizetype>(CifreMinime, QString::number(elenco_.Quante()).size());
-  return static_cast<int>(cifre) * QFontMetrics(font()).horizontalAdvance(u'0') + 2 * PrimaDelTesto;
+  return static_cast<int>(cifre) * QFontMetrics(font()).horizontalAdvance(u'0') + 2 * PrimaDelTesto +
+         (segno_ ? PostoSegno : 0);
 }
 
 std::size_t VistaRighe::PrimaVisibile() const {

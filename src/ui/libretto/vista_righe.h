@@ -6,9 +6,11 @@
 #include <ui/comune/selezione_estesa.h>
 
 #include <core/elenco_righe.h>
+#include <verifiche/segnalazione.h>
 
 #include <QAbstractScrollArea>
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,6 +31,13 @@ public:
   // nothing.
   void Evidenzia(const std::string& testo);
 
+  // Marks beside the rows: the worst that is said of a row, and the sentences that its mark explains.
+  using SegnoDi = std::function<std::optional<Severita>(std::size_t riga)>;
+  using SpiegazioneDi = std::function<QString(std::size_t riga)>;
+  void Segni(SegnoDi segno, SpiegazioneDi spiegazione);
+  // Lights a field of a row, its kind being 0; 0 puts the light out.
+  void AccendiCampo(std::size_t riga, std::size_t campo);
+
   // Makes the row the only selected one and brings it into view.
   void VaiA(std::size_t riga);
 
@@ -43,6 +52,7 @@ signals:
   void FileLasciato(const QString& percorsoOspite); // still inside the drag: to be received later
 
 protected:
+  bool viewportEvent(QEvent* evento) override;
   void paintEvent(QPaintEvent* evento) override;
   void resizeEvent(QResizeEvent* evento) override;
   void changeEvent(QEvent* evento) override;
@@ -68,6 +78,8 @@ private:
   void MisuraRighe();
   void DisponiBarre();
   void DisegnaRiga(QPainter& pittore, std::size_t riga) const;
+  void DisegnaSegnoDi(QPainter& pittore, std::size_t riga, const QRect& rettangolo) const;
+  void DisegnaCampo(QPainter& pittore, std::size_t riga, const QRect& rettangolo) const;
   void DisegnaNumero(QPainter& pittore, std::size_t riga, const QRect& rettangolo) const;
   void DisegnaTesto(QPainter& pittore, std::string_view riga, const QRect& rettangolo) const;
   void DisegnaTrovati(QPainter& pittore, std::string_view visibile, const QRect& rettangolo) const;
@@ -81,6 +93,10 @@ private:
   ElencoRighe& elenco_;
   SelezioneEstesa selezione_;
   std::string evidenziato_;
+  SegnoDi segno_;
+  SpiegazioneDi spiegazione_;
+  std::size_t rigaAccesa_ = 0;
+  std::size_t campoAcceso_ = 0;  // 0: none
   std::size_t rigaPiuLunga_ = 0; // characters
   std::optional<unsigned long> versione_;
   std::optional<unsigned long> versioneSelezione_;
