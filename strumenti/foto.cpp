@@ -4,6 +4,7 @@
 //   lirmeto-foto --dischi DIR --uscita DIR [--scala 1|2] FILE
 //   lirmeto-foto --dischi DIR --uscita DIR [--scala 1|2] --disegno FILE
 //   lirmeto-foto --dischi DIR --uscita DIR [--scala 1|2] --disegno FILE.LXC    the libretto from a drawing
+//   lirmeto-foto --dischi DIR --uscita DIR [--scala 1|2] --censuario FILE      the census windows
 
 #include <ui/comune/aspetto.h>
 #include <ui/comune/barra_ricerca.h>
@@ -27,6 +28,10 @@
 #include <ui/libretto/vista_righe.h>
 #include <ui/pregeo/finestra_configura_pregeo.h>
 #include <ui/pregeo/finestra_dapregeo.h>
+#include <ui/proposte/finestra_edm.h>
+#include <ui/proposte/finestra_fusione.h>
+#include <ui/proposte/finestra_proposta.h>
+#include <ui/proposte/finestra_tipo_mappale.h>
 #include <ui/supporto/finestra_autore.h>
 #include <ui/supporto/finestra_codfis.h>
 #include <ui/supporto/finestra_editor.h>
@@ -50,18 +55,18 @@
 #include <QMouseEvent>
 #include <QTextStream>
 
-#include <functional>
 #include <map>
 
 namespace {
 
 using namespace lirmeto;
 
+// Reads the disk, and keeps in memory what is written: a window may need the file that another one wrote.
 class DiscoInLettura final : public Disco {
 public:
   explicit DiscoInLettura(const Disco& disco) : disco_(disco) {}
   [[nodiscard]] bool Esiste(std::string_view percorso) const override {
-    return scritti_.contains(percorso) || disco_.Esiste(percorso);
+    return scritti_.contains(Maiuscolo(percorso)) || disco_.Esiste(percorso);
   }
   [[nodiscard]] bool EsisteCartella(std::string_view percorso) const override {
     return disco_.EsisteCartella(percorso);
@@ -70,18 +75,23 @@ public:
     return disco_.StessoPosto(percorso, altro);
   }
   [[nodiscard]] std::string Leggi(std::string_view percorso) const override {
-    const auto scritto = scritti_.find(percorso);
-    return scritto == scritti_.end() ? disco_.Leggi(percorso) : scritto->second;
+    const auto scritto = scritti_.find(Maiuscolo(percorso));
+    return scritto != scritti_.end() ? scritto->second : disco_.Leggi(percorso);
   }
   [[nodiscard]] std::string LeggiInizio(std::string_view percorso, std::size_t byte) const override {
-    return disco_.LeggiInizio(percorso, byte);
+    return scritti_.contains(Maiuscolo(percorso)) ? Leggi(percorso).substr(0, byte)
+                                                  : disco_.LeggiInizio(percorso, byte);
   }
   [[nodiscard]] std::vector<std::string> Elenca(std::string_view cartella, std::string_view estensione) const override {
-    return disco_.Elenca(cartella, estensione);
+    auto nomi = disco_.Elenca(cartella, estensione);
+    const std::string inizio = Maiuscolo(cartella) + "\\";
+    for (const auto& [percorso, contenuto] : scritti_)
+      if (percorso.starts_with(inizio) && FinisceConSenzaCaso(percorso, estensione))
+        nomi.push_back(percorso.substr(inizio.size()));
+    return nomi;
   }
-  // What is written is kept for who reads it again, and goes nowhere.
   void Scrivi(std::string_view percorso, std::string_view contenuto) override {
-    scritti_.insert_or_assign(std::string(percorso), std::string(contenuto));
+    scritti_[Maiuscolo(percorso)] = contenuto;
   }
   [[nodiscard]] Istante Modificato(std::string_view percorso) const override { return disco_.Modificato(percorso); }
   void CreaCartella(std::string_view /*percorso*/) override {}
@@ -90,7 +100,7 @@ public:
 
 private:
   const Disco& disco_;
-  std::map<std::string, std::string, std::less<>> scritti_;
+  std::map<std::string, std::string> scritti_; // upper-cased path, content
 };
 
 class ProcessiFermi final : public Processi {
@@ -231,6 +241,18 @@ public:
     return Mappali() && Proposta(dxf);
   }
 
+  // The workbench on the libretto's first parcel, and the forms on it; the proposal is the exported one.
+  [[nodiscard]] bool Censuario() {
+    CaricaLibrettoInList1(ambiente_);
+    KR_EDM edm(ambiente_);
+    edm.AlCaricamento();
+    edm.ClicList1(0);
+    ui::FinestraEdm finestra(edm);
+    finestra.show();
+    const ParticellaScelta scelta = ScegliParticella(ambiente_.sessione, edm.Label2, RigheUnite(edm.List3));
+    return Salva(finestra, "censuario") && Derivate(scelta) && TipoMappale(scelta) && Fusione();
+  }
+
 private:
   bool Mappali() {
     SelezionaMappali mappali(ambiente_);
@@ -261,6 +283,46 @@ private:
     finestra.resize(1220, 690);
     finestra.show();
     return Salva(finestra, "tipologia");
+  }
+
+  bool Derivate(const ParticellaScelta& scelta) {
+    ambiente_.sessione.ModoEditor = ModoSopprime;
+    KR_Fraziona frazionamento(ambiente_, scelta);
+    frazionamento.Form_Load();
+    frazionamento.PropostaAutomatica();
+    frazionamento.AggiungiAlMemo();
+    frazionamento.Invio();
+    ui::FinestraProposta prima(frazionamento);
+    prima.show();
+    KR_Stralcio stralcio(ambiente_, scelta);
+    stralcio.Form_Load();
+    stralcio.PropostaAutomatica();
+    ui::FinestraProposta seconda(stralcio);
+    seconda.show();
+    return Salva(prima, "frazionamento") && Salva(seconda, "stralcio");
+  }
+
+  bool TipoMappale(const ParticellaScelta& scelta) {
+    KR_NuovaCostruzione nuova(ambiente_, scelta);
+    nuova.Form_Load();
+    ui::FinestraTipoMappale prima(nuova);
+    prima.show();
+    KR_TMVariazione variazione(ambiente_, scelta);
+    variazione.Form_Load();
+    ui::FinestraTipoMappale seconda(variazione);
+    seconda.show();
+    return Salva(prima, "nuova_costruzione") && Salva(seconda, "variazione");
+  }
+
+  // The first two parcels of the sheet made one.
+  bool Fusione() {
+    KR_TMFusione fusione(ambiente_);
+    fusione.Form_Load();
+    fusione.Aggiungi(0);
+    fusione.Aggiungi(1);
+    ui::FinestraFusione finestra(fusione);
+    finestra.show();
+    return Salva(finestra, "fusione");
   }
 
   // A sighting in the middle of the rows, with some of its neighbours selected.
@@ -473,7 +535,7 @@ int FotografaTipologie(const std::filesystem::path& dischi, const QString& uscit
   return Fotografo(modello, ambiente, QDir(uscita)).Tipologie(ui::DaQString(dxf)) ? 0 : 1;
 }
 
-int Fotografa(const std::filesystem::path& dischi, const QString& uscita, const QString& file, bool disegno) {
+int Fotografa(const std::filesystem::path& dischi, const QString& uscita, const QString& file, const QString& genere) {
   Sessione sessione;
   DiscoDischi discoVero(dischi);
   ProcessiLinux processiVeri(discoVero);
@@ -488,10 +550,11 @@ int Fotografa(const std::filesystem::path& dischi, const QString& uscita, const 
   KR_LibrettoOriginale modello(ambiente);
   const bool conUnita = file.mid(1, 2) == QLatin1String(":\\");
   const std::string percorso = conUnita ? ui::DaQString(file) : PercorsoDaOspite(file.toStdString());
-  if (disegno && FinisceConSenzaCaso(percorso, ".LXC"))
+  if (genere == QLatin1String("disegno") && FinisceConSenzaCaso(percorso, ".LXC"))
     return Fotografo(modello, ambiente, QDir(uscita)).LibrettoDisegno(percorso) ? 0 : 1;
-  if (disegno) return Fotografo(modello, ambiente, QDir(uscita)).Disegno(percorso) ? 0 : 1;
+  if (genere == QLatin1String("disegno")) return Fotografo(modello, ambiente, QDir(uscita)).Disegno(percorso) ? 0 : 1;
   if (!modello.Avvia(percorso)) return 1;
+  if (genere == QLatin1String("censuario")) return Fotografo(modello, ambiente, QDir(uscita)).Censuario() ? 0 : 1;
   return Fotografo(modello, ambiente, QDir(uscita)).Tutte() ? 0 : 1;
 }
 
@@ -521,6 +584,7 @@ int main(int argc, char** argv) {
       {{QStringLiteral("dischi"), QStringLiteral("Cartella delle unità."), QStringLiteral("DIR")},
        {QStringLiteral("uscita"), QStringLiteral("Cartella delle immagini."), QStringLiteral("DIR")},
        {QStringLiteral("disegno"), QStringLiteral("Il file è un disegno.")},
+       {QStringLiteral("censuario"), QStringLiteral("Le finestre del censuario.")},
        {QStringLiteral("tipologie"), QStringLiteral("L'archivio di Pregeo, e la proposta dalle polilinee di un DXF."),
         QStringLiteral("DXF")},
        {QStringLiteral("scala"), QStringLiteral("1 o 2."), QStringLiteral("N"), QStringLiteral("1")}});
@@ -534,5 +598,7 @@ int main(int argc, char** argv) {
   if (const QString dxf = lettore.value(QStringLiteral("tipologie")); !dxf.isEmpty())
     return FotografaTipologie(lettore.value(QStringLiteral("dischi")).toStdString(), uscita, file.first(), dxf);
   return Fotografa(lettore.value(QStringLiteral("dischi")).toStdString(), uscita, file.first(),
-                   lettore.isSet(QStringLiteral("disegno")));
+                   lettore.isSet(QStringLiteral("disegno"))     ? QStringLiteral("disegno")
+                   : lettore.isSet(QStringLiteral("censuario")) ? QStringLiteral("censuario")
+                                                                : QString());
 }

@@ -13,6 +13,7 @@
 #include <intestazione/catasto1_form.h>
 #include <pregeo/form_configura_pregeo.h>
 #include <pregeo/kr_dapregeo.h>
+#include <proposte/kr_edm.h>
 #include <supporto/archivio_possessori.h>
 #include <supporto/assegna_descrizione.h>
 #include <supporto/cod_fis.h>
@@ -84,6 +85,7 @@ constexpr std::array ElencoForme = {
     Forma{forma::DaPregeo, &ApriDaPregeo},
     Forma{forma::EstrattoProvvisorio, &ApriEstrattoProvvisorio},
     Forma{forma::SelezionaMisurate, &Apri<KR_SelezionaMisurate>},
+    Forma{forma::ModelloCensuario, &Apri<KR_EDM>},
     Forma{forma::ElcoPf, &Apri<KR_ElcoPf>},
 };
 

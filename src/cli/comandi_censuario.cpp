@@ -32,12 +32,6 @@ constexpr std::size_t Libretto = 5;
 constexpr std::size_t Urbani = 6;
 } // namespace arg
 
-std::string Righe(const ListaRighe& righe) {
-  std::string testo;
-  for (const auto riga : righe) testo.append(riga).append(FineRiga);
-  return testo;
-}
-
 // A file that may be left out.
 std::string TestoDi(Ambiente& ambiente, const std::string& percorso) {
   return percorso.empty() ? std::string{} : CaricaFileIntero(ambiente, percorso);
@@ -110,7 +104,7 @@ std::string TempProposta(Ambiente& ambiente) {
 
 // List1, or the libretto with the memo in it.
 std::string Esito(Ambiente& ambiente, PropostaDerivate& form, const std::string& libretto) {
-  if (libretto.empty()) return Righe(form.List1);
+  if (libretto.empty()) return RigheUnite(form.List1);
   form.AggiungiAlMemo();
   SalvaPropostaFile1(ambiente, form.List2);
   return Salvato(ambiente);
@@ -154,7 +148,7 @@ std::string ComponiTipoMappale(Ambiente& ambiente, const std::vector<std::string
   form.Form_Load();
   if (!argomenti[1].empty()) scegli(form, argomenti[1]);
   if (!argomenti[2].empty()) form.ScambiaSrSn();
-  if (libretto.empty()) return Righe(form.List1);
+  if (libretto.empty()) return RigheUnite(form.List1);
   form.AggiungiAlMemo();
   form.Salva();
   return Salvato(ambiente);
@@ -190,7 +184,7 @@ std::string ComandoFusione(Ambiente& ambiente, const std::vector<std::string>& a
   form.Option1 = argomenti[1].empty() ? 0 : 1;
   form.List2.assign(argomenti.begin() + primaParticella, argomenti.end());
   form.AnteprimaTMFusione();
-  if (libretto.empty()) return Righe(form.List1);
+  if (libretto.empty()) return RigheUnite(form.List1);
   form.AggiungiAlMemo();
   form.SalvaConEsistenti();
   return Salvato(ambiente);

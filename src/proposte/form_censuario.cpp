@@ -21,9 +21,7 @@ std::vector<RilievoCensuario> FormCensuario::RilieviMemo() {
 }
 
 void FormCensuario::CopiaMemo() {
-  std::string testo;
-  for (const auto riga : Memo().Righe()) testo.append(riga).append(FineRiga);
-  ambiente_.appunti.MettiTesto(testo);
+  ambiente_.appunti.MettiTesto(RigheUnite(Memo().Righe()));
 }
 
 void FormCensuario::Esegui(int indice) {

@@ -39,7 +39,7 @@ constexpr std::array ElencoPulsanti = {
     PulsanteForm{2, "salva", "Salva Particella", "Scrive la particella nell'archivio e nell'estratto"},
     PulsanteForm{14, "estratti", "Salva nell'Estratto", "Scrive la particella nell'archivio e nell'estratto associato"},
     PulsanteForm{3, "elimina", "Elimina Particella", "Elimina il file selezionato"},
-    PulsanteForm{19, "scambio", "SN / SR", "Superficie nominale o reale"},
+    PulsanteForm{19, "sn_sr", "SN / SR", "Superficie nominale o reale"},
     PulsanteForm{5, "cerca", "Cerca Comune", "Il codice del comune"},
     PulsanteForm{6, "fraziona", "Frazionamento", "Il numero originale si sopprime"},
     PulsanteForm{7, "mantiene", "Frazionamento, stesso numero", "La prima derivata mantiene il numero"},
@@ -51,7 +51,7 @@ constexpr std::array ElencoPulsanti = {
     PulsanteForm{13, "pagina", "Particelle del Foglio", "I file del foglio del libretto"},
     PulsanteForm{15, "importa", "Archivio dal Libretto", "Le nuove particelle dei frazionamenti del libretto"},
     PulsanteForm{16, "ricarica", "Archivio dall'Estratto", "Le particelle dell'estratto associato"},
-    PulsanteForm{18, "chiudi", "Elimina Tutte", "Elimina tutti i file dell'archivio, di ogni foglio"},
+    PulsanteForm{18, "svuota", "Elimina Tutte", "Elimina tutti i file dell'archivio, di ogni foglio"},
     PulsanteForm{1, "estratti", "Estratti di Mappa", "Chiude e apre la gestione degli estratti"},
     PulsanteForm{0, "chiudi", "Chiudi", "Chiude la finestra"},
 };

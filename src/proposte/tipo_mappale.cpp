@@ -20,7 +20,7 @@ constexpr std::array PulsantiNuova = {
     PulsanteForm{pulsante::Aggiungi, "salva", "Salva nel Libretto",
                  "Il memo prende il posto delle righe censuarie del libretto"},
     PulsanteForm{2, "giu", "Metti nel Memo", "Le righe di questa particella vanno nel memo"},
-    PulsanteForm{4, "scambio", "SN / SR", "Superficie nominale o reale"},
+    PulsanteForm{4, "sn_sr", "SN / SR", "Superficie nominale o reale"},
     PulsanteForm{VuotaMemo, "nuovo", "Vuota Memo", "Toglie tutte le righe del memo"},
     PulsanteForm{pulsante::Copia, "copia", "Copia", "Il memo negli appunti"},
     PulsanteForm{pulsante::Stampa, "stampa", "Stampa", "Stampa il memo"},

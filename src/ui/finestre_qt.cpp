@@ -17,6 +17,10 @@
 #include <ui/libretto/finestra_scartate.h>
 #include <ui/pregeo/finestra_configura_pregeo.h>
 #include <ui/pregeo/finestra_dapregeo.h>
+#include <ui/proposte/finestra_edm.h>
+#include <ui/proposte/finestra_fusione.h>
+#include <ui/proposte/finestra_proposta.h>
+#include <ui/proposte/finestra_tipo_mappale.h>
 #include <ui/supporto/finestra_assegna_descrizione.h>
 #include <ui/supporto/finestra_autore.h>
 #include <ui/supporto/finestra_codfis.h>
@@ -74,6 +78,12 @@ constexpr std::array Mostratori = {
     &MostraSe<KR_ElcoPfGriglia, FinestraElcoPfGriglia>,
     &MostraSe<KR_ElcoPFGrafica, FinestraElcoPfGrafica>,
     &MostraSe<Imputa, FinestraImputa>,
+    &MostraSe<KR_EDM, FinestraEdm>,
+    &MostraSe<KR_Fraziona, FinestraProposta>,
+    &MostraSe<KR_Stralcio, FinestraProposta>,
+    &MostraSe<KR_NuovaCostruzione, FinestraTipoMappale>,
+    &MostraSe<KR_TMVariazione, FinestraTipoMappale>,
+    &MostraSe<KR_TMFusione, FinestraFusione>,
 };
 
 } // namespace
