@@ -140,7 +140,11 @@ void EseguiTipologia(Ambiente& ambiente, const Tipologia& tipologia) {
   AggiornaLibrettoMisure(ambiente);
   const std::string prima = sessione.Libretto;
   try {
-    if (!ComponiNelLibretto(ambiente, tipologia)) sessione.Libretto = prima;
+    if (!ComponiNelLibretto(ambiente, tipologia)) {
+      sessione.TipologiaCorrente = sessione.TipologiaRilievo;
+      if (sessione.Libretto == prima) return;
+      sessione.Libretto = prima;
+    }
     CaricaLibrettoInList1(ambiente);
   } catch (const Errore&) {
     sessione.Libretto = prima;

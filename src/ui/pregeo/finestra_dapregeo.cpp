@@ -25,6 +25,7 @@ constexpr int Larghezza = 1220;
 constexpr int Altezza = 690;
 constexpr int AltezzaArchivio = 200;
 constexpr int LarghezzaLibretto = 520;
+constexpr int AltezzaRiga = 22;
 
 // A table that is only looked at, with these titles.
 QTableWidget* CreaTabella(std::span<const std::string_view> titoli, const QString& nome, QWidget* padre) {
@@ -37,6 +38,8 @@ QTableWidget* CreaTabella(std::span<const std::string_view> titoli, const QStrin
   tabella->setSelectionBehavior(QAbstractItemView::SelectRows);
   tabella->setSelectionMode(QAbstractItemView::SingleSelection);
   tabella->verticalHeader()->hide();
+  tabella->verticalHeader()->setDefaultSectionSize(AltezzaRiga);
+  tabella->setWordWrap(false);
   tabella->horizontalHeader()->setStretchLastSection(true);
   tabella->horizontalHeader()->setHighlightSections(false);
   return tabella;
