@@ -4,7 +4,7 @@
 #include <ui/comune/testo_qt.h>
 #include <ui/proposte/parti_censuario.h>
 
-#include <core/servizi.h>
+#include <base/percorsi.h>
 
 #include <QButtonGroup>
 #include <QCheckBox>
