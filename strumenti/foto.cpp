@@ -248,6 +248,7 @@ public:
     edm.AlCaricamento();
     edm.ClicList1(0);
     ui::FinestraEdm finestra(edm);
+    finestra.resize(1240, 700);
     finestra.show();
     const ParticellaScelta scelta = ScegliParticella(ambiente_.sessione, edm.Label2, RigheUnite(edm.List3));
     return Salva(finestra, "censuario") && Derivate(scelta) && TipoMappale(scelta) && Fusione();
@@ -293,11 +294,13 @@ private:
     frazionamento.AggiungiAlMemo();
     frazionamento.Invio();
     ui::FinestraProposta prima(frazionamento);
+    prima.resize(1240, 700);
     prima.show();
     KR_Stralcio stralcio(ambiente_, scelta);
     stralcio.Form_Load();
     stralcio.PropostaAutomatica();
     ui::FinestraProposta seconda(stralcio);
+    seconda.resize(1240, 700);
     seconda.show();
     return Salva(prima, "frazionamento") && Salva(seconda, "stralcio");
   }
@@ -306,10 +309,12 @@ private:
     KR_NuovaCostruzione nuova(ambiente_, scelta);
     nuova.Form_Load();
     ui::FinestraTipoMappale prima(nuova);
+    prima.resize(1120, 560);
     prima.show();
     KR_TMVariazione variazione(ambiente_, scelta);
     variazione.Form_Load();
     ui::FinestraTipoMappale seconda(variazione);
+    seconda.resize(1120, 460);
     seconda.show();
     return Salva(prima, "nuova_costruzione") && Salva(seconda, "variazione");
   }
@@ -321,6 +326,7 @@ private:
     fusione.Aggiungi(0);
     fusione.Aggiungi(1);
     ui::FinestraFusione finestra(fusione);
+    finestra.resize(1120, 640);
     finestra.show();
     return Salva(finestra, "fusione");
   }

@@ -186,8 +186,8 @@ QWidget* FinestraEdm::CreaDisegno() {
   auto* dentro = new QWidget(this);
   auto* colonna = new QVBoxLayout(dentro);
   colonna->setContentsMargins(0, 0, 0, 0);
-  label1_->setObjectName(QStringLiteral("Label1"));
-  label2_->setObjectName(QStringLiteral("Label2"));
+  label1_->setObjectName(QStringLiteral("EstrattoAssociato"));
+  label2_->setObjectName(QStringLiteral("RigaParticella"));
   for (QLabel* etichetta : {label1_, label2_}) {
     etichetta->setTextFormat(Qt::PlainText);
     etichetta->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

@@ -28,7 +28,7 @@ namespace {
 
 constexpr int Larghezza = 1240;
 constexpr int Altezza = 700;
-constexpr int LarghezzaScelte = 270;
+constexpr int LarghezzaScelte = 255;
 
 // Under the caret stays what stood there.
 void Metti(QLineEdit& casella, const std::string& testo) {
@@ -70,7 +70,7 @@ void FinestraProposta::Componi() {
   QWidget* scelte = CreaScelte();
   scelte->setFixedWidth(LarghezzaScelte);
   piano->addWidget(scelte);
-  piano->addWidget(CreaGriglia(), 4);
+  piano->addWidget(CreaGriglia(), 5);
   if (disegno_ != nullptr) piano->addWidget(disegno_, 3);
   if (stralcio_ != nullptr) piano->addWidget(CreaUrbani(*stralcio_), 2);
   CollegaGriglia();
@@ -153,7 +153,11 @@ QWidget* FinestraProposta::CreaGriglia() {
   tabella_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   tabella_->verticalHeader()->hide();
   tabella_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-  tabella_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  QHeaderView& testata = *tabella_->horizontalHeader();
+  testata.setSectionResizeMode(QHeaderView::ResizeToContents);
+  testata.setResizeContentsPrecision(0); // the rows in sight
+  testata.setStretchLastSection(true);
+  testata.setHighlightSections(false);
   tabella_->setToolTip(QStringLiteral("Doppio clic su SR/SN e su Area FISSA: cambia il valore"));
   somma_->setObjectName(QStringLiteral("Somma"));
   colonna->addSpacing(6);

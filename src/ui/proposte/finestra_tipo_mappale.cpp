@@ -16,7 +16,8 @@ constexpr int Larghezza = 1120;
 QLabel* Spiegazione(const QString& testo, QWidget* padre) {
   auto* etichetta = new QLabel(testo, padre);
   etichetta->setObjectName(QStringLiteral("Posto"));
-  etichetta->setWordWrap(true);
+  etichetta->setContentsMargins(0, 8, 0, 0); // NOLINT(readability-magic-numbers)
+  etichetta->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   return etichetta;
 }
 
@@ -41,7 +42,10 @@ FinestraTipoMappale::FinestraTipoMappale(KR_NuovaCostruzione& modello, QWidget* 
     Mostra();
   });
   colonna->addWidget(TitoloGruppo(QStringLiteral("Nome temporaneo della nuova particella"), this));
-  colonna->addWidget(nomi, 1);
+  constexpr int altezzaNomi = 96;
+  nomi->setFixedHeight(altezzaNomi);
+  colonna->addWidget(nomi);
+  corpo->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   connect(&Memo(), &ElencoCensuario::DoppioClic, this, [this, &modello](std::size_t riga) {
     modello.DoppioClickMemo(riga);
     Mostra();
