@@ -1,5 +1,6 @@
 #include <base/errore.h>
 
+#include <base/numeri.h>
 #include <base/testo.h>
 
 #include <algorithm>
@@ -44,7 +45,7 @@ Errore Errore::DellaRiga(std::size_t numero, std::string_view riga) const {
   constexpr std::size_t mostrati = 200; // characters; the report is a box
   Errore conRiga = *this;
   if (conRiga.riga_.empty()) {
-    conRiga.riga_ = std::to_string(numero) + ": ";
+    conRiga.riga_ = TestoIntero(static_cast<long long>(numero)) + ": ";
     conRiga.riga_ += riga.substr(0, mostrati);
     if (riga.size() > mostrati) conRiga.riga_ += "...";
   }
