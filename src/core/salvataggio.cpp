@@ -109,21 +109,19 @@ void SegnaCompiuto(Ambiente& ambiente) {
   }
 }
 
-// The whole save. `tenuto` tells, also when an error ends it, whether a copy of
-// the old content was made.
-void ScriviLibretto(Ambiente& ambiente, bool& tenuto) {
+// The whole save. When an error ends it behind the copy of the old content, the save stays marked as incomplete.
+void ScriviLibretto(Ambiente& ambiente) {
   RendiScrivibili(ambiente);
   const std::string testo = TestoDaSalvare(ambiente.sessione);
-  tenuto = TieniUltimo(ambiente);
+  const bool tenuto = TieniUltimo(ambiente);
   ambiente.disco.Scrivi(ambiente.sessione.NomeFileLibretto, testo);
   if (tenuto) SegnaCompiuto(ambiente);
 }
 
 // Whether it went well; what did not is told.
 bool ProvaASalvare(Ambiente& ambiente) {
-  bool tenuto = false;
-  const bool riuscito = Intrappola(ambiente, [&] { ScriviLibretto(ambiente, tenuto); });
-  if (!riuscito && tenuto)
+  const bool riuscito = Intrappola(ambiente, [&] { ScriviLibretto(ambiente); });
+  if (!riuscito && ambiente.disco.Esiste(PercorsoIncompiuto(ambiente.sessione)))
     ambiente.dialoghi.Messaggio(std::string("L'ultimo contenuto valido del libretto è conservato in:"_w) +
                                 std::string(FineRiga) + PercorsoUltimo(ambiente.sessione));
   return riuscito;
@@ -188,11 +186,6 @@ std::string TestoDaSalvare(std::string&& libretto, const Sessione& sessione) {
     testo += "|" + fine;
   }
   return DimezzaFineRiga(std::move(testo)) + fine;
-}
-
-void SalvaLibrettoSuFile(Ambiente& ambiente) {
-  bool tenuto = false;
-  ScriviLibretto(ambiente, tenuto);
 }
 
 bool EsportaLibrettoInFile(Ambiente& ambiente) {

@@ -27,9 +27,10 @@ void RendiScrivibili(Ambiente& ambiente);
 // The same from a Libretto that is handed over, so that a large one is not copied.
 [[nodiscard]] std::string TestoDaSalvare(std::string&& libretto, const Sessione& sessione);
 
-// Writes NomeFileLibretto, or asks for a name when there is none. Errors are
-// reported here; after a failed save one more message says where the last good
-// content is kept. The answer is whether it went well.
+// Writes NomeFileLibretto, or asks for a name when there is none. The last good content of a file that exists is kept
+// first, in the folder \temp of the program's, as NAME.NUMBER.ultimo, the number being the path's; a save that failed
+// leaves that copy as it is to the next ones. Errors are reported here; after a failed save one more message says where
+// the copy is. The answer is whether it went well.
 bool SalvaLibrettoMisure(Ambiente& ambiente);
 
 // The same into a file that is asked for, which becomes NomeFileLibretto when it went well.
@@ -40,10 +41,6 @@ bool SalvaLibrettoMisure(Ambiente& ambiente);
 [[nodiscard]] std::uint64_t ImprontaElenco(const Sessione& sessione);
 // The same of what a save of Libretto writes.
 [[nodiscard]] std::uint64_t ImprontaLibretto(const Sessione& sessione);
-
-// Writes the file. The last good content of a file that exists is kept first, in the folder \temp of the program's, as
-// NAME.NUMBER.ultimo, the number being the path's; a save that failed leaves that copy as it is to the next ones.
-void SalvaLibrettoSuFile(Ambiente& ambiente);
 
 // Asks for a file and writes Libretto there, without tag rows; NomeFileLibretto
 // does not change. A cancel is silent.

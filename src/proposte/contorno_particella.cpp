@@ -42,7 +42,7 @@ std::vector<LineaGrafica> LatiIn(const ListaRighe& righe, std::string_view nome,
   Vertici vertici;
   bool suo = false;
   for (const auto riga : righe) {
-    if (GenereRiga(riga) != 7) continue;
+    if (GenereDi(riga) != Genere::Contorno) continue;
     RigaAnello anello = LeggiAnello(riga);
     if (anello.testa) {
       AggiungiLati(lati, vertici, archivio);
