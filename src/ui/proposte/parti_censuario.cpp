@@ -55,12 +55,6 @@ QString NomeDi(ElencoRilievi::Dove dove) {
 
 } // namespace
 
-QLabel* TitoloGruppo(const QString& testo, QWidget* padre) {
-  auto* titolo = new QLabel(testo, padre);
-  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
-  return titolo;
-}
-
 QToolButton* CreaPulsante(const PulsanteForm& pulsante, QWidget* padre, const std::function<void(int)>& premi) {
   auto* bottone = new QToolButton(padre);
   bottone->setObjectName(QStringLiteral("Pulsante_%1").arg(pulsante.indice));

@@ -1,6 +1,7 @@
 #pragma once
 // What the windows of the census share: rows with their title, findings, buttons, the parcel lit in a drawing.
 
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/modello_classe.h>
 
 #include <core/elenco_righe.h>
@@ -22,9 +23,6 @@ class QToolButton;
 namespace lirmeto::ui {
 
 class GraficaSuperficie;
-
-// A group's title.
-[[nodiscard]] QLabel* TitoloGruppo(const QString& testo, QWidget* padre);
 
 // A button of the form; its name is "Pulsante_" and its index.
 [[nodiscard]] QToolButton* CreaPulsante(const PulsanteForm& pulsante, QWidget* padre,
