@@ -6,7 +6,6 @@
 #include <fiduciali/elco_pf.h>
 #include <fiduciali/importa_fiduciali.h>
 #include <fiduciali/seleziona_misurate.h>
-#include <generazione/tipologia.h>
 #include <generazione/libretto_da_disegno.h>
 #include <generazione/tipologia.h>
 #include <grafica/form_disegno.h>

@@ -43,3 +43,25 @@ for riga in lette["R12"]:
 assert sorted(punti.values()) == sorted({(round(x, 3), round(y + 1e-9, 3)) for x, y in CASA + PORTICO + CURVA}), punti
 contorni = [r for r in lette["R12"] if r.startswith("7|")]
 assert [r.split("|")[-2] for r in contorni] == ["RT", "RP", "RP", "RC", "RC", "RC", "RC"], contorni
+
+
+def coordinate(righe):
+    return {(float(r.split("|")[3]), float(r.split("|")[2])) for r in righe if r.startswith("8|")}
+
+
+# What this program writes of a drawing, its lines moved by an outside program to a layer that is read, comes in again.
+with tempfile.TemporaryDirectory() as cartella:
+    disegno, dxf = Path(cartella, "a.csv"), Path(cartella, "a.dxf")
+    linee = [(i * 12.3457 - 900, i * i * 0.0371 + 0.0004, i * 7.7771, -i * 1.0013) for i in range(1, 60)]
+    disegno.write_text("".join("L,%.10f,%.10f,0,%.10f,%.10f,0,0,1,0\n" % linea for linea in linee) + "P,A,1,2,0,,0\n")
+    subprocess.run([sys.argv[1], "--dischi", cartella, "-o", dxf, "disegno", "dxf", disegno], check=True, stderr=subprocess.DEVNULL)
+    documento = ezdxf.readfile(dxf)
+    spazio = documento.modelspace()
+    for linea in spazio.query("LINE"):
+        spazio.add_polyline2d([linea.dxf.start, linea.dxf.end], dxfattribs={"layer": "RC"})
+    documento.saveas(dxf)
+    uscita = subprocess.run([sys.argv[1], "--dischi", cartella, "polilinee", dxf], check=True, capture_output=True, text=True).stdout.split()
+attesi = [(x, y) for x1, y1, x2, y2 in linee for x, y in ((x1, y1), (x2, y2))]
+lette = coordinate(uscita)
+assert all(any(abs(x - a) <= 0.0005001 and abs(y - b) <= 0.0005001 for a, b in lette) for x, y in attesi)
+assert len(lette) == len({(round(x, 3), round(y, 3)) for x, y in attesi}), len(lette)

@@ -9,9 +9,11 @@
 
 #include <QAbstractButton>
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -133,6 +135,27 @@ TEST(DialoghiQt, UnaBarraAbbandonataSparisceDaSola) {
   QThread::msleep(600);
   dialoghi.Avanzamento("Lavoro", 50, 100);
   EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() == nullptr; }, 3000));
+}
+
+// The windows are painted while something is waited for, and the button of the box ends the wait.
+TEST(DialoghiQt, UnAttesaSiPuoRinunciare) {
+  ui::DialoghiQt dialoghi = Dialoghi();
+  int giri = 0;
+  QElapsedTimer tempo;
+  tempo.start();
+  while (dialoghi.Attesa("Attendo la fine di X.exe") && tempo.elapsed() < 5000) {
+    QThread::msleep(5);
+    ++giri;
+    auto* barra = dynamic_cast<QProgressDialog*>(QApplication::activeModalWidget());
+    if (barra == nullptr) continue;
+    EXPECT_EQ(barra->labelText(), QStringLiteral("Attendo la fine di X.exe"));
+    QTest::mouseClick(barra->findChild<QPushButton*>(), Qt::LeftButton);
+  }
+  EXPECT_GT(giri, 20) << "the box comes after half a second";
+  EXPECT_LT(tempo.elapsed(), 5000);
+  dialoghi.Avanzamento({}, 1, 1);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_TRUE(dialoghi.Attesa("ancora")) << "another wait begins anew";
 }
 
 struct FineDiRiga {
