@@ -74,7 +74,7 @@ public:
     finestra.show();
     return Principale(finestra) && Ricerca(finestra) && Strumenti(finestra) && Editor() && Riordino() &&
            ConfiguraPregeo() && Intestazione() && Stampa() && Comuni() && Fiduciali() && Estratti() &&
-           Scartate(finestra);
+           Verifiche(finestra) && Scartate(finestra);
   }
 
   [[nodiscard]] bool Disegno(const std::string& file) {
@@ -259,6 +259,24 @@ private:
     finestra.resize(1080, 640);
     finestra.show();
     return Salva(finestra, "riordino");
+  }
+
+  // The findings below the rows and the survey beside them, a row of the middle of the act chosen.
+  bool Verifiche(ui::FinestraPrincipale& finestra) {
+    modello_.Esegui(Comando::MostraVerifiche);
+    modello_.Esegui(Comando::MostraRilievo);
+    finestra.findChild<ui::VistaRighe*>()->VaiA(modello_.DatiSessione().List1.Quante() / 3);
+    modello_.Esegui(Comando::SegnalazioneSuccessiva);
+    finestra.Mostra();
+    QApplication::processEvents();
+    auto* vista = finestra.findChild<ui::VistaRighe*>();
+    vista->VaiA(static_cast<std::size_t>(std::max(0L, modello_.DatiSessione().List1.Indice())));
+    modello_.Rilievo.Grafica1.KR_ZoomPiu();
+    const bool salvata = Salva(finestra, "verifiche");
+    modello_.Esegui(Comando::MostraVerifiche);
+    modello_.Esegui(Comando::MostraRilievo);
+    finestra.Mostra();
+    return salvata;
   }
 
   // A reorder that drops two rows: the notice at the foot, and their list.

@@ -11,6 +11,8 @@ namespace {
 
 constexpr std::int16_t GrigioScuro = 8;
 constexpr std::int16_t Larga = 3;
+constexpr std::string_view FontNomi = "Courier New";
+constexpr double DimensioneNomi = 8; // points
 
 void Linea(ArchivioGrafica& archivio, const PuntoPiano& da, const PuntoPiano& a, const PennaGrafica& penna) {
   archivio.Aggiungi({da.est, da.nord, 0, a.est, a.nord, 0, penna.Spessore, penna.Colore, penna.Stile});
@@ -142,8 +144,8 @@ void DisegnaPunti(const Atto& atto, ArchivioGrafica& archivio) {
                                    ColorePunto(atto, punto, stazione),
                                    {},
                                    0,
-                                   {},
-                                   0});
+                                   std::string(FontNomi),
+                                   DimensioneNomi});
   }
 }
 

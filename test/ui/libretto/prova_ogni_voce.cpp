@@ -26,6 +26,8 @@ struct Stato {
   std::size_t detti = 0;
   std::string appunti;
   bool strumenti = false;
+  bool segnalazioni = false;
+  bool rilievo = false;
   bool aperta = true;
 };
 
@@ -41,6 +43,8 @@ Stato StatoDi(Tavolo& tavolo) {
           banco.dialoghi.detti.size(),
           banco.appunti.testo,
           tavolo.modello.PannelloStrumenti,
+          !tavolo.finestra->findChild<QWidget*>(QStringLiteral("ElencoVerifiche"))->isHidden(),
+          !tavolo.finestra->findChild<QWidget*>(QStringLiteral("PannelloRilievo"))->isHidden(),
           tavolo.finestra->isVisible()};
 }
 
@@ -69,6 +73,8 @@ std::string Differenza(const Stato& prima, const Stato& dopo, const std::vector<
   dici(prima.appunti != dopo.appunti, "appunti");
   dici(prima.detti != dopo.detti, "messaggio");
   dici(prima.strumenti != dopo.strumenti, "pannello");
+  dici(prima.segnalazioni != dopo.segnalazioni, "elenco delle segnalazioni");
+  dici(prima.rilievo != dopo.rilievo, "rilievo");
   dici(prima.aperta != dopo.aperta, "chiusa");
   return detto.empty() ? "niente" : detto;
 }
@@ -130,6 +136,10 @@ TEST(OgniVoce, DelMenuFaCioCheDice) {
       {"Seleziona Stazioni", "selezione"},
       {"Seleziona Squadri", "selezione"},
       {"Seleziona Contorni", "selezione"},
+      {"Elenco delle Segnalazioni", "elenco delle segnalazioni"},
+      {"Segnalazione Successiva", "selezione"},
+      {"Segnalazione Precedente", "selezione"},
+      {"Rilievo accanto alle Righe", "rilievo"},
       {"Righe 8 - (P, N, E)", "righe, selezione"},
       {"Righe 8 Nome Auto (N, E)", "righe, selezione"},
       {"Righe Complete", "righe, selezione"},
