@@ -210,7 +210,7 @@ public:
 
   // A stretch, the same in either direction; 0 when an end is no point.
   [[nodiscard]] std::uint64_t Tratto(std::string_view a, std::string_view b) const {
-    const auto [minore, maggiore] = std::minmax(Di(a), Di(b));
+    const auto [minore, maggiore] = std::minmax({Di(a), Di(b)}); // by value: the places are made here
     constexpr unsigned bit = 32;
     return minore == 0 ? 0 : maggiore << bit | minore;
   }
