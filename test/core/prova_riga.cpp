@@ -71,6 +71,14 @@ TEST(Split, TrecentoUnoCampiBastanoIlSuccessivoEErrore) {
   EXPECT_EQ(SplitRiga("6|" + std::string(1000000, '|')).UltimoCampo, 0);
 }
 
+TEST(Gps, DallaForma) {
+  for (const char* riga : {"6|L1|", "6|L2|x|", "6|x|BAS|", "6|a|RTK|b|", "6|DATA|PDOP=2.5|", "6|DATA|GDOP=3|"})
+    EXPECT_TRUE(Riga6Gps(riga)) << riga;
+  for (const char* riga : {"6|x|L1|", "6|BASE|RTKX|", "6|x PDOP=2|GDOP|"}) EXPECT_FALSE(Riga6Gps(riga)) << riga;
+  EXPECT_TRUE(RigaGps("2|1|1.0,2.0,3.0|"));
+  EXPECT_FALSE(RigaGps("2|1|10.0|20,5|"));
+}
+
 TEST(Note, TogliMarcatori) {
   EXPECT_EQ(TogliMarcatoriNota(" SPIG <P!> <PD><8=>"), "SPIG");
   EXPECT_EQ(TogliMarcatoriNota("<P<8Q>D>x"), "<PD>x"); // what a later removal joins is not looked at again

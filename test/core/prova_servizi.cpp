@@ -1,5 +1,6 @@
 #include "sostituti/banco.h"
 
+#include <base/avanzamento.h>
 #include <base/errore.h>
 #include <base/percorsi.h>
 #include <base/piano.h>
@@ -41,6 +42,20 @@ TEST(MostraErrore, OgniGuastoHaIlSuoRapporto) {
   EXPECT_TRUE(Contiene(rapporto([] { throw std::bad_alloc(); }), " : 7\r\n"));
   EXPECT_TRUE(Contiene(rapporto([] { throw std::out_of_range("difetto"); }), " : 51\r\nErrore interno: difetto"));
   EXPECT_TRUE(Intrappola(banco.ambiente, [] {}));
+}
+
+TEST(Avanzamento, SiDiceSoloDiGiriLunghiECentoVolteAlPiu) {
+  const auto detti = [](std::size_t totale) {
+    Banco banco;
+    {
+      Avanzamento avanzamento(banco.dialoghi, "giro", totale);
+      for (std::size_t i = 0; i < totale; ++i) avanzamento.Fatto(i);
+    }
+    return banco.dialoghi.avanzamenti;
+  };
+  EXPECT_EQ(detti(32768), Righe{});
+  EXPECT_EQ(detti(70000), (Righe{"giro 32768/70000", "giro 65536/70000", "giro 70000/70000"}));
+  EXPECT_EQ(detti(10'000'000).size(), 100U);
 }
 
 TEST(Servizi, CartelleUnLivelloAllaVolta) {

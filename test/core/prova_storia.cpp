@@ -18,13 +18,14 @@ using prova::Testo;
 struct Fotografia {
   std::vector<std::string> righe;
   std::string libretto;
-  std::string ditta;
+  std::string ditta; // and the fiscal code
   std::string file;
   bool operator==(const Fotografia&) const = default;
 };
 
 Fotografia Foto(const Banco& banco) {
-  return {banco.Righe(), banco.sessione.Libretto, banco.sessione.Ditta, banco.sessione.NomeFileLibretto};
+  return {banco.Righe(), banco.sessione.Libretto, banco.sessione.Ditta + banco.sessione.CodiceFiscale,
+          banco.sessione.NomeFileLibretto};
 }
 
 // One change of any kind, as commands make them.
@@ -48,6 +49,7 @@ void Cambia(Banco& banco, std::mt19937& caso) {
     return banco.Apri(banco.sessione.Libretto, "C:\\" + nuova.substr(2, 1) + ".DAT");
   case 4:
     banco.sessione.Ditta += "X";
+    banco.sessione.CodiceFiscale = "Y" + nuova;
     return;
   default:
     return subRiordinoRighe(banco.ambiente);

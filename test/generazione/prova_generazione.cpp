@@ -56,6 +56,28 @@ TEST(LibrettoDaDisegno, UnDisegnoDiventaUnLibrettoSuDisco) {
   EXPECT_EQ(d.dialoghi.detti[0].titolo, "Note o Descrizioni mancanti");
 }
 
+TEST(LibrettoDaDisegno, IlQuadroMostraRaggiLineeEContorni) {
+  Disegno d;
+  d.Genera(ConBase({"7,|101|102|RC|200|NC|,DIVIDENTE,"}));
+  std::map<int, int> perColore;
+  for (const LineaGrafica& linea : d.condiviso.archivio.Linee()) ++perColore[linea.Colore];
+  EXPECT_EQ(perColore, (std::map<int, int>{{0, 1}, {7, 2}, {9, 1}, {12, 1}}));
+}
+
+TEST(LibrettoDaDisegno, LeRigheUgualiVicineSonoUnaEIlRapportoDiceTutto) {
+  Disegno d;
+  const Righe dueVolte = ConBase({"7,|101|102|RC|,A,", "7,|101|102|RC|,A,"});
+  EXPECT_EQ(CheIniziano(d.Genera(dueVolte, {"COMMENTI_DUPLICATI=1"}), "7|"), Righe{"7|2|101|102|RC|"});
+  EXPECT_EQ(d.rapporto, (Righe{"Azzera su Stazione Precedente", "Carica Poligonali da Contorni 3", "Stazione : 100",
+                               "Stazione : 200", "Carica Squadri dal Disegno", "Carica Righe 7 dal Disegno",
+                               "Mantiene Censuario Esistente", "Carica Righe 8 dal Disegno"}));
+  d.Genera(dueVolte, {"MANTIENI_3_7=1", "ORIENTA_AZIMUT=1", "ELIMINA_PUNTI_NOTE=1", "METTI_CS=1"}, {"6|nota|"});
+  EXPECT_EQ(d.rapporto, (Righe{"Calcola Tutti Azimut", "Mantiene Poligonali del Libretto", "Stazione : 100",
+                               "Stazione : 200", "Carica Squadri dal Disegno", "Mantiene Righe 7 del Disegno",
+                               "Mantiene Censuario Esistente", "Carica Righe 8 dal Disegno",
+                               "Eliminati punti da descrizioni", "Mette CS su righe 2 sequenzialmente duplicate"}));
+}
+
 TEST(LibrettoDaDisegno, SenzaOrientamentoOConUnGuastoNienteCambia) {
   Disegno d;
   const Righe vecchie = {"1|100|CHIODO|", "2|101|0.000|70.721|SPIGOLO|"};
@@ -144,6 +166,21 @@ TEST(Misure, OrientamentoMarcheEArrotondamento) {
     Disegno d;
     const Righe righe = d.Genera(ConBase(caso.altre), caso.opzioni);
     EXPECT_NE(std::find(righe.begin(), righe.end(), caso.attesa), righe.end()) << caso.attesa << "\n" << Testo(righe);
+  }
+}
+
+TEST(Angoli, LaLetturaRestaSottoIlGiro) {
+  struct Caso {
+    double lettura; // to the north
+    PuntoPiano punto;
+    double attesa;
+  };
+  for (const auto& [lettura, punto, attesa] :
+       {Caso{0, {0, 5}, 0}, Caso{0, {5, 0}, 100}, Caso{0, {0, -5}, 200}, Caso{0, {-5, 0}, 300}, Caso{300, {5, 0}, 0},
+        Caso{200, {0, -5}, 0}, Caso{399, {5, 0}, 99}, Caso{-100, {5, 0}, 0}, Caso{-150, {5, 0}, 350}}) {
+    const Lettura letta = AngoloDaOrientamento({{0, 0}, {0, 1}, Gon(lettura)}, punto);
+    EXPECT_DOUBLE_EQ(letta.angolo.Valore(), attesa) << lettura << " " << punto.est << " " << punto.nord;
+    EXPECT_EQ(letta.distanza, 5);
   }
 }
 

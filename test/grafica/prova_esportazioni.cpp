@@ -120,6 +120,11 @@ TEST_F(Esportazioni, IlFileDiScambio) {
   EXPECT_TRUE(grafica.FineProgramma());
 }
 
+TEST(Pittura, ICorpiDaUnoATrecentoPunti) {
+  for (const auto& [punti, pixel] : {std::pair{0.2, 4.0}, {1, 4}, {1.5, 6}, {300, 1200}, {900, 1200}})
+    EXPECT_DOUBLE_EQ(pittura::PixelTesto(punti, 3), pixel) << punti;
+}
+
 TEST(Svg, CioCheSiVedeInPixel) {
   Operazioni lista;
   lista.scala = {-20, 10, 20, -10};

@@ -59,8 +59,9 @@ public:
   Carattere carattereScelto;
   std::vector<std::string> stampati; // title, "/V" or "/O", and the lines, each behind a bar
   int stampantiScelte = 0;
-  std::string atteso;    // what was waited for last
-  bool rinuncia = false; // gives up at once
+  std::vector<std::string> avanzamenti; // "LAVORO FATTO/TOTALE"
+  std::string atteso;                   // what was waited for last
+  bool rinuncia = false;                // gives up at once
 
   void Messaggio(std::string_view testo, std::string_view titolo, Gravita gravita) override;
   [[nodiscard]] Risposta Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) override;
@@ -71,7 +72,9 @@ public:
   [[nodiscard]] Carattere ScegliCarattere(const Carattere& attuale) override;
   void ScegliStampante() override { ++stampantiScelte; }
   void Stampa(const Stampato& stampato) override;
-  void Avanzamento(std::string_view, std::size_t, std::size_t) override {}
+  void Avanzamento(std::string_view lavoro, std::size_t fatto, std::size_t totale) override {
+    avanzamenti.push_back(std::string(lavoro) + " " + std::to_string(fatto) + "/" + std::to_string(totale));
+  }
   [[nodiscard]] bool Attesa(std::string_view cosa) override {
     atteso = cosa;
     return !rinuncia;

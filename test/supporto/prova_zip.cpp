@@ -250,7 +250,12 @@ TEST(Esplodi, LaBombaSiFermaAlLimite) {
   EXPECT_EQ(t.Errore(bomba, {(8U << 20U) - 1, 10}), errore::Overflow);
   EXPECT_EQ(t.Estratti(), "");
   EXPECT_EQ(t.Errore(bomba, {8U << 20U, 1}), 0);
+  EXPECT_EQ(t.Errore(ArchivioFinto({{"a"}, {"b"}, {"c"}}), {11, 10}), errore::Overflow) << "the sum of four bytes each";
+  EXPECT_EQ(t.Errore(ArchivioFinto({{"a"}, {"b"}, {"c"}}), {12, 3}), 0);
+  t.dialoghi.avanzamenti.clear();
   EXPECT_EQ(t.Errore(ArchivioFinto({{"/x"}, {"a"}, {"b"}}), {1000, 2}), errore::Overflow);
+  EXPECT_EQ(t.dialoghi.avanzamenti,
+            (std::vector<std::string>{"Estrazione dell'archivio 0/3", "Estrazione dell'archivio 1/3"}));
   EXPECT_EQ(t.disco.Contenuto("C:\\zip\\F\\a"), "dati") << "what came before the limit stays";
   EXPECT_TRUE(Contiene(t.dialoghi.UltimoTesto(), "/x - porta fuori"));
 }
