@@ -4,6 +4,7 @@
 #include <base/testo.h>
 #include <grafica/esportazioni.h>
 #include <grafica/grafica.h>
+#include <grafica/pittura.h>
 #include <grafica/svg.h>
 
 #include <gtest/gtest.h>
@@ -121,8 +122,8 @@ TEST_F(Esportazioni, IlFileDiScambio) {
 }
 
 TEST(Pittura, ICorpiDaUnoATrecentoPunti) {
-  for (const auto& [punti, pixel] : {std::pair{0.2, 4.0}, {1, 4}, {1.5, 6}, {300, 1200}, {900, 1200}})
-    EXPECT_DOUBLE_EQ(pittura::PixelTesto(punti, 3), pixel) << punti;
+  const std::vector<std::pair<double, double>> casi = {{0.2, 4}, {1, 4}, {1.5, 6}, {300, 1200}, {900, 1200}};
+  for (const auto& [punti, pixel] : casi) EXPECT_DOUBLE_EQ(pittura::PixelTesto(punti, 3), pixel) << punti;
 }
 
 TEST(Svg, CioCheSiVedeInPixel) {
