@@ -34,24 +34,20 @@ constexpr std::string_view CodaFoglio = "6|DISTORSIONE|1.5|\r\n6|SCALAORIGINARIA
 constexpr std::string_view CodaInquadramento = "|0.1693333333|0|0|0|\r\n";
 constexpr std::string_view SuperficieIgnota = "20";
 
-// The vertices by their text: each once, in text order, and the place in that order of each vertex of the sheet.
+struct ImprontaVertice {
+  std::size_t operator()(const VerticeCxf& vertice) const {
+    constexpr std::size_t dispari = 0x9E3779B97F4A7C15U;
+    return std::hash<std::string_view>{}(vertice.est) * dispari + std::hash<std::string_view>{}(vertice.nord);
+  }
+};
+
+// The vertices by their text: each once, in the order of the texts "|east|north|", and the place in that order of each
+// vertex of the sheet.
 class VerticiOrdinati {
 public:
-  explicit VerticiOrdinati(const std::vector<VerticeCxf>& vertici) : posti_(vertici.size()) {
-    ScriviTesti(vertici);
-    std::vector<std::uint32_t> diversi;
-    std::unordered_map<std::string_view, std::uint32_t> primi;
-    primi.reserve(vertici.size());
-    for (std::size_t i = 0; i < vertici.size(); ++i) {
-      const auto [primo, nuovo] = primi.try_emplace(Testo(i), static_cast<std::uint32_t>(i));
-      posti_[i] = primo->second;
-      if (nuovo) diversi.push_back(static_cast<std::uint32_t>(i));
-    }
-    std::sort(diversi.begin(), diversi.end(), [this](auto a, auto b) { return Testo(a) < Testo(b); });
-    std::vector<std::uint32_t> ordine(vertici.size());
-    for (std::size_t i = 0; i < diversi.size(); ++i) ordine[diversi[i]] = static_cast<std::uint32_t>(i);
+  explicit VerticiOrdinati(const std::vector<VerticeCxf>& vertici) {
+    const std::vector<std::uint32_t> ordine = Ordina(Raccogli(vertici));
     for (std::uint32_t& posto : posti_) posto = ordine[posto];
-    for (const std::uint32_t quale : diversi) Diversi.push_back(vertici[quale]);
   }
 
   std::vector<VerticeCxf> Diversi;
@@ -59,22 +55,36 @@ public:
   [[nodiscard]] std::size_t Posto(std::size_t vertice) const { return posti_[vertice]; }
 
 private:
-  // A vertex as a row of the ordered list: "|east|north|".
-  void ScriviTesti(const std::vector<VerticeCxf>& vertici) {
-    inizi_.reserve(vertici.size() + 1);
-    for (const auto& [est, nord] : vertici) {
-      inizi_.push_back(testi_.size());
-      testi_.append("|").append(est).append("|").append(nord).append("|");
+  // Each vertex once, in the order of the sheet; posti_ says which one each vertex is.
+  std::vector<VerticeCxf> Raccogli(const std::vector<VerticeCxf>& vertici) {
+    std::vector<VerticeCxf> raccolti;
+    std::unordered_map<VerticeCxf, std::uint32_t, ImprontaVertice> primi;
+    posti_.reserve(vertici.size());
+    for (const VerticeCxf& vertice : vertici) {
+      const auto [primo, nuovo] = primi.try_emplace(vertice, static_cast<std::uint32_t>(raccolti.size()));
+      if (nuovo) raccolti.push_back(vertice);
+      posti_.push_back(primo->second);
     }
-    inizi_.push_back(testi_.size());
+    return raccolti;
   }
 
-  [[nodiscard]] std::string_view Testo(std::size_t vertice) const {
-    return std::string_view(testi_).substr(inizi_[vertice], inizi_[vertice + 1] - inizi_[vertice]);
+  // Their order into Diversi; the answer is the place that each has in it.
+  std::vector<std::uint32_t> Ordina(const std::vector<VerticeCxf>& raccolti) {
+    std::vector<std::pair<std::string, std::uint32_t>> testi;
+    testi.reserve(raccolti.size());
+    for (const auto& [est, nord] : raccolti)
+      testi.emplace_back(std::string(est).append("|").append(nord).append("|"),
+                         static_cast<std::uint32_t>(testi.size()));
+    std::sort(testi.begin(), testi.end());
+    std::vector<std::uint32_t> ordine(raccolti.size());
+    Diversi.reserve(raccolti.size());
+    for (const auto& [testo, quale] : testi) {
+      ordine[quale] = static_cast<std::uint32_t>(Diversi.size());
+      Diversi.push_back(raccolti[quale]);
+    }
+    return ordine;
   }
 
-  std::string testi_;
-  std::vector<std::size_t> inizi_;
   std::vector<std::uint32_t> posti_;
 };
 
@@ -157,7 +167,9 @@ std::string SplittaSette(std::string_view riga, std::string_view coda) {
 
 std::string EmpDaFoglio(const FoglioCxf& foglio, SuperficiSup& superfici) {
   const VerticiOrdinati vertici(foglio.vertici);
-  std::string testo(TestataFoglio);
+  std::string testo;
+  testo.reserve(64 * vertici.Diversi.size() + 8 * foglio.vertici.size() + 64 * foglio.bordi.size());
+  testo += TestataFoglio;
   for (std::size_t i = 0; i < vertici.Diversi.size(); ++i) {
     testo += "8|";
     AggiungiIdentificativo(testo, i);

@@ -35,6 +35,7 @@ namespace lirmeto {
 struct VerticeCxf {
   std::string_view est; // whole lines of the file, blanks and all
   std::string_view nord;
+  bool operator==(const VerticeCxf&) const = default;
 };
 
 struct BordoCxf {

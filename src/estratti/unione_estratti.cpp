@@ -12,7 +12,6 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -49,17 +48,16 @@ PuntoSommato PuntoDi(std::string_view riga) {
 
 std::vector<std::string> AnelliDi(const std::vector<std::string_view>& righe) {
   const auto teste = TesteDegliAnelli(righe);
-  std::vector<std::string> perTesta(righe.size());
+  std::vector<std::string> anelli;
   for (std::size_t i = 0; i < righe.size(); ++i) {
     if (teste[i] == NessunaTesta) continue;
-    std::string& anello = perTesta[teste[i]];
-    if (teste[i] != i) anello += FineRiga;
-    anello += righe[i];
+    if (teste[i] == i)
+      anelli.emplace_back(righe[i]);
+    else
+      anelli.back().append(FineRiga).append(righe[i]);
   }
-  std::erase_if(perTesta, [](const std::string& anello) {
-    return anello.empty() || anello.find_first_of("TLP") != std::string::npos;
-  });
-  return perTesta;
+  std::erase_if(anelli, [](const std::string& anello) { return anello.find_first_of("TLP") != std::string::npos; });
+  return anelli;
 }
 
 Addendo LeggiAddendo(std::string_view testo) {
@@ -89,91 +87,92 @@ std::string ConCampi(std::string_view riga, Traduci traduci) {
 
 // The second's numbering behind the first's, `cima` being the first's last number.
 void SpostaNumeri(Addendo& addendo, double cima) {
-  const auto sposta = [cima](std::string_view campo, bool /*traBarre*/) {
-    return campo.ends_with('%') ? TestoPieno(Valore(campo) + cima) + "%" : std::string(campo);
+  std::string spostato;
+  const auto sposta = [&](std::string_view campo, bool /*traBarre*/) -> std::string_view {
+    if (!campo.ends_with('%')) return campo;
+    return spostato = TestoPieno(Valore(campo) + cima) + "%";
   };
   for (PuntoSommato& punto : addendo.punti) punto.riga = ConCampi(punto.riga, sposta);
   for (std::string& anello : addendo.anelli) anello = ConCampi(anello, sposta);
 }
 
-// Points by the square they lie in. Squares of twice the distance that counts: what is nearer than that lies in the same
-// or a neighbouring one, however the division is rounded.
-class Quadretti {
-public:
-  explicit Quadretti(const std::vector<PuntoSommato>& punti) : punti_(punti), seguenti_(punti.size(), Nessuno) {
-    primi_.reserve(punti.size());
-    for (std::size_t i = punti.size(); i > 0; --i) {
-      const auto posto = static_cast<std::uint32_t>(i - 1);
-      const auto [primo, nuovo] = primi_.try_emplace(QuadrettoDi(punti[posto], 0, 0), posto);
-      if (!nuovo) seguenti_[posto] = std::exchange(primo->second, posto);
-    }
-  }
+// Points in strips of the plane, from south to north, those of a strip from west to east. Strips of twice the distance
+// that counts: what is nearer than that lies in the same or a neighbouring one, however the division is rounded. Whoever
+// asks for points in that order finds them near each other in memory.
+struct PuntoInStriscia {
+  double striscia = 0;
+  double est = 0;
+  std::uint32_t posto = 0; // of the point in its extract
 
-  static constexpr std::uint32_t Nessuno = UINT32_MAX;
-
-  // The first point, in their order, less than a millimetre away.
-  [[nodiscard]] std::uint32_t Comune(const PuntoSommato& punto) const {
-    std::uint32_t trovato = Nessuno;
-    for (const double nord : {-1., 0., 1.})
-      for (const double est : {-1., 0., 1.}) {
-        const auto primo = primi_.find(QuadrettoDi(punto, nord, est));
-        if (primo != primi_.end()) trovato = std::min(trovato, NelQuadretto(primo->second, punto));
-      }
-    return trovato;
-  }
-
-private:
-  struct Quadretto {
-    double nord;
-    double est;
-    bool operator==(const Quadretto&) const = default;
-  };
-  struct Impronta {
-    std::size_t operator()(const Quadretto& quadretto) const {
-      constexpr std::size_t dispari = 0x9E3779B97F4A7C15U;
-      return (std::hash<double>{}(quadretto.nord) * dispari) ^ std::hash<double>{}(quadretto.est);
-    }
-  };
-
-  static Quadretto QuadrettoDi(const PuntoSommato& punto, double nord, double est) {
-    constexpr double lato = 2 * DistanzaComune;
-    return {std::floor(punto.nord / lato) + nord, std::floor(punto.est / lato) + est};
-  }
-
-  [[nodiscard]] std::uint32_t NelQuadretto(std::uint32_t posto, const PuntoSommato& punto) const {
-    while (posto != Nessuno &&
-           DistanzaPiana({punti_[posto].est, punti_[posto].nord}, {punto.est, punto.nord}) >= DistanzaComune)
-      posto = seguenti_[posto];
-    return posto;
-  }
-
-  const std::vector<PuntoSommato>& punti_;
-  std::unordered_map<Quadretto, std::uint32_t, Impronta> primi_;
-  std::vector<std::uint32_t> seguenti_; // of the same square, in order
+  auto operator<=>(const PuntoInStriscia&) const = default;
 };
+
+std::vector<PuntoInStriscia> InStrisce(const std::vector<PuntoSommato>& punti) {
+  constexpr double altezza = 2 * DistanzaComune;
+  std::vector<PuntoInStriscia> strisce;
+  strisce.reserve(punti.size());
+  for (std::uint32_t i = 0; i < punti.size(); ++i)
+    strisce.push_back({std::floor(punti[i].nord / altezza), punti[i].est, i});
+  std::sort(strisce.begin(), strisce.end());
+  return strisce;
+}
+
+constexpr std::uint32_t Nessuno = UINT32_MAX;
+
+// The first of the points, in the order of their extract, that is less than a millimetre away.
+std::uint32_t PuntoComune(const std::vector<PuntoInStriscia>& strisce, const std::vector<PuntoSommato>& punti,
+                          const PuntoInStriscia& cercato, const PuntoSommato& punto) {
+  std::uint32_t trovato = Nessuno;
+  for (const double passo : {-1., 0., 1.}) {
+    const double striscia = cercato.striscia + passo;
+    const PuntoInStriscia inizio{striscia, punto.est - 2 * DistanzaComune, 0};
+    auto voce = std::lower_bound(strisce.begin(), strisce.end(), inizio);
+    for (; voce != strisce.end() && voce->striscia == striscia && voce->est <= punto.est + 2 * DistanzaComune; ++voce)
+      if (voce->posto < trovato &&
+          DistanzaPiana({punti[voce->posto].est, punti[voce->posto].nord}, {punto.est, punto.nord}) < DistanzaComune)
+        trovato = voce->posto;
+  }
+  return trovato;
+}
 
 // Replacements of one name by another, made one after the other, as one: what each name reads at the end. Looked at from
 // the last to the first, a name that is brought in has its end already.
-using NomiFinali = std::unordered_map<std::string_view, std::string_view>;
 using Cambi = std::vector<std::pair<std::string_view, std::string_view>>;
 
-NomiFinali InFila(const Cambi& cambi) {
-  NomiFinali finali;
-  finali.reserve(cambi.size());
-  for (auto cambio = cambi.rbegin(); cambio != cambi.rend(); ++cambio) {
-    const auto dopo = finali.find(cambio->second);
-    finali[cambio->first] = dopo == finali.end() ? cambio->second : dopo->second;
+class NomiFinali {
+public:
+  NomiFinali(const Cambi& cambi, std::size_t attesi) : indice_(attesi, '%') {
+    finali_.reserve(cambi.size());
+    for (auto cambio = cambi.rbegin(); cambio != cambi.rend(); ++cambio) {
+      const std::string_view finale = Di(cambio->second);
+      const std::uint32_t posto = indice_.Cerca(cambio->first);
+      if (posto != IndiceIdentificativi::Nessuno) {
+        finali_[posto] = finale;
+        continue;
+      }
+      indice_.Aggiungi(cambio->first, static_cast<std::uint32_t>(finali_.size()));
+      finali_.push_back(finale);
+    }
   }
-  return finali;
-}
+
+  [[nodiscard]] std::string_view Di(std::string_view nome) const {
+    const std::uint32_t posto = indice_.Cerca(nome);
+    return posto == IndiceIdentificativi::Nessuno ? nome : finali_[posto];
+  }
+
+private:
+  IndiceIdentificativi indice_;
+  std::vector<std::string_view> finali_;
+};
 
 // The points of the second that lie on one of the first, as pairs (first, second) in the order of the first.
 std::vector<std::pair<std::uint32_t, std::uint32_t>> PuntiComuni(const Addendo& primo, const Addendo& secondo) {
-  const Quadretti quadretti(primo.punti);
+  const auto strisce = InStrisce(primo.punti);
   std::vector<std::pair<std::uint32_t, std::uint32_t>> comuni;
-  for (std::size_t i = 0; i < secondo.punti.size(); ++i)
-    if (const auto comune = quadretti.Comune(secondo.punti[i]); comune != Quadretti::Nessuno)
-      comuni.emplace_back(comune, static_cast<std::uint32_t>(i));
+  for (const PuntoInStriscia& cercato : InStrisce(secondo.punti)) {
+    const auto comune = PuntoComune(strisce, primo.punti, cercato, secondo.punti[cercato.posto]);
+    if (comune != Nessuno) comuni.emplace_back(comune, cercato.posto);
+  }
   std::sort(comuni.begin(), comuni.end());
   return comuni;
 }
@@ -184,11 +183,8 @@ void FondiPunti(const Addendo& primo, Addendo& secondo) {
   Cambi cambi;
   cambi.reserve(comuni.size());
   for (const auto& [a, b] : comuni) cambi.emplace_back(Campo(secondo.punti[b].riga, 1), Campo(primo.punti[a].riga, 1));
-  const NomiFinali finali = InFila(cambi);
-  const auto traduci = [&finali](std::string_view campo, bool traBarre) {
-    const auto finale = traBarre ? finali.find(campo) : finali.end();
-    return finale == finali.end() ? campo : finale->second;
-  };
+  const NomiFinali finali(cambi, primo.punti.size() + secondo.punti.size());
+  const auto traduci = [&finali](std::string_view campo, bool traBarre) { return traBarre ? finali.Di(campo) : campo; };
   for (std::string& anello : secondo.anelli) anello = ConCampi(anello, traduci);
   for (const auto& [a, b] : comuni) secondo.punti[b].riga.clear();
   std::erase_if(secondo.punti, [](const PuntoSommato& punto) { return punto.riga.empty(); });
