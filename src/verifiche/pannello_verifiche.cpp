@@ -70,6 +70,7 @@ bool PannelloVerifiche::Passa(const Segnalazione& s) const {
 // What was chosen is no longer: the list is another one.
 void PannelloVerifiche::Filtra() {
   const auto& tutte = verificatore_.Segnalazioni();
+  ++versioneElenco_;
   scelta_.reset();
   voci_.clear();
   for (std::size_t i = 0; i < tutte.size(); ++i)

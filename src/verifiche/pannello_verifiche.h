@@ -36,6 +36,8 @@ public:
   // By another column from the smallest on; by the same one the other way round.
   void Ordina(OrdineVerifiche ordine);
 
+  // Grows when the list becomes another one.
+  [[nodiscard]] unsigned long Versione() const { return versioneElenco_; }
   // What the list shows, from 0.
   [[nodiscard]] std::size_t Quante() const { return voci_.size(); }
   [[nodiscard]] const Segnalazione& Voce(std::size_t indice) const {
@@ -66,6 +68,7 @@ private:
 
   Verificatore verificatore_;
   unsigned long versione_ = 0; // of the findings that voci_ is made from
+  unsigned long versioneElenco_ = 0;
   std::array<bool, 3> mostrate_ = {true, true, true};
   std::string cercato_; // in capitals
   OrdineVerifiche ordine_ = OrdineVerifiche::Riga;

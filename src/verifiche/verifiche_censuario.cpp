@@ -2,6 +2,7 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/riga_censuaria.h>
 
 #include <algorithm>
 #include <array>
@@ -13,25 +14,7 @@ namespace lirmeto {
 
 namespace {
 
-constexpr std::size_t Colonne = 70;
-constexpr std::array<std::size_t, 13> Barre = {2, 4, 10, 14, 17, 23, 33, 36, 39, 45, 49, 52, 70}; // from 1
-constexpr std::string_view Intestazione = "6|Dati per aggiornare il D.B. Censuario dell'Ufficio Tecnico Erariale|";
-constexpr double SenzaClasse = 200; // from this code on a quality has no class
-
-// Fields of a data row, by their place between the bars.
-namespace campo {
-constexpr std::size_t Operazione = 1;
-constexpr std::size_t Particella = 2;
-constexpr std::size_t Lettera = 4;
-constexpr std::size_t Temporaneo = 5;
-constexpr std::size_t Area = 6;
-constexpr std::size_t Qualita = 10;
-constexpr std::size_t Classe = 11;
-} // namespace campo
-
-bool RigaConteggio(std::string_view riga) {
-  return riga.starts_with("6|51FTP|") || riga.starts_with("6|3SPC |") || riga.starts_with("6|M31FU|");
-}
+constexpr std::array<std::size_t, 13> Barre = {2, 4, 10, 14, 17, 23, 33, 36, 39, 45, 49, 52, 70}; // columns, from 1
 
 struct SezioneCensuaria {
   std::size_t riga = 0; // of its count row
@@ -54,18 +37,18 @@ public:
   }
 
 private:
-  [[nodiscard]] std::string_view Campo(std::size_t riga, std::size_t indice) const {
-    return Taglia(Parte(atto_.righe.Testo(riga), '|', indice));
+  [[nodiscard]] std::string_view Campo(std::size_t riga, const CampoCensuario& campo) const {
+    return Taglia(LeggiCampo(atto_.righe.Testo(riga), campo));
   }
 
   void Riga(std::size_t i) {
     const std::string_view riga = atto_.righe.Testo(i);
-    if (riga.size() != Colonne)
+    if (riga.size() != LunghezzaCensuaria)
       return raccolta_.Riga(RegolaDi("M001"), i, 0, {TestoIntero(static_cast<long long>(riga.size()))});
-    if (riga == Intestazione) return;
-    if (RigaConteggio(riga)) {
-      const double conta = std::max(0.0, Misura(Campo(i, 2)));
-      sezioni_.push_back({i, std::string(Campo(i, 1)), static_cast<std::size_t>(conta), {}});
+    if (riga == censuario::Intestazione) return;
+    if (ApreSezione(riga)) {
+      const double conta = std::max(0.0, Misura(Campo(i, censuario::Conteggio)));
+      sezioni_.push_back({i, std::string(Campo(i, censuario::Sezione)), static_cast<std::size_t>(conta), {}});
       return;
     }
     Dati(i);
@@ -79,45 +62,44 @@ private:
     if (storta != Barre.end())
       return raccolta_.Riga(RegolaDi("M002"), i, 0, {TestoIntero(static_cast<long long>(*storta))});
     VerificaQualita(i);
-    if (Campo(i, campo::Operazione) == "C") VerificaCostituita(i);
-    if (Campo(i, campo::Operazione) == "O") VerificaOriginaria(i);
+    if (Campo(i, censuario::Operazione) == "C") VerificaCostituita(i);
+    if (Campo(i, censuario::Operazione) == "O") VerificaOriginaria(i);
   }
 
   void VerificaQualita(std::size_t i) {
-    const std::string_view codice = Campo(i, campo::Qualita);
+    const std::string_view codice = Campo(i, censuario::Qualita);
     if (codice.empty() || codice == "000") return;
-    if (!qualita_.empty() && !qualita_.contains(codice)) raccolta_.Riga(RegolaDi("M007"), i, campo::Qualita, {codice});
-    if (Valore(codice) >= SenzaClasse && !Campo(i, campo::Classe).empty())
-      raccolta_.Riga(RegolaDi("M008"), i, campo::Classe, {codice});
+    if (!qualita_.empty() && !qualita_.contains(codice))
+      raccolta_.Riga(RegolaDi("M007"), i, censuario::Qualita.indice, {codice});
+    if (Valore(codice) >= censuario::PrimaNonAgraria && !Campo(i, censuario::Classe).empty())
+      raccolta_.Riga(RegolaDi("M008"), i, censuario::Classe.indice, {codice});
   }
 
   void VerificaCostituita(std::size_t i) {
-    const std::string_view nome = Campo(i, campo::Temporaneo);
+    const std::string_view nome = Campo(i, censuario::Temporaneo);
     if (!nome.empty() && !temporanei_.insert(nome).second)
-      raccolta_.Riga(RegolaDi("M010"), i, campo::Temporaneo, {nome});
-    const std::string_view lettera = Campo(i, campo::Lettera);
+      raccolta_.Riga(RegolaDi("M010"), i, censuario::Temporaneo.indice, {nome});
+    const std::string_view lettera = Campo(i, censuario::Lettera);
     if (lettera.size() != 1) return;
-    if (lettera.front() != attesa_) raccolta_.Riga(RegolaDi("M005"), i, campo::Lettera, {lettera});
+    if (lettera.front() != attesa_) raccolta_.Riga(RegolaDi("M005"), i, censuario::Lettera.indice, {lettera});
     attesa_ = static_cast<char>(lettera.front() + 1);
   }
 
   void VerificaOriginaria(std::size_t i) {
     const auto& estratto = atto_.intorno.estratto;
-    const std::string_view nome = Campo(i, campo::Particella);
+    const std::string_view nome = Campo(i, censuario::Particella);
     if (estratto && estratto->intestato && !estratto->HaParticella(nome))
-      raccolta_.Riga(RegolaDi("M009"), i, campo::Particella, {nome});
+      raccolta_.Riga(RegolaDi("M009"), i, censuario::Particella.indice, {nome});
   }
 
   void VerificaSezione(const SezioneCensuaria& sezione) {
-    if (sezione.dichiarate != sezione.righe.size()) {
-      const std::string giuste = Formatta(static_cast<double>(sezione.righe.size()), "000");
+    if (sezione.dichiarate != sezione.righe.size() % 1000) { // the count has three digits
       std::string rimedio(atto_.righe.Testo(sezione.riga));
-      constexpr std::size_t conteggio = 8; // columns 9 to 11
-      if (giuste.size() == 3) rimedio.replace(conteggio, giuste.size(), giuste);
-      raccolta_.Riga(RegolaDi("M003"), sezione.riga, 2,
+      SovrascriviCampo(rimedio, censuario::Conteggio, TreCifre(sezione.righe.size()));
+      raccolta_.Riga(RegolaDi("M003"), sezione.riga, censuario::Conteggio.indice,
                      {sezione.nome, TestoIntero(static_cast<long long>(sezione.dichiarate)),
                       TestoIntero(static_cast<long long>(sezione.righe.size()))},
-                     giuste.size() == 3 ? rimedio : std::string{});
+                     std::move(rimedio));
     }
     VerificaRisposte(sezione);
     VerificaAree(sezione);
@@ -126,20 +108,20 @@ private:
   void VerificaRisposte(const SezioneCensuaria& sezione) {
     std::unordered_set<std::string_view> risposte;
     for (const std::size_t i : sezione.righe)
-      if (Campo(i, campo::Operazione) == "S" || Campo(i, campo::Operazione) == "V")
-        risposte.insert(Campo(i, campo::Particella));
+      if (Campo(i, censuario::Operazione) == "S" || Campo(i, censuario::Operazione) == "V")
+        risposte.insert(Campo(i, censuario::Particella));
     for (const std::size_t i : sezione.righe)
-      if (Campo(i, campo::Operazione) == "O" && !risposte.contains(Campo(i, campo::Particella)))
-        raccolta_.Riga(RegolaDi("M006"), i, campo::Particella, {Campo(i, campo::Particella)});
+      if (Campo(i, censuario::Operazione) == "O" && !risposte.contains(Campo(i, censuario::Particella)))
+        raccolta_.Riga(RegolaDi("M006"), i, censuario::Particella.indice, {Campo(i, censuario::Particella)});
   }
 
   void VerificaAree(const SezioneCensuaria& sezione) {
     double originarie = 0;
     double nuove = 0;
     for (const std::size_t i : sezione.righe) {
-      const std::string_view operazione = Campo(i, campo::Operazione);
-      if (operazione == "O") originarie += Misura(Campo(i, campo::Area));
-      if (operazione == "C" || operazione == "V") nuove += Misura(Campo(i, campo::Area));
+      const std::string_view operazione = Campo(i, censuario::Operazione);
+      if (operazione == "O") originarie += Misura(Campo(i, censuario::Area));
+      if (operazione == "C" || operazione == "V") nuove += Misura(Campo(i, censuario::Area));
     }
     if (nuove > 0 && nuove != originarie)
       raccolta_.Riga(RegolaDi("M004"), sezione.riga, 0,

@@ -11,6 +11,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace lirmeto::ui {
 
 namespace {
@@ -171,7 +173,8 @@ void ElencoVerifiche::CreaTabella() {
 
 void ElencoVerifiche::Mostra() {
   const QScopedValueRollback mostra(mostra_, true);
-  dati_->Rifai();
+  // The place where the user has scrolled to stays while the list is the same.
+  if (std::exchange(versione_, modello_.Versione()) != modello_.Versione()) dati_->Rifai();
   for (const Severita severita : Severe)
     filtri_.at(static_cast<std::size_t>(severita))
         ->setText(QString::number(QuanteDi(modello_.Esito().Quante(), severita)));

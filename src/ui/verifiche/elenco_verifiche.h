@@ -60,7 +60,8 @@ private:
   QLineEdit* cerca_;
   std::array<QToolButton*, 3> filtri_{}; // by severity
   QToolButton* rimedio_ = nullptr;
-  bool mostra_ = false; // the selection is being set from the panel
+  unsigned long versione_ = 0; // of the list that the table shows
+  bool mostra_ = false;        // the selection is being set from the panel
 };
 
 } // namespace lirmeto::ui
