@@ -31,7 +31,7 @@ struct Scritte {
   std::vector<std::string> risposte;
   std::string uscita;
   std::array<std::string, 7> argomenti; // as many as a command has at most
-  std::vector<std::string> altri; // of an argument that is given more than once
+  std::vector<std::string> altri;       // of an argument that is given more than once
 };
 
 // Whole number of exactly so many digits.

@@ -84,8 +84,9 @@ TEST_P(Variazione, AggiungeAllUltimaSezione) {
   banco.sessione.Libretto = Testo(GetParam().memo);
   KR_TMVariazione form(banco.ambiente, banco.Particella("6|PARTICELLA|79|02|PRATO       |100||||SN|"));
   form.Form_Load();
-  EXPECT_EQ(std::string(form.List1[2]) + std::string(form.List1[3]), Dati("O|79   |000|  |     |000000100|SN|  |     |005|02|") +
-                                               Dati("V|79   |000|  |     |000000100|SN|  |     |282|  |"));
+  EXPECT_EQ(std::string(form.List1[2]) + std::string(form.List1[3]),
+            Dati("O|79   |000|  |     |000000100|SN|  |     |005|02|") +
+                Dati("V|79   |000|  |     |000000100|SN|  |     |282|  |"));
   form.Premi(4);
   Righe conteggi;
   for (const auto riga : form.List2.Righe())
