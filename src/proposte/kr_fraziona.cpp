@@ -52,7 +52,7 @@ std::string KR_Fraziona::NomeDellaNuova(std::size_t riga) const {
 // The first derived parcel takes one square metre of the difference, however large it is, and in the grid alone: its
 // census row keeps the value before. Meant so; the findings tell.
 void KR_Fraziona::Concludi() {
-  const double differenza = DifferenzaAree();
+  const double differenza = DifferenzaGriglia();
   if (differenza != 0) {
     const double corretta = MSFlexGrid1.ValoreCella(Grid::PrimaDerivata, Grid::Area) + (differenza > 0 ? -1 : 1);
     MSFlexGrid1.Metti(Grid::PrimaDerivata, Grid::Area, TestoPieno(corretta));

@@ -48,7 +48,8 @@ bool KR_Stralcio::ConClasse(std::string_view qualita) const {
 // Quality and class follow the origin, whatever the derived parcel is: meant so; the findings tell where a class stands
 // on a quality that has none.
 void KR_Stralcio::Concludi() {
-  MSFlexGrid1.Dipingi(Grid::Originale, Grid::Area, DifferenzaAree() != 0 ? ColoreCella::Giallo : ColoreCella::Bianco);
+  MSFlexGrid1.Dipingi(Grid::Originale, Grid::Area,
+                      DifferenzaGriglia() != 0 ? ColoreCella::Giallo : ColoreCella::Bianco);
   const std::string qualita(LeggiCampo(List1[RigaOrigine], censuario::Qualita));
   const std::string classe(LeggiCampo(List1[RigaOrigine], censuario::Classe));
   for (std::size_t i = PrimaDerivata; i < List1.size(); ++i) {

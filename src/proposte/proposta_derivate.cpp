@@ -430,8 +430,21 @@ std::string PropostaDerivate::RigaDerivata(std::size_t indice) const {
 
 // --- what the window shows besides
 
+double PropostaDerivate::SommaAree() const {
+  double somma = 0;
+  for (const auto riga : List1) {
+    const std::string_view operazione = LeggiCampo(riga, censuario::Operazione);
+    if (operazione == "C" || operazione == "V") somma += Valore(LeggiCampo(riga, censuario::Area));
+  }
+  return somma;
+}
+
 double PropostaDerivate::DifferenzaAree() const {
   return SommaAree() - MSFlexGrid1.ValoreCella(Grid::Originale, Grid::Area);
+}
+
+double PropostaDerivate::DifferenzaGriglia() const {
+  return MSFlexGrid1.Somma(Grid::Area) - MSFlexGrid1.ValoreCella(Grid::Originale, Grid::Area);
 }
 
 std::string PropostaDerivate::ParticellaCorrente() const {

@@ -67,8 +67,8 @@ public:
   // The current parcel's rows into the memo: command 2 without its question.
   void AggiungiAlMemo();
 
-  // Sum of the derived areas and what it differs from the catastal area, m2.
-  [[nodiscard]] double SommaAree() const { return MSFlexGrid1.Somma(GrigliaProposta::Area); }
+  // Sum of the derived areas as the census rows have them, and what it differs from the catastal area, m2.
+  [[nodiscard]] double SommaAree() const;
   [[nodiscard]] double DifferenzaAree() const;
   // The name that the current row's parcel bears in the proposal or in its census row; empty above the derived rows.
   [[nodiscard]] std::string ParticellaCorrente() const;
@@ -99,6 +99,8 @@ protected:
 
   [[nodiscard]] bool Mantiene() const { return modo_ == ModoMantiene; }
   [[nodiscard]] const ParticellaScelta& Scelta() const { return scelta_; }
+  // What the areas of the grid differ from the catastal one.
+  [[nodiscard]] double DifferenzaGriglia() const;
   // "AAA" and so on, by the row's place and the letters used before.
   [[nodiscard]] std::string NomeInSerie(std::size_t riga) const;
 

@@ -111,6 +111,11 @@ bool Usa(QAction& voce) {
 const std::string ArchivioVuoto = "finestra C:\\LIBRETTO.DAT, selezione, programma "
                                   "C:\\users\\prova\\Documents\\LIRMETO\\Trasvea.exe2, messaggio";
 
+// The workbench asks Pregeo's archive for the proposal first, and says that the libretto has no extract.
+const std::string ApreIlBanco =
+    "finestra Archivio Particelle - G224-0010  Libretto: LIBRETTO.DAT Estratto: , selezione, "
+    "programma C:\\users\\prova\\Documents\\LIRMETO\\Trasvea.exe, messaggio";
+
 // An entry that stands in neither table does nothing, and is not meant to.
 using Effetti = std::map<std::string, std::string>;
 
@@ -129,7 +134,7 @@ TEST(OgniVoce, DelMenuFaCioCheDice) {
       {"Riga 0-9", "finestra Intestazione del Libretto - Righe 0 e 9, file"},
       {"Relazione Tecnica", "finestra Edit Libretto Misure"},
       {"Riordino Righe", "selezione"},
-      {"Modello Censuario", "finestra Archivio Particelle - G224-0010  Libretto"},
+      {"Modello Censuario", ApreIlBanco},
       {"Importa Fiduciali da TAF", "finestra Importa Fiduciali da TAF, selezione"},
       {"Incolla da Appunti", "righe, selezione"},
       {"Descrizione", "finestra Cambia Descrizione, selezione"},
@@ -185,7 +190,7 @@ TEST(OgniVoce, DeiPulsantiFaCioCheDice) {
       {14, "finestra Riordino Righe"},
       {15, "programma desktop"},
       {16, "finestra Edit Libretto Misure"},
-      {17, "finestra Archivio Particelle - G224-0010  Libretto"},
+      {17, ApreIlBanco},
       {18, "finestra Gestione Estratti di Mappa - Estratto Associato = , selezione, file"},
       {20, "programma C:\\Program Files (x86)\\Gondella\\GondellaLibretti.exe"},
       {25, "pannello"},

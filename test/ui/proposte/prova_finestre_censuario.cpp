@@ -182,7 +182,7 @@ TEST_F(Censuario, IlBancoDelleParticelle) {
   auto& classe = Figlio<QLineEdit>(finestra, "Text6");
   classe.selectAll();
   QTest::keyClicks(&classe, QStringLiteral("3"));
-  Figlio<QLineEdit>(finestra, "Text7").setFocus();
+  QTest::keyClick(&classe, Qt::Key_Return);
   EXPECT_EQ(classe.text(), QStringLiteral("03"));
   Premi(finestra, 19);
   Premi(finestra, 2);
