@@ -5,6 +5,7 @@
 
 #include <applicazione/forme.h>
 #include <base/errore.h>
+#include <base/testo.h>
 #include <piattaforma/disco_dischi.h>
 
 #include <QTextStream>
