@@ -141,7 +141,7 @@ private:
   Ambiente& ambiente_;
   Storia storia_;
   std::optional<std::uint64_t> salvato_; // what stands on the disk, as its number; none when that is not known
-  long rigaAccesa_ = -1; // of the picture
+  long rigaAccesa_ = -1;                 // of the picture
 };
 
 } // namespace lirmeto

@@ -212,7 +212,7 @@ TEST(Frazionamento, GrigliaRedditiEColori) {
             "33 0.66 0.33");
   EXPECT_EQ(griglia.Colore(1, Grid::Area), ColoreCella::Giallo);
   EXPECT_EQ(griglia.Colore(1, Grid::RA), ColoreCella::Giallo); // 0.66 three times is 1.98
-  EXPECT_EQ(form.DifferenzaAree(), -1); // that of the rows
+  EXPECT_EQ(form.DifferenzaAree(), -1);                        // that of the rows
   Batti(form, {"50", "50"});
   EXPECT_EQ(griglia.Colore(1, Grid::Area), ColoreCella::Bianco);
   EXPECT_EQ(griglia.Colore(1, Grid::RA), ColoreCella::Bianco);

@@ -123,12 +123,14 @@ TEST_P(OgniPulsante, LasciaSulDisco) {
     Scrivi(finestra, "NuovoNome", "NUOVO");
     Scrivi(finestra, "NomeParticella", "36");
     Scrivi(finestra, "NuovoNomeParticella", "AAA");
-    if (indice == 3 || indice == 18) NellaProssimaFinestra([](QWidget& seconda) { seconda.close(); });
+    const auto chiudi = [](QWidget& seconda) { seconda.close(); };
+    if (indice == 3 || indice == 18 || indice == 23) NellaProssimaFinestra(chiudi);
     auto& bottone = Trova<QToolButton>(finestra, ("Pulsante_" + std::to_string(indice)).c_str());
     EXPECT_FALSE(bottone.icon().isNull());
     EXPECT_FALSE(bottone.text().isEmpty());
     Premi(finestra, ("Pulsante_" + std::to_string(indice)).c_str());
-    EXPECT_EQ(finestra.isVisible(), indice != 0 && indice != 15);
+    if (indice == 16) NellaProssimaFinestra(chiudi); // it comes when this one has gone
+    EXPECT_EQ(finestra.isVisible(), indice != 0 && indice != 15 && indice != 16);
     std::string cambiati;
     for (const auto& [file, contenuto] : sala.Disco().file)
       if (!prima.contains(file) || prima.at(file) != contenuto)
