@@ -102,6 +102,8 @@ public:
   void CambiaCodiceFiscale(std::string_view testo);
   void CambiaDitta(std::string_view testo);
 
+  // Where the window stood last.
+  [[nodiscard]] std::optional<PosizioneForm> PostoSalvato() const;
   // The window is closing: position to the settings, list to text, and the text to its file when something in it changed.
   // A save that fails asks what to do; Finita is false when the window stays.
   void Chiusura(const PosizioneForm& posizione);

@@ -23,6 +23,8 @@ namespace lirmeto {
 
 namespace {
 
+constexpr std::string_view NomeForm = "KR_LibrettoOriginale";
+
 enum Scelta : std::size_t { Riprova, Altrove, SenzaSalvare };
 
 } // namespace
@@ -84,9 +86,13 @@ bool KR_LibrettoOriginale::SalvaOChiedi() {
   return true;
 }
 
+std::optional<PosizioneForm> KR_LibrettoOriginale::PostoSalvato() const {
+  return LeggiPosizione(ambiente_.impostazioni, NomeForm);
+}
+
 void KR_LibrettoOriginale::Chiusura(const PosizioneForm& posizione) {
   ambiente_.sessione.Ditta = Maiuscolo(CasellaDitta);
-  ScriviPosizione(ambiente_.impostazioni, "KR_LibrettoOriginale", posizione);
+  ScriviPosizione(ambiente_.impostazioni, NomeForm, posizione);
   Finita = false;
   Prova([&] { Finita = !DaSalvare(); });
   if (Finita) return;

@@ -1,5 +1,6 @@
 #include <ui/finestre_qt.h>
 
+#include <ui/comune/aspetto.h>
 #include <ui/disegno/finestra_disegno.h>
 #include <ui/estratti/finestra_completa.h>
 #include <ui/estratti/finestra_estratti.h>
@@ -32,6 +33,7 @@
 
 #include <applicazione/forme.h>
 #include <base/errore.h>
+#include <core/posizione_form.h>
 
 #include <QApplication>
 
@@ -41,56 +43,67 @@ namespace lirmeto::ui {
 
 namespace {
 
-// Shows `Finestra` when the model is the one it belongs to.
+// Shows `Finestra` when the model is the one it belongs to, where and as large as it stood last under that name; without
+// a name the window sees to its own place.
 template <typename Tipo, typename Finestra>
-bool MostraSe(Modello& modello) {
+bool MostraSe(Modello& modello, Impostazioni* impostazioni, std::string_view nome) {
   auto* questo = dynamic_cast<Tipo*>(&modello);
   if (questo == nullptr) return false;
-  Finestra(*questo, QApplication::activeWindow()).exec();
+  Finestra finestra(*questo, QApplication::activeWindow());
+  const bool ricorda = impostazioni != nullptr && !nome.empty();
+  if (ricorda) RimettiAlPosto(finestra, LeggiPosizione(*impostazioni, nome));
+  finestra.exec();
+  if (ricorda) ScriviPosizione(*impostazioni, nome, {finestra.x(), finestra.y(), finestra.width(), finestra.height()});
   return true;
 }
 
+struct Mostratore {
+  std::string_view nome;
+  bool (*mostra)(Modello&, Impostazioni*, std::string_view);
+};
+
 // Which window belongs to which model, a line each.
 constexpr std::array Mostratori = {
-    &MostraSe<KR_EditorGen, FinestraEditor>,
-    &MostraSe<FormRiordinoRighe, FinestraRiordino>,
-    &MostraSe<FormCatasto1TXT, FinestraCatasto1>,
-    &MostraSe<FormRigheScartate, FinestraScartate>,
-    &MostraSe<FormConfiguraPregeo, FinestraConfiguraPregeo>,
-    &MostraSe<FormDisegno, FinestraDisegno>,
-    &MostraSe<LibrettoDaDisegno, FinestraLibrettoDisegno>,
-    &MostraSe<KR_Dapregeo, FinestraDapregeo>,
-    &MostraSe<SelezionaMappali, FinestraSelezionaMappali>,
-    &MostraSe<MappaleDaMantenere, FinestraMappaleDaMantenere>,
-    &MostraSe<Tipol10, FinestraTipol10>,
-    &MostraSe<KR_StampaGenerale, FinestraStampaGenerale>,
-    &MostraSe<KR_CodFis, FinestraCodFis>,
-    &MostraSe<KR_Comuni8, FinestraComuni>,
-    &MostraSe<ArchivioPossessori, FinestraPossessori>,
-    &MostraSe<autore, FinestraAutore>,
-    &MostraSe<AssegnaDescrizione, FinestraAssegnaDescrizione>,
-    &MostraSe<KR_EstrattiDiMappa1, FinestraEstratti>,
-    &MostraSe<KR_SommaEstratti, FinestraSomma>,
-    &MostraSe<CompletaAutoallestito, FinestraCompleta>,
-    &MostraSe<FormImportaFiduciali, FinestraImportaFiduciali>,
-    &MostraSe<KR_SelezionaMisurate, FinestraSelezionaMisurate>,
-    &MostraSe<KR_ElcoPf, FinestraElcoPf>,
-    &MostraSe<KR_ElcoPfGriglia, FinestraElcoPfGriglia>,
-    &MostraSe<KR_ElcoPFGrafica, FinestraElcoPfGrafica>,
-    &MostraSe<Imputa, FinestraImputa>,
-    &MostraSe<KR_EDM, FinestraEdm>,
-    &MostraSe<KR_Fraziona, FinestraProposta>,
-    &MostraSe<KR_Stralcio, FinestraProposta>,
-    &MostraSe<KR_NuovaCostruzione, FinestraTipoMappale>,
-    &MostraSe<KR_TMVariazione, FinestraTipoMappale>,
-    &MostraSe<KR_TMFusione, FinestraFusione>,
+    Mostratore{"KR_EditorGen", &MostraSe<KR_EditorGen, FinestraEditor>},
+    Mostratore{"FormRiordinoRighe", &MostraSe<FormRiordinoRighe, FinestraRiordino>},
+    Mostratore{"", &MostraSe<FormCatasto1TXT, FinestraCatasto1>},
+    Mostratore{"FormRigheScartate", &MostraSe<FormRigheScartate, FinestraScartate>},
+    Mostratore{"FormConfiguraPregeo", &MostraSe<FormConfiguraPregeo, FinestraConfiguraPregeo>},
+    Mostratore{"FormDisegno", &MostraSe<FormDisegno, FinestraDisegno>},
+    Mostratore{"LibrettoDaDisegno", &MostraSe<LibrettoDaDisegno, FinestraLibrettoDisegno>},
+    Mostratore{"", &MostraSe<KR_Dapregeo, FinestraDapregeo>},
+    Mostratore{"SelezionaMappali", &MostraSe<SelezionaMappali, FinestraSelezionaMappali>},
+    Mostratore{"MappaleDaMantenere", &MostraSe<MappaleDaMantenere, FinestraMappaleDaMantenere>},
+    Mostratore{"", &MostraSe<Tipol10, FinestraTipol10>},
+    Mostratore{"KR_StampaGenerale", &MostraSe<KR_StampaGenerale, FinestraStampaGenerale>},
+    Mostratore{"KR_CodFis", &MostraSe<KR_CodFis, FinestraCodFis>},
+    Mostratore{"KR_Comuni8", &MostraSe<KR_Comuni8, FinestraComuni>},
+    Mostratore{"ArchivioPossessori", &MostraSe<ArchivioPossessori, FinestraPossessori>},
+    Mostratore{"autore", &MostraSe<autore, FinestraAutore>},
+    Mostratore{"AssegnaDescrizione", &MostraSe<AssegnaDescrizione, FinestraAssegnaDescrizione>},
+    Mostratore{"", &MostraSe<KR_EstrattiDiMappa1, FinestraEstratti>},
+    Mostratore{"KR_SommaEstratti", &MostraSe<KR_SommaEstratti, FinestraSomma>},
+    Mostratore{"CompletaAutoallestito", &MostraSe<CompletaAutoallestito, FinestraCompleta>},
+    Mostratore{"FormImportaFiduciali", &MostraSe<FormImportaFiduciali, FinestraImportaFiduciali>},
+    Mostratore{"KR_SelezionaMisurate", &MostraSe<KR_SelezionaMisurate, FinestraSelezionaMisurate>},
+    Mostratore{"KR_ElcoPf", &MostraSe<KR_ElcoPf, FinestraElcoPf>},
+    Mostratore{"KR_ElcoPfGriglia", &MostraSe<KR_ElcoPfGriglia, FinestraElcoPfGriglia>},
+    Mostratore{"KR_ElcoPFGrafica", &MostraSe<KR_ElcoPFGrafica, FinestraElcoPfGrafica>},
+    Mostratore{"Imputa", &MostraSe<Imputa, FinestraImputa>},
+    Mostratore{"", &MostraSe<KR_EDM, FinestraEdm>},
+    Mostratore{"", &MostraSe<KR_Fraziona, FinestraProposta>},
+    Mostratore{"", &MostraSe<KR_Stralcio, FinestraProposta>},
+    Mostratore{"", &MostraSe<KR_NuovaCostruzione, FinestraTipoMappale>},
+    Mostratore{"", &MostraSe<KR_TMVariazione, FinestraTipoMappale>},
+    Mostratore{"", &MostraSe<KR_TMFusione, FinestraFusione>},
 };
 
 } // namespace
 
 void FinestreQt::MostraModale(Modello& modello) {
-  for (const auto mostra : Mostratori)
-    if (mostra(modello)) return;
+  Impostazioni* impostazioni = ambiente_ == nullptr ? nullptr : &ambiente_->impostazioni;
+  for (const auto& [nome, mostra] : Mostratori)
+    if (mostra(modello, impostazioni, nome)) return;
   throw Errore(errore::ErroreInterno);
 }
 

@@ -62,6 +62,7 @@ FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDa
   piano->setStretchFactor(1, 1);
   dati_->setMinimumWidth(220);
   AdattaAlloSchermo(*this, Larghezza, Altezza);
+  RimettiAlPosto(*this, modello_.PostoSalvato());
   piano->setSizes({pulsanti_->minimumWidth(), width() - pulsanti_->minimumWidth() - LarghezzaDati, LarghezzaDati});
   // The explanation of a row is long: it has the whole width.
   auto* tutto = new QWidget(this);

@@ -1,8 +1,11 @@
 #include <ui/tavolo.h>
 
+#include <core/posizione_form.h>
+
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 
 #include <gtest/gtest.h>
 
@@ -89,6 +92,22 @@ TEST_F(Scelte, PossessoriSceltiEdEliminati) {
     EXPECT_EQ(Elenco(finestra, "Possessori").model()->rowCount(), 0);
   });
   EXPECT_EQ(sessione.EsitoSelezione, -1);
+}
+
+// Under its own name; what leads off every screen is forgotten, what is too large is cut to it.
+TEST_F(Scelte, OgniFinestraTornaDovEra) {
+  Apri("KR_Comuni8", [](QWidget& finestra) {
+    finestra.resize(717, 563);
+    finestra.move(31, 47);
+  });
+  Apri("KR_CodFis", [](QWidget& finestra) { EXPECT_NE(finestra.size(), QSize(717, 563)); });
+  Apri("KR_Comuni8",
+       [](QWidget& finestra) { EXPECT_EQ(QRect(finestra.pos(), finestra.size()), QRect(31, 47, 717, 563)); });
+  ScriviPosizione(tavolo.ambiente.impostazioni, "KR_Comuni8", {-9000, 9000, 30000, 30000});
+  Apri("KR_Comuni8", [](QWidget& finestra) {
+    EXPECT_TRUE(finestra.screen()->geometry().contains(finestra.pos()));
+    EXPECT_LE(finestra.width(), finestra.screen()->geometry().width());
+  });
 }
 
 } // namespace
