@@ -131,8 +131,8 @@ void LeggiCoordinate(const Campi& campi, bool fiduciale, RigaLetta& letta) {
 void LeggiRiga6(std::string_view riga, RigaLetta& letta) {
   if (riga == RigaProposta) letta.segno = Segno::Proposta;
   if (MarcaRelazioneOCensuario(riga)) {
-    if (Contiene(riga, InizioRelazione)) letta.segno = Segno::InizioRelazione;
-    if (Contiene(riga, FineRelazione)) letta.segno = Segno::FineRelazione;
+    if (Contiene(riga, InizioRelazione)) letta.segno = Segno::ApreRelazione;
+    if (Contiene(riga, FineRelazione)) letta.segno = Segno::ChiudeRelazione;
   }
   constexpr std::array<std::string_view, 7> inizi = {"6|51FTP|", "6|3SPC |", "6|M31FU|", "6|O|",
                                                      "6|S|",     "6|C|",     "6|V|"};

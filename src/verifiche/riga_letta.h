@@ -57,7 +57,7 @@ enum class FormaRiga : std::uint8_t {
   Censuario,    // row 6 of 70 characters, or one that should have so many
 };
 
-enum class Segno : std::uint8_t { Nessuno, InizioRelazione, FineRelazione, Proposta };
+enum class Segno : std::uint8_t { Nessuno, ApreRelazione, ChiudeRelazione, Proposta };
 
 // Where in the act a row stands, which decides what it may hold.
 enum class SezioneAtto : std::uint8_t { Misure, Relazione, Proposta };

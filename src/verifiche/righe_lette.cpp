@@ -69,13 +69,13 @@ void RigheLette::PonSezioni() {
   SezioneAtto sezione = SezioneAtto::Misure;
   proposta_ = lette_.size();
   for (std::size_t i = 0; i < lette_.size(); ++i) {
-    if (lette_[i].segno == Segno::InizioRelazione && sezione == SezioneAtto::Misure) sezione = SezioneAtto::Relazione;
+    if (lette_[i].segno == Segno::ApreRelazione && sezione == SezioneAtto::Misure) sezione = SezioneAtto::Relazione;
     if (lette_[i].segno == Segno::Proposta) {
       sezione = SezioneAtto::Proposta;
       proposta_ = std::min(proposta_, i);
     }
     if (lette_[i].sezione != sezione) Leggi(i, sezione);
-    if (lette_[i].segno == Segno::FineRelazione && sezione == SezioneAtto::Relazione) sezione = SezioneAtto::Misure;
+    if (lette_[i].segno == Segno::ChiudeRelazione && sezione == SezioneAtto::Relazione) sezione = SezioneAtto::Misure;
   }
 }
 
