@@ -67,7 +67,7 @@ void KR_ElcoPf::Riempi() {
     if (const auto noto = sconosciuti.find(codice); noto != sconosciuti.end()) sconosciuti.erase(noto);
     if (!Check1 || installati.contains(codice)) Aggiungi(Riga(comune));
   }
-  for (const std::string& codice : sconosciuti) Aggiungi("|" + codice + "|||" + codice);
+  for (const std::string& codice : sconosciuti) Aggiungi(std::string("|").append(codice).append("|||").append(codice));
 }
 
 void KR_ElcoPf::Aggiungi(const std::string& riga) {

@@ -284,10 +284,11 @@ void KR_ElcoPFGrafica::SelezionaIntorno(double x, double y, double raggio) {
 // --- archives
 
 std::string KR_ElcoPFGrafica::ArchivioDellaProvincia() {
-  const std::string archivio = tabella_.provincia + ".DDD";
+  std::string archivio = tabella_.provincia + ".DDD";
   if (ArchivioInstallato(ambiente_, archivio)) return archivio;
-  const std::string ultimo = TrovaArchivioMisurate(ambiente_, tabella_.comune);
-  return ArchivioInstallato(ambiente_, ultimo) ? ultimo : archivio;
+  std::string ultimo = TrovaArchivioMisurate(ambiente_, tabella_.comune);
+  if (ArchivioInstallato(ambiente_, ultimo)) return ultimo;
+  return archivio;
 }
 
 void KR_ElcoPFGrafica::MettiDistanzeMisurate(const std::string& archivio) {

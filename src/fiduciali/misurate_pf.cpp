@@ -89,6 +89,7 @@ class PuntiTaf {
 public:
   PuntiTaf(Ambiente& ambiente, const std::vector<std::string>& nomi) {
     std::vector<std::string> cercati;
+    cercati.reserve(nomi.size());
     for (const std::string& nome : nomi) cercati.push_back(SenzaChiocciola(nome));
     const auto trovati = CercaPFinTAF(ambiente, cercati);
     for (std::size_t i = 0; i < nomi.size(); ++i) {

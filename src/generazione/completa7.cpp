@@ -58,6 +58,7 @@ std::vector<std::string> Genera7Completa(Ambiente& ambiente, std::string_view ri
   const std::vector<std::string_view> nomi(campi.begin() + PrimoNome, campi.end() - 2);
   const double area = AreaContorno(ambiente, Vertici(nomi, punti));
   std::vector<std::string> segnati;
+  segnati.reserve(nomi.size());
   for (const auto nome : nomi) segnati.push_back(std::string(nome) + "*");
   std::string coda(particella);
   coda.append("+|").append(particella).append("|").append(Formatta(area, "###########0")).append("|");

@@ -67,6 +67,7 @@ void SelezionaMappali::Conferma() {
   if (scelte.empty()) return;
   Sessione& sessione = ambiente_.sessione;
   std::vector<std::string_view> nomi;
+  nomi.reserve(scelte.size());
   for (const std::string& riga : scelte) nomi.push_back(Parte(riga, '|', CampoNome));
   sessione.ParticelleScelte = Unisci(nomi, ",");
   sessione.RigheParticelleScelte = RigheUnite(scelte);

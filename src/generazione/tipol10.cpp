@@ -78,9 +78,9 @@ void Tipol10::SalvaPosto(const PosizioneForm& posto) {
 // The text is read before the folder that it lies in is emptied.
 void Tipol10::Carica() {
   Disco& disco = ambiente_.disco;
-  const std::string cartella = CartellaTemp(ambiente_.sessione);
+  const std::string cartella = CartellaTemp(ambiente_.sessione) + "\\";
   if (disco.Esiste(FileTesto())) Text1 = disco.Leggi(FileTesto());
-  for (const std::string& nome : disco.Elenca(cartella, {})) disco.Elimina(cartella + "\\" + nome);
+  for (const std::string& nome : disco.Elenca(cartella, {})) disco.Elimina(std::string(cartella).append(nome));
   Grafica1.KR_Clear();
   if (ConEstratto()) DisegnaEstratto({});
 }

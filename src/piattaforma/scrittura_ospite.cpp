@@ -134,7 +134,7 @@ private:
 };
 
 std::vector<std::string> Attributi(const fs::path& file) {
-  std::array<char, 64 * 1024> nomi; // NOLINT(cppcoreguidelines-pro-type-member-init): filled by the host
+  std::array<char, 65536> nomi; // NOLINT(cppcoreguidelines-pro-type-member-init): filled by the host
   const ssize_t lunghi = ::listxattr(file.c_str(), nomi.data(), nomi.size());
   std::vector<std::string> attributi;
   for (std::string_view resto(nomi.data(), lunghi > 0 ? static_cast<std::size_t>(lunghi) : 0); !resto.empty();) {
@@ -146,7 +146,7 @@ std::vector<std::string> Attributi(const fs::path& file) {
 
 // Whether an attribute of a file, such as a list of who may read it, was given on.
 bool CopiaAttributo(const fs::path& da, int a, const std::string& nome) {
-  std::array<char, 64 * 1024> valore; // NOLINT(cppcoreguidelines-pro-type-member-init): filled by the host
+  std::array<char, 65536> valore; // NOLINT(cppcoreguidelines-pro-type-member-init): filled by the host
   const ssize_t lungo = ::getxattr(da.c_str(), nome.c_str(), valore.data(), valore.size());
   return lungo >= 0 && ::fsetxattr(a, nome.c_str(), valore.data(), static_cast<std::size_t>(lungo), 0) == 0;
 }

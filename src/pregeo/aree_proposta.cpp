@@ -34,7 +34,7 @@ struct Particella {
 enum class Dopo { Nome = 2, Origine = 3, Area = 4 };
 
 std::string_view Campo(const RigaDivisa& divisa, Dopo dopo) {
-  const auto indice = static_cast<std::size_t>(divisa.UltimoVertice + static_cast<int>(dopo));
+  const auto indice = static_cast<std::size_t>(divisa.UltimoVertice) + static_cast<std::size_t>(dopo);
   return indice < MassimoCampi ? divisa.CampiRiga[indice] : std::string_view{};
 }
 

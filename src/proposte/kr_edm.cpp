@@ -264,9 +264,9 @@ void KR_EDM::Elimina() {
 
 void KR_EDM::EliminaTutte() {
   if (File1.empty()) return;
-  const std::string cartella = CartellaParticelle(ambiente_.sessione);
+  const std::string cartella = CartellaParticelle(ambiente_.sessione) + "\\";
   for (const auto& nome : ambiente_.disco.Elenca(cartella, ""))
-    if (Contiene(Maiuscolo(nome), ".MAP")) ambiente_.disco.Elimina(cartella + "\\" + nome);
+    if (Contiene(Maiuscolo(nome), ".MAP")) ambiente_.disco.Elimina(std::string(cartella).append(nome));
   Aggiorna();
 }
 

@@ -7,8 +7,8 @@
 
 namespace lirmeto {
 
-// Temporary names that there are, from "AAA" to "ZZZ".
-inline constexpr std::size_t MassimiTemporanei = 26U * 26U * 26U;
+// Temporary names that there are, from "AAA" to "ZZZ": 26 to the third.
+inline constexpr std::size_t MassimiTemporanei = 17576;
 
 // The letter of a derived parcel by its number from 1: "a" to "z", then "aa" and so on; empty for 0.
 [[nodiscard]] std::string LetteraDerivata(std::size_t numero);

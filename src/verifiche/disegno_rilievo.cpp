@@ -78,7 +78,7 @@ void DisegnaSquadri(const Atto& atto, ArchivioGrafica& archivio) {
   for (std::size_t i = 0; i < atto.righe.InizioProposta() && k < stime.size(); ++i) {
     const RigaLetta& letta = atto.righe[i];
     if (letta.genere == 4) base = &letta;
-    if (i != stime[k].riga) continue;
+    if (base == nullptr || i != stime[k].riga) continue;
     const PuntoPiano& a = atto.rete.Dove(base->punti[0]);
     const PuntoPiano& b = atto.rete.Dove(base->punti[1]);
     const double parte = letta.numeri[0] / std::max(DistanzaPiana(a, b), std::numeric_limits<double>::min());

@@ -34,7 +34,9 @@ bool Minore(const Segnalazione& a, const Segnalazione& b, OrdineVerifiche ordine
 } // namespace
 
 std::string PannelloVerifiche::NumeroRiga(const Segnalazione& s) {
-  return s.riga ? TestoIntero(static_cast<long long>(*s.riga + PrimaRiga)) : std::string{};
+  if (!s.riga) return {};
+  const std::size_t numero = *s.riga + PrimaRiga;
+  return TestoIntero(static_cast<long long>(numero));
 }
 
 bool PannelloVerifiche::Aggiorna() {

@@ -112,7 +112,7 @@ TEST(Completa, RigaZeroConComuneFoglioEParticelle) {
 }
 
 TEST(Completa, SenzaParticelleOSenzaFileSoloUnMessaggio) {
-  Tavolo vuoto({});
+  Tavolo vuoto(Righe{});
   EXPECT_EQ(vuoto.form.Indice, -1);
   vuoto.form.RicalcolaParticella();
   EXPECT_EQ(vuoto.dialoghi.UltimoTesto(), "Selezionare una particella!");

@@ -190,8 +190,8 @@ std::string ComeSiRacconta(const Righe& primo, const Righe& secondo) {
 // Few places a fraction of a millimetre apart, names out of order or missing, repeated too.
 Righe EstrattoCasuale(std::mt19937& caso, bool inOrdine) {
   Righe righe = {Zero};
-  const unsigned punti = caso() % 12;
-  for (unsigned i = 1; i <= punti; ++i)
+  const std::size_t punti = caso() % 12;
+  for (std::size_t i = 1; i <= punti; ++i)
     righe.push_back("8|" + std::to_string(inOrdine ? i : 1 + caso() % 15) + "%|" + std::to_string(caso() % 3) + ".000" +
                     std::to_string(caso() % 10) + "|" + std::to_string(caso() % 2) + "|");
   for (unsigned i = 0; i < caso() % 6; ++i) {

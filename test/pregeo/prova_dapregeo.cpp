@@ -63,8 +63,9 @@ TEST_P(ElencoArchivio, ComunqueSia) {
   archivio.form.AlCaricamento();
   EXPECT_EQ(archivio.form.MSFlexGrid1.size(), GetParam().righe);
   EXPECT_EQ(archivio.chiesto.size(), GetParam().righe == 0 ? 2U : 3U);
-  if (GetParam().righe == 0)
+  if (GetParam().righe == 0) {
     EXPECT_EQ(archivio.banco.dialoghi.UltimoTesto(), "Nessun Libretto nell'archivio di Pregeo!");
+  }
 }
 
 std::string Molti() {

@@ -195,7 +195,7 @@ INSTANTIATE_TEST_SUITE_P(
                                  "V|35   |000|  |     |000000050|SN|  |     |000|  |\n"
                                  "C|     |000|a |AAA  |000000050|SN|  |     |279|  |\n",
                                  "004"}),
-    [](const auto& info) { return "caso" + std::to_string(info.index); });
+    [](const auto& caso) { return "caso" + std::to_string(caso.index); });
 
 TEST(Frazionamento, GrigliaRedditiEColori) {
   BancoCensuario banco;
@@ -422,7 +422,9 @@ void FrazionaACaso(BancoCensuario& banco, std::mt19937& caso, std::size_t giro) 
     for (const std::size_t colonna : barre) ASSERT_EQ(riga[colonna - 1], '|') << riga;
     if (riga[2] == 'C' || riga[2] == 'V') somma += std::stod(std::string(riga.substr(23, 9)));
   }
-  if (giro % 3 != 0) ASSERT_LE(std::abs(somma - std::stod(catastale)), static_cast<double>(quante) * 0.5) << modello;
+  if (giro % 3 != 0) {
+    ASSERT_LE(std::abs(somma - std::stod(catastale)), static_cast<double>(quante) * 0.5) << modello;
+  }
 }
 
 TEST(Derivate, DiecimilaFrazionamentiACaso) {

@@ -32,7 +32,9 @@ TEST(CampiRiga, LaNotaDiOgniGenere) {
   for (const auto& caso : casi) {
     const auto campo = CampoNota(caso.riga);
     ASSERT_EQ(campo.has_value(), caso.attesa != nullptr) << caso.riga;
-    if (campo) EXPECT_EQ(ConCampo(caso.riga, *campo, "A|B"), caso.attesa);
+    if (campo) {
+      EXPECT_EQ(ConCampo(caso.riga, *campo, "A|B"), caso.attesa);
+    }
   }
   EXPECT_THROW((void)ConCampo("1|2|", 5, "X"), Errore);
 }

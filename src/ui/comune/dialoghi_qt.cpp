@@ -92,6 +92,7 @@ std::optional<std::size_t> DialoghiQt::Scegli(std::string_view testo, std::strin
   Componi(scatola, testo, titolo);
   scatola.setIcon(QMessageBox::Question);
   std::vector<QAbstractButton*> bottoni;
+  bottoni.reserve(risposte.size());
   for (const std::string& risposta : risposte)
     bottoni.push_back(scatola.addButton(AQString(risposta), QMessageBox::ActionRole));
   scatola.setEscapeButton(scatola.addButton(QStringLiteral("&Annulla"), QMessageBox::RejectRole));

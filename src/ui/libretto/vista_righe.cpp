@@ -141,7 +141,7 @@ void VistaRighe::DisegnaSegnoDi(QPainter& pittore, std::size_t riga, const QRect
   const auto segno = segno_ ? segno_(riga) : std::nullopt;
   if (!segno) return;
   const int alto = rettangolo.top() + (rettangolo.height() - LatoSegno) / 2;
-  DisegnaSegno(pittore, *segno, QRectF((PostoSegno - LatoSegno) / 2 + 1, alto, LatoSegno, LatoSegno));
+  DisegnaSegno(pittore, *segno, QRect((PostoSegno - LatoSegno) / 2 + 1, alto, LatoSegno, LatoSegno));
 }
 
 // Behind the field that a finding is about.

@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QListWidget>
 #include <QRadioButton>
 #include <QVBoxLayout>

@@ -12,6 +12,7 @@
 #include <core/tabelle.h>
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
