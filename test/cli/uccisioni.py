@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
-"""uccisioni.py LIRMETO_CLI [KILLS]: the program killed while it saves leaves the old file or the new one, whole.
+"""uccisioni.py LIRMETO_CLI: the program killed while it saves leaves the old file or the new one, whole.
 
+LIRMETO_UCCISIONI says how often, else 8 times.
 Two libretti are saved over one result in turn; each run is killed at a moment of its own, most of them in its last part,
 where it writes. Nothing but the result may be left in the folder.
 """
 
+import os
 import pathlib
 import random
 import subprocess
@@ -29,7 +31,7 @@ def main(cli, uccisioni):
         (cartella / "uscita").mkdir()
         uscita = cartella / "uscita" / "R.DAT"
         # one longer than the other: what is left of the longer one would be seen
-        atti = [libretto(cartella, "A.DAT", 200000), libretto(cartella, "B.DAT", 150000)]
+        atti = [libretto(cartella, "A.DAT", 40000), libretto(cartella, "B.DAT", 30000)]
         comandi = [[cli, "--dischi", cartella / "dischi", "salva", atto, "-o", uscita] for atto in atti]
         interi, durata = [], 0.0
         for comando in comandi:
@@ -54,4 +56,4 @@ def main(cli, uccisioni):
 
 
 if __name__ == "__main__":
-    main(sys.argv[1], int(sys.argv[2]) if len(sys.argv) > 2 else 40)
+    main(sys.argv[1], int(os.environ.get("LIRMETO_UCCISIONI", "8")))
