@@ -95,8 +95,8 @@ void ProvaVisualizzatore(prova::Banco& banco) {
     Pretendi(segmento.primo < segmento.secondo && segmento.secondo < piano.Punti.size(), "a segment has two points");
   piano.Seleziona(SelezionePF::GaussBoaga);
   piano.Seleziona(SelezionePF::Inverti);
-  piano.SelezionaFoglio(0, 0);
-  (void)piano.Leggenda(0, 0);
+  piano.SelezionaFoglio({0, 0});
+  (void)piano.Leggenda({0, 0});
   Pretendi(piano.Larghezza() > 0, "a view has a width");
 }
 

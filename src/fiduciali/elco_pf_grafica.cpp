@@ -172,13 +172,15 @@ void KR_ElcoPFGrafica::Sposta(double partiDiLarghezza) {
   grafica_.KR_RidisegnaGrafica();
 }
 
-void KR_ElcoPFGrafica::ZoomFinestra(double x1, double y1, double x2, double y2) {
+void KR_ElcoPFGrafica::ZoomFinestra(const PuntoPiano& primo, const PuntoPiano& secondo) {
   LasciaStrumento();
   VistaGrafica& vista = grafica_.Vista();
-  const double larghezza = std::max(std::abs(x2 - x1), std::abs(y2 - y1) * vista.Rapporto);
+  const double larghezza =
+      std::max(std::abs(secondo.est - primo.est), std::abs(secondo.nord - primo.nord) * vista.Rapporto);
   if (!(larghezza > 0)) return;
-  vista.Xc = std::midpoint(x1, x2);
-  vista.Yc = std::midpoint(y1, y2);
+  const PuntoPiano centro = PuntoMedio(primo, secondo);
+  vista.Xc = centro.est;
+  vista.Yc = centro.nord;
   MettiLarghezza(larghezza);
   grafica_.KR_RidisegnaGrafica();
 }
@@ -188,22 +190,22 @@ void KR_ElcoPFGrafica::CambiaCheck1(bool si) {
   Esegui(10);
 }
 
-std::string KR_ElcoPFGrafica::Leggenda(double x, double y) const {
+std::string KR_ElcoPFGrafica::Leggenda(const PuntoPiano& posto) const {
   constexpr std::string_view coordinate = "#########0.##0";
   constexpr std::string_view dati = "#####0.000";
-  std::string testo = Formatta(x, coordinate) + " " + Formatta(y, coordinate) +
+  std::string testo = Formatta(posto.est, coordinate) + " " + Formatta(posto.nord, coordinate) +
                       " Scala : 1:" + Formatta(Larghezza() / LarghezzaFoglio, "0");
-  const PuntoPF* punto = PiuVicino(x, y, Larghezza() / 100);
+  const PuntoPF* punto = PiuVicino(posto, Larghezza() / 100);
   if (punto == nullptr || Contiene(punto->nome, "/0000/")) return testo;
   return testo + " " + punto->nome + " - " + Formatta(punto->nord, dati) + " / " + Formatta(punto->est, dati) + " / " +
          punto->riferimentoPlanimetrico;
 }
 
 // The first of equal ones; none when all are farther than that.
-const PuntoPF* KR_ElcoPFGrafica::PiuVicino(double x, double y, double entro) const {
+const PuntoPF* KR_ElcoPFGrafica::PiuVicino(const PuntoPiano& posto, double entro) const {
   const PuntoPF* vicino = nullptr;
   for (const PuntoPF& punto : Punti) {
-    const double distanza = DistanzaPiana({punto.est, punto.nord}, {x, y});
+    const double distanza = DistanzaPiana({punto.est, punto.nord}, posto);
     if (distanza >= entro) continue;
     entro = distanza;
     vicino = &punto;
@@ -254,20 +256,20 @@ void KR_ElcoPFGrafica::ChiediRaggio() {
   Arma(StrumentoPF::Intorno);
 }
 
-void KR_ElcoPFGrafica::Clic(double x, double y) {
+void KR_ElcoPFGrafica::Clic(const PuntoPiano& posto) {
   switch (std::exchange(strumento_, StrumentoPF::Nessuno)) {
   case StrumentoPF::Foglio:
-    return SelezionaFoglio(x, y);
+    return SelezionaFoglio(posto);
   case StrumentoPF::Intorno:
-    return SelezionaIntorno(x, y, raggio_);
+    return SelezionaIntorno(posto, raggio_);
   case StrumentoPF::ZoomFinestra:
   case StrumentoPF::Nessuno:
     return;
   }
 }
 
-void KR_ElcoPFGrafica::SelezionaFoglio(double x, double y) {
-  const PuntoPF* vicino = PiuVicino(x, y, Larghezza());
+void KR_ElcoPFGrafica::SelezionaFoglio(const PuntoPiano& posto) {
+  const PuntoPF* vicino = PiuVicino(posto, Larghezza());
   if (vicino == nullptr) return;
   const std::string foglio(FoglioDi(vicino->nome));
   for (PuntoPF& punto : Punti)
@@ -275,9 +277,9 @@ void KR_ElcoPFGrafica::SelezionaFoglio(double x, double y) {
   RiDisegnaPF();
 }
 
-void KR_ElcoPFGrafica::SelezionaIntorno(double x, double y, double raggio) {
+void KR_ElcoPFGrafica::SelezionaIntorno(const PuntoPiano& posto, double raggio) {
   for (PuntoPF& punto : Punti)
-    if (DistanzaPiana({punto.est, punto.nord}, {x, y}) < raggio) punto.selezionato = selezione::Si;
+    if (DistanzaPiana({punto.est, punto.nord}, posto) < raggio) punto.selezionato = selezione::Si;
   RiDisegnaPF();
 }
 

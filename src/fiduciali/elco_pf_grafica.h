@@ -63,9 +63,9 @@ public:
   void CambiaCheck1(bool si);
 
   // A click at map coordinates, with the tool that is armed; it is used up.
-  void Clic(double x, double y);
+  void Clic(const PuntoPiano& posto);
   // The armed window: two opposite corners of it in map coordinates.
-  void ZoomFinestra(double x1, double y1, double x2, double y2);
+  void ZoomFinestra(const PuntoPiano& primo, const PuntoPiano& secondo);
   // Without using it.
   void LasciaStrumento() { strumento_ = StrumentoPF::Nessuno; }
 
@@ -76,13 +76,13 @@ public:
   void MettiRapporto(double rapporto);
 
   // What is said of a place of the map: coordinates, scale, and the point that stands there.
-  [[nodiscard]] std::string Leggenda(double x, double y) const;
+  [[nodiscard]] std::string Leggenda(const PuntoPiano& posto) const;
 
   void ZoomTutto();
   void RiDisegnaPF();
   void subZoomElcoPF(int verso); // 1 nearer, 2 farther
-  void SelezionaFoglio(double x, double y);
-  void SelezionaIntorno(double x, double y, double raggio);
+  void SelezionaFoglio(const PuntoPiano& posto);
+  void SelezionaIntorno(const PuntoPiano& posto, double raggio);
   void MettiDistanzeMisurate(const std::string& archivio);
   void AssociamiEstratto();
   void Stampa();
@@ -98,7 +98,7 @@ private:
   void CopiaSchermo();
   void SelezionaSe(bool (*condizione)(const PuntoPF&));
   void AggiungiPunti(std::string_view estratto);
-  [[nodiscard]] const PuntoPF* PiuVicino(double x, double y, double entro) const;
+  [[nodiscard]] const PuntoPF* PiuVicino(const PuntoPiano& posto, double entro) const;
   [[nodiscard]] std::string ArchivioDellaProvincia();
 
   Ambiente& ambiente_;

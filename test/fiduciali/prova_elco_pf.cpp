@@ -68,10 +68,10 @@ TEST_F(Vista, SiSelezionaInSetteModi) {
   form.Seleziona(SelezionePF::Nessuno);
   form.Seleziona(SelezionePF::GaussBoaga);
   EXPECT_EQ(Scelti(), "---S");
-  form.Clic(10, 10);
+  form.Clic({10, 10});
   EXPECT_EQ(Scelti(), "---S") << "no tool is armed";
   form.Seleziona(SelezionePF::Foglio);
-  form.Clic(900, 10);
+  form.Clic({900, 10});
   EXPECT_EQ(Scelti(), "SS-S");
   form.Seleziona(SelezionePF::Nessuno);
   banco.finestre.utente = [&](Modello& modello) {
@@ -80,7 +80,7 @@ TEST_F(Vista, SiSelezionaInSetteModi) {
     dynamic_cast<Imputa&>(modello).Conferma();
   };
   form.Seleziona(SelezionePF::Intorno);
-  form.Clic(0, 0);
+  form.Clic({0, 0});
   EXPECT_EQ(Scelti(), "S-S-");
   form.Seleziona(SelezionePF::Tutti);
   EXPECT_EQ(Scelti(), "SSSS");
@@ -91,7 +91,7 @@ TEST_F(Vista, SiSelezionaInSetteModi) {
 
 TEST_F(Vista, UnFoglioNonSiScegliePiuLontanoDellaVista) {
   form.MettiLarghezza(50);
-  form.SelezionaFoglio(60, 0);
+  form.SelezionaFoglio({60, 0});
   EXPECT_EQ(Scelti(), "----");
 }
 
@@ -137,7 +137,7 @@ TEST_P(Estensioni, DalTerzoPunto) {
   EXPECT_LE(form.Larghezza(), GetParam().entro);
   for (const int comando : {1, 2, 3, 4, 5, 9, 10}) form.Esegui(comando);
   (void)form.Grafica1().Dipingi(1.5);
-  (void)form.Leggenda(0, 0);
+  (void)form.Leggenda({0, 0});
   EXPECT_TRUE(banco.dialoghi.detti.empty());
 }
 
@@ -165,13 +165,13 @@ TEST_F(Vista, IComandiSpostanoEIngrandiscono) {
   EXPECT_EQ(banco.sessione.HostGrafica, 1);
   form.Esegui(11);
   EXPECT_EQ(form.Strumento(), StrumentoPF::ZoomFinestra);
-  form.ZoomFinestra(30, 10, 10, 20);
+  form.ZoomFinestra({30, 10}, {10, 20});
   EXPECT_DOUBLE_EQ(form.Larghezza(), 20);
   EXPECT_DOUBLE_EQ(form.Grafica1().Vista().Yc, 15);
   form.LarghezzaFoglio = 0.2;
-  EXPECT_EQ(form.Leggenda(1000.04, 0.1), "1000.040 0.100 Scala : 1:100 PF02/0010/G224 - 0.000 / 1000.000 / ");
-  EXPECT_EQ(form.Leggenda(1001, 0), "1001.000 0.000 Scala : 1:100");
-  EXPECT_EQ(form.Leggenda(2000000, 5000000), "2000000.000 5000000.000 Scala : 1:100") << "/0000/";
+  EXPECT_EQ(form.Leggenda({1000.04, 0.1}), "1000.040 0.100 Scala : 1:100 PF02/0010/G224 - 0.000 / 1000.000 / ");
+  EXPECT_EQ(form.Leggenda({1001, 0}), "1001.000 0.000 Scala : 1:100");
+  EXPECT_EQ(form.Leggenda({2000000, 5000000}), "2000000.000 5000000.000 Scala : 1:100") << "/0000/";
 }
 
 // One line in its two spellings, the points in the other order, a pair of which one is not there, a name cut.

@@ -77,8 +77,9 @@ FinestraElcoPfGrafica::FinestraElcoPfGrafica(KR_ElcoPFGrafica& modello, QWidget*
   colonna->addLayout(piede);
   superficie_->installEventFilter(this);
   connect(superficie_, &GraficaSuperficie::MenuRichiesto, this, [this](const QPoint& dove) { menu_->popup(dove); });
-  connect(superficie_, &GraficaSuperficie::Sopra, this,
-          [this](double x, double y) { posto_->setText(AQString(modello_.Leggenda(x, y))); });
+  connect(superficie_, &GraficaSuperficie::Sopra, this, [this](double x, double y) {
+    posto_->setText(AQString(modello_.Leggenda({x, y})));
+  });
   connect(superficie_, &GraficaSuperficie::Uscito, this, &FinestraElcoPfGrafica::Mostra);
   AdattaAlloSchermo(*this, 1240, 720);
   superficie_->setFocus();
@@ -158,7 +159,7 @@ bool FinestraElcoPfGrafica::UsaStrumento(QEvent& evento) {
     riquadro_->show();
   } else if (premuto) {
     const QPointF mappa = Mappa(mouse.position());
-    modello_.Clic(mappa.x(), mappa.y());
+    modello_.Clic({mappa.x(), mappa.y()});
   } else if (mosso) {
     riquadro_->setGeometry(QRect(angolo_, mouse.position().toPoint()).normalized());
   } else {
@@ -172,7 +173,7 @@ void FinestraElcoPfGrafica::Traccia(const QPoint& posto) {
   riquadro_->hide();
   const QPointF primo = Mappa(angolo_);
   const QPointF secondo = Mappa(posto);
-  modello_.ZoomFinestra(primo.x(), primo.y(), secondo.x(), secondo.y());
+  modello_.ZoomFinestra({primo.x(), primo.y()}, {secondo.x(), secondo.y()});
 }
 
 // The picture's width on the screen gives the scale its measure.
