@@ -36,7 +36,7 @@ void ProvaRighe(const ListaRighe& righe) {
     Pretendi(std::ranges::all_of(barre, [&](std::size_t colonna) { return righe[i][colonna - 1] == '|'; }),
              "bars stand at their columns");
   }
-  (void)ControllaCensuario(righe, IlBanco().sessione.TabellaQualita);
+  (void)VerificaElencoCensuario(righe, IlBanco().sessione.TabellaQualita);
 }
 
 template <typename Form>

@@ -10,7 +10,7 @@
 #include <base/testo.h>
 #include <core/apertura.h>
 #include <core/lettura.h>
-#include <verifiche/tabella_verifiche.h>
+#include <supporto/tabella_verifiche.h>
 #include <verifiche/verifica_anelli.h>
 #include <verifiche/verificatore.h>
 

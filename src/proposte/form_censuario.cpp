@@ -11,13 +11,13 @@ void FormCensuario::Premi(int indice) {
   (void)Intrappola(ambiente_, [&] { Esegui(indice); });
 }
 
-std::vector<RilievoCensuario> FormCensuario::RilieviList1() const {
-  return ControllaCensuario(List1, ambiente_.sessione.TabellaQualita);
+std::vector<Segnalazione> FormCensuario::RilieviList1() const {
+  return VerificaElencoCensuario(List1, ambiente_.sessione.TabellaQualita);
 }
 
 // Heading and count alone are no memo yet.
-std::vector<RilievoCensuario> FormCensuario::RilieviMemo() {
-  return ControllaCensuario(Memo().Righe(), ambiente_.sessione.TabellaQualita);
+std::vector<Segnalazione> FormCensuario::RilieviMemo() {
+  return VerificaElencoCensuario(Memo().Righe(), ambiente_.sessione.TabellaQualita);
 }
 
 void FormCensuario::CopiaMemo() {

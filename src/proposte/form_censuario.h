@@ -3,7 +3,7 @@
 
 #include <base/dialoghi.h>
 #include <core/ambiente.h>
-#include <proposte/rilievi_censuari.h>
+#include <proposte/verifica_censuario.h>
 
 #include <span>
 #include <string>
@@ -36,9 +36,9 @@ public:
   void Premi(int indice);
 
   // What is to be told of the form as a whole, of List1, of the memo.
-  [[nodiscard]] virtual std::vector<RilievoCensuario> Rilievi() const { return {}; }
-  [[nodiscard]] std::vector<RilievoCensuario> RilieviList1() const;
-  [[nodiscard]] std::vector<RilievoCensuario> RilieviMemo();
+  [[nodiscard]] virtual std::vector<Segnalazione> Rilievi() const { return {}; }
+  [[nodiscard]] std::vector<Segnalazione> RilieviList1() const;
+  [[nodiscard]] std::vector<Segnalazione> RilieviMemo();
 
   [[nodiscard]] Ambiente& Dintorni() { return ambiente_; }
 

@@ -12,6 +12,11 @@ namespace {
 
 using Grid = GrigliaProposta;
 
+constexpr Regola SoloNellaGriglia = {
+    "", Severita::Avviso,
+    "La correzione di 1 mq alla prima derivata sta solo nella griglia: la riga censuaria non la porta",
+    "le aree delle righe non tornano"};
+
 } // namespace
 
 void KR_Fraziona::Form_Load() {
@@ -60,12 +65,10 @@ void KR_Fraziona::Concludi() {
   MSFlexGrid1.Dipingi(Grid::Originale, Grid::Area, differenza != 0 ? ColoreCella::Giallo : ColoreCella::Bianco);
 }
 
-std::vector<RilievoCensuario> KR_Fraziona::Rilievi() const {
+std::vector<Segnalazione> KR_Fraziona::Rilievi() const {
   auto rilievi = PropostaDerivate::Rilievi();
   if (MSFlexGrid1.Colore(Grid::Originale, Grid::Area) == ColoreCella::Giallo)
-    rilievi.push_back(
-        {GravitaRilievo::Avviso, std::string::npos,
-         "La correzione di 1 mq alla prima derivata sta solo nella griglia: la riga censuaria non la porta"});
+    rilievi.push_back({&SoloNellaGriglia, {}, 0, {}, {}});
   return rilievi;
 }
 

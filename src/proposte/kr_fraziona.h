@@ -16,12 +16,10 @@ public:
   void Apri(const Ingressi& ingressi) override;
 
   [[nodiscard]] std::string_view NomeForm() const override { return "KR_Fraziona"; }
-  [[nodiscard]] std::vector<RilievoCensuario> Rilievi() const override;
+  [[nodiscard]] std::vector<Segnalazione> Rilievi() const override;
 
   // The proposal, drawn.
   [[nodiscard]] Grafica& Grafica1() { return grafica_; }
-
-  void ComponiFrazionamento() { Ricomponi(); }
 
 protected:
   [[nodiscard]] std::string_view FileMemo() const override { return "51FTP.CEN"; }

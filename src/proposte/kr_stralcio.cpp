@@ -12,6 +12,10 @@ namespace {
 
 using Grid = GrigliaProposta;
 
+constexpr Regola MemoDiFrazionamento = {
+    "", Severita::Avviso, "Il memo di questo stralcio si dichiara 51FTP, un frazionamento: Ricomincia lo intesta 3SPC",
+    "la sezione di uno stralcio si chiama 3SPC"};
+
 constexpr std::size_t RigaOrigine = 2;   // of List1
 constexpr std::size_t PrimaDerivata = 4; // of List1: behind the suppressed or varied parcel
 
@@ -74,11 +78,10 @@ void KR_Stralcio::SegnaUrbani() {
   }
 }
 
-std::vector<RilievoCensuario> KR_Stralcio::Rilievi() const {
+std::vector<Segnalazione> KR_Stralcio::Rilievi() const {
   auto rilievi = PropostaDerivate::Rilievi();
   if (List2.Quante() > 1 && ApreSezione(List2.Riga(1), censuario::Frazionamento))
-    rilievi.push_back({GravitaRilievo::Avviso, std::string::npos,
-                       "Il memo di questo stralcio si dichiara 51FTP, un frazionamento: Ricomincia lo intesta 3SPC"});
+    rilievi.push_back({&MemoDiFrazionamento, {}, 0, {}, {}});
   return rilievi;
 }
 

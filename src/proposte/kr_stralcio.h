@@ -17,11 +17,10 @@ public:
   void Apri(const Ingressi& ingressi) override;
 
   [[nodiscard]] std::string_view NomeForm() const override { return "KR_Stralcio"; }
-  [[nodiscard]] std::vector<RilievoCensuario> Rilievi() const override;
+  [[nodiscard]] std::vector<Segnalazione> Rilievi() const override;
 
   // A change of the selection of List4.
   void CambiaUrbani() { Ricomponi(); }
-  void ComponiStralcio() { Ricomponi(); }
 
 protected:
   [[nodiscard]] std::string_view FileMemo() const override { return "3SPC.CEN"; }

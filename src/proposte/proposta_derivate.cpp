@@ -32,6 +32,9 @@ namespace {
 
 using Grid = GrigliaProposta;
 
+constexpr Regola NonRicomposte = {"", Severita::Errore, "Le righe non sono ricomposte: {1}",
+                                  "restano quelle di prima dell'errore"};
+
 constexpr std::string_view FormatoReddito = "#######0.00";
 
 constexpr std::array ElencoPulsanti = {
@@ -454,10 +457,9 @@ std::string PropostaDerivate::ParticellaCorrente() const {
   return MSFlexGrid1.Cella(RigaCorrente, Grid::Operazione) == "V" ? Particella() : NomeDellaNuova(RigaCorrente);
 }
 
-std::vector<RilievoCensuario> PropostaDerivate::Rilievi() const {
-  std::vector<RilievoCensuario> rilievi;
-  if (!assorbito_.empty())
-    rilievi.push_back({GravitaRilievo::Errore, std::string::npos, "Le righe non sono ricomposte: " + assorbito_});
+std::vector<Segnalazione> PropostaDerivate::Rilievi() const {
+  std::vector<Segnalazione> rilievi;
+  if (!assorbito_.empty()) rilievi.push_back({&NonRicomposte, {}, 0, assorbito_, {}});
   return rilievi;
 }
 

@@ -39,7 +39,7 @@ public:
 
   [[nodiscard]] std::span<const PulsanteForm> Pulsanti() const override;
   [[nodiscard]] ElencoRighe& Memo() override { return List2; }
-  [[nodiscard]] std::vector<RilievoCensuario> Rilievi() const override;
+  [[nodiscard]] std::vector<Segnalazione> Rilievi() const override;
 
   // Opens on the files of the machine; the memo goes to its .CEN file from then on.
   virtual void Form_Load() = 0;
@@ -75,7 +75,6 @@ public:
 
   [[nodiscard]] const std::string& Particella() const { return scelta_.dati.nome; }
   // Whether the proposal had an areas file.
-  [[nodiscard]] bool ConProposta() const { return conProposta_; }
 
 protected:
   PropostaDerivate(Ambiente& ambiente, ParticellaScelta scelta);

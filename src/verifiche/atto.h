@@ -3,10 +3,10 @@
 
 #include <base/data.h>
 #include <core/tabelle.h>
+#include <supporto/tabella_verifiche.h>
 #include <verifiche/estratto_letto.h>
 #include <verifiche/rete.h>
 #include <verifiche/righe_lette.h>
-#include <verifiche/tabella_verifiche.h>
 
 #include <array>
 #include <map>

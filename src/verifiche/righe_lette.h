@@ -2,8 +2,8 @@
 // The rows of the list as read, with what the checks of a row by itself say of it; only what changed is read again.
 
 #include <core/lista_righe.h>
+#include <supporto/segnalazione.h>
 #include <verifiche/riga_letta.h>
-#include <verifiche/segnalazione.h>
 
 #include <vector>
 

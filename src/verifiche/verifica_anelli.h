@@ -2,8 +2,8 @@
 // The checks that the rings of an extract and of a proposal share, and those of an extract by itself.
 
 #include <base/data.h>
+#include <supporto/segnalazione.h>
 #include <verifiche/estratto_letto.h>
-#include <verifiche/segnalazione.h>
 
 #include <string_view>
 #include <vector>

@@ -1,6 +1,6 @@
 #include <verifiche/verifiche_righe.h>
 
-#include <verifiche/tabella_verifiche.h>
+#include <supporto/tabella_verifiche.h>
 
 #include <base/numeri.h>
 #include <base/testo.h>

@@ -1,8 +1,8 @@
 #pragma once
 // The checks of a row by itself.
 
+#include <supporto/segnalazione.h>
 #include <verifiche/riga_letta.h>
-#include <verifiche/segnalazione.h>
 
 #include <string_view>
 

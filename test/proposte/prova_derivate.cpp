@@ -216,7 +216,7 @@ TEST(Frazionamento, GrigliaRedditiEColori) {
   Batti(form, {"50", "50"});
   EXPECT_EQ(griglia.Colore(1, Grid::Area), ColoreCella::Bianco);
   EXPECT_EQ(griglia.Colore(1, Grid::RA), ColoreCella::Bianco);
-  EXPECT_EQ(form.Rilievi(), std::vector<RilievoCensuario>{});
+  EXPECT_EQ(form.Rilievi(), std::vector<Segnalazione>{});
 }
 
 TEST(Frazionamento, DoppioClickSullaGriglia) {
@@ -259,10 +259,11 @@ TEST(Frazionamento, ErroriAssorbiti) {
   EXPECT_EQ(prima.size(), 6U);
   Batti(form, {"1"}); // fewer parcels than derivations
   EXPECT_EQ(Copia(form.List1), prima);
-  EXPECT_EQ(form.Rilievi().front().testo, "Le righe non sono ricomposte: Indice non incluso nell'intervallo "
-                                          "(ComponiFrazionamento)");
+  EXPECT_EQ(Testo(form.Rilievi().front()), "Le righe non sono ricomposte: Indice non incluso nell'intervallo "
+                                           "(ComponiFrazionamento)");
   Batti(form, {"100:F", "0"}); // a division by zero
-  EXPECT_NE(form.Rilievi().front().testo.find("Divisione per zero"), std::string::npos) << form.Rilievi().front().testo;
+  EXPECT_NE(Testo(form.Rilievi().front()).find("Divisione per zero"), std::string::npos)
+      << Testo(form.Rilievi().front());
   form.VaiARiga(4);
   form.CambiaText2("1");
   EXPECT_EQ(form.Rilievi().size(), 0U);
@@ -330,7 +331,7 @@ TEST(Frazionamento, MemoELibretto) {
   EXPECT_EQ(form.List1[4].substr(17, 5), "AAC  ");
   form.AggiungiAlMemo();
   EXPECT_EQ(form.List2.Riga(1), Conteggio("51FTP", "007"));
-  EXPECT_EQ(form.RilieviMemo(), std::vector<RilievoCensuario>{});
+  EXPECT_EQ(form.RilieviMemo(), std::vector<Segnalazione>{});
   EXPECT_EQ(banco.disco.Contenuto(prova::Temp + "51FTP.CEN"), Testo(Copia(form.List2.Righe())));
   form.Premi(10);
   EXPECT_EQ(banco.appunti.testo, Testo(Copia(form.List2.Righe())));

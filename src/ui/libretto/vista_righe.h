@@ -6,7 +6,7 @@
 #include <ui/comune/selezione_estesa.h>
 
 #include <core/elenco_righe.h>
-#include <verifiche/segnalazione.h>
+#include <supporto/segnalazione.h>
 
 #include <QAbstractScrollArea>
 

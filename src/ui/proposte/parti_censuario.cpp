@@ -3,6 +3,7 @@
 #include <ui/comune/aspetto.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_superficie.h>
+#include <ui/verifiche/segni.h>
 
 #include <QEvent>
 #include <QLabel>
@@ -24,28 +25,9 @@ constexpr double Punti = 9; // size of the rows' letters
 constexpr int RuoloDove = Qt::UserRole;
 constexpr int RuoloRiga = Qt::UserRole + 1;
 
-QColor ColoreDi(GravitaRilievo gravita) {
-  switch (gravita) {
-  case GravitaRilievo::Errore:
-    return {0xB3, 0x2A, 0x1E};
-  case GravitaRilievo::Avviso:
-    return {0x8A, 0x5A, 0x00};
-  case GravitaRilievo::Nota:
-    break;
-  }
-  return {0x37, 0x47, 0x4F};
-}
-
-QString NomeDi(GravitaRilievo gravita) {
-  switch (gravita) {
-  case GravitaRilievo::Errore:
-    return QStringLiteral("Errore");
-  case GravitaRilievo::Avviso:
-    return QStringLiteral("Avviso");
-  case GravitaRilievo::Nota:
-    break;
-  }
-  return QStringLiteral("Nota");
+QString NomeDi(Severita severita) {
+  const QString nome = AQString(std::string(NomeSeverita(severita)));
+  return nome.left(1).toUpper() + nome.mid(1);
 }
 
 QString NomeDi(ElencoRilievi::Dove dove) {
@@ -157,8 +139,8 @@ QSize ElencoRilievi::sizeHint() const {
   return {400, righe * (fontMetrics().height() + 4) + 2 * frameWidth()};
 }
 
-void ElencoRilievi::Mostra(const std::vector<RilievoCensuario>& form, const std::vector<RilievoCensuario>& composizione,
-                           const std::vector<RilievoCensuario>& memo) {
+void ElencoRilievi::Mostra(const std::vector<Segnalazione>& form, const std::vector<Segnalazione>& composizione,
+                           const std::vector<Segnalazione>& memo) {
   clear();
   Aggiungi(Dove::Form, form);
   Aggiungi(Dove::Composizione, composizione);
@@ -167,17 +149,16 @@ void ElencoRilievi::Mostra(const std::vector<RilievoCensuario>& form, const std:
 }
 
 // More than a few dozen nobody reads.
-void ElencoRilievi::Aggiungi(Dove dove, const std::vector<RilievoCensuario>& rilievi) {
+void ElencoRilievi::Aggiungi(Dove dove, const std::vector<Segnalazione>& rilievi) {
   constexpr std::size_t massimi = 50;
   for (std::size_t i = 0; i < std::min(rilievi.size(), massimi); ++i) {
-    const RilievoCensuario& rilievo = rilievi[i];
-    QString testo = NomeDi(rilievo.gravita);
-    const bool conRiga = rilievo.riga != std::string::npos;
-    if (conRiga) testo += QStringLiteral(", %1 riga %2").arg(NomeDi(dove)).arg(rilievo.riga + 1);
-    auto* voce = new QListWidgetItem(testo + QStringLiteral(": ") + AQString(rilievo.testo), this);
-    voce->setForeground(ColoreDi(rilievo.gravita));
+    const Segnalazione& rilievo = rilievi[i];
+    QString testo = NomeDi(rilievo.regola->severita);
+    if (rilievo.riga) testo += QStringLiteral(", %1 riga %2").arg(NomeDi(dove)).arg(*rilievo.riga + 1);
+    testo += QStringLiteral(": ") + AQString(Testo(rilievo, 1));
+    auto* voce = new QListWidgetItem(IconaSegno(rilievo.regola->severita), testo, this);
     voce->setData(RuoloDove, static_cast<int>(dove));
-    if (conRiga) voce->setData(RuoloRiga, QVariant::fromValue<qulonglong>(rilievo.riga));
+    if (rilievo.riga) voce->setData(RuoloRiga, QVariant::fromValue<qulonglong>(*rilievo.riga));
   }
   if (rilievi.size() > massimi) addItem(QStringLiteral("... e altri %1").arg(rilievi.size() - massimi));
 }

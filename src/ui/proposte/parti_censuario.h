@@ -62,7 +62,7 @@ private:
   QListView* vista_;
 };
 
-// Findings, the worst kind marked by its colour; a click tells where one stands.
+// Findings, each with the mark of its kind; a click tells where one stands.
 class ElencoRilievi : public QListWidget {
   Q_OBJECT
 public:
@@ -70,8 +70,8 @@ public:
 
   explicit ElencoRilievi(QWidget* padre = nullptr);
 
-  void Mostra(const std::vector<RilievoCensuario>& form, const std::vector<RilievoCensuario>& composizione,
-              const std::vector<RilievoCensuario>& memo);
+  void Mostra(const std::vector<Segnalazione>& form, const std::vector<Segnalazione>& composizione,
+              const std::vector<Segnalazione>& memo);
 
   [[nodiscard]] QSize sizeHint() const override;
 
@@ -79,7 +79,7 @@ signals:
   void Scelto(ElencoRilievi::Dove dove, std::size_t riga);
 
 private:
-  void Aggiungi(Dove dove, const std::vector<RilievoCensuario>& rilievi);
+  void Aggiungi(Dove dove, const std::vector<Segnalazione>& rilievi);
 };
 
 // Lies over a drawing and lights the sides of a parcel.

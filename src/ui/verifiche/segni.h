@@ -1,7 +1,7 @@
 #pragma once
 // The marks of the findings: a red square, an amber triangle, a blue dot; shape and colour tell them apart.
 
-#include <verifiche/segnalazione.h>
+#include <supporto/segnalazione.h>
 
 #include <QIcon>
 #include <QRectF>

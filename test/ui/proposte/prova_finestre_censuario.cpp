@@ -102,7 +102,7 @@ TEST_F(Censuario, IlFrazionamentoBattuto) {
   EXPECT_TRUE(Figlio<QListWidget>(finestra, "Rilievi")
                   .item(1)
                   ->text()
-                  .startsWith(QStringLiteral("Avviso, particella riga 3: Le aree non tornano")));
+                  .startsWith(QStringLiteral("Avviso, particella riga 3: Le superfici nuove sommano 70 mq")));
   emit Figlio<ui::ElencoRilievi>(finestra, "Rilievi").Scelto(ui::ElencoRilievi::Dove::Composizione, 4);
   EXPECT_TRUE(Figlio<ui::RigaDiStato>(finestra, "RigaSpiegata").Testo().contains(QStringLiteral("Lettera a")));
   Premi(finestra, 2); // into the memo; the question is answered with no

@@ -50,7 +50,6 @@ public:
   // One made before, now about this row.
   void Aggiungi(Segnalazione segnalazione, std::size_t riga);
 
-  [[nodiscard]] const std::vector<Segnalazione>& Fatte() const { return fatte_; }
   [[nodiscard]] std::vector<Segnalazione> Prendi() { return std::move(fatte_); }
 
 private:

@@ -1,4 +1,4 @@
-#include <verifiche/segnalazione.h>
+#include <supporto/segnalazione.h>
 
 #include <base/numeri.h>
 #include <base/testo.h>

@@ -13,7 +13,7 @@
 //   a distance 0                  a nota: it is how a direction without distance is written
 //   a fiducial point's row 8      a warning when it differs from the TAF: an act may carry a newer TAF
 
-#include <verifiche/segnalazione.h>
+#include <supporto/segnalazione.h>
 
 #include <base/testo.h>
 
@@ -241,7 +241,7 @@ inline constexpr auto Regole = std::to_array<Regola>({
    "le colonne del Modello Censuario sono fisse"},
   {"M003", Severita::Errore, "La sezione {1} dichiara {2} righe e ne ha {3}",
    "il conteggio dice a Pregeo quante righe leggere"},
-  {"M004", Severita::Avviso, "Sezione {1}: le superfici costituite sommano {2} mq, le originarie {3} mq",
+  {"M004", Severita::Avviso, "Le superfici nuove sommano {1} mq, le originarie {2} mq: differenza {3} mq",
    "la superficie non si crea e non si perde"},
   {"M005", Severita::Avviso, "La lettera {1} salta o si ripete",
    "le particelle derivate hanno lettere in ordine"},
@@ -253,10 +253,24 @@ inline constexpr auto Regole = std::to_array<Regola>({
    "la classe si scrive solo dove la qualità la prevede"_w},
   {"M009", Severita::Avviso, "La particella {1} non è nell'estratto"_w,
    "le particelle trattate sono quelle dell'estratto"},
-  {"M010", Severita::Errore, "L'identificativo {1} è usato due volte"_w,
+  {"M010", Severita::Errore, "L'identificativo {1} è usato due volte: anche alla riga {#2}"_w,
    "ogni particella nuova ha il proprio identificativo"},
   {"M011", Severita::Errore, "Righe censuarie senza la riga di intestazione della sezione",
    "una sezione ha l'intestazione, la riga del conteggio e le sue righe"},
+  {"M012", Severita::Errore, "Manca la riga d'intestazione del Modello Censuario",
+   "il modello comincia dalla sua intestazione"},
+  {"M013", Severita::Avviso, "L'intestazione del Modello Censuario si ripete",
+   "una sola basta per tutte le sezioni"},
+  {"M014", Severita::Errore, "La particella {1} compare due volte come originaria",
+   "la sua superficie si conterebbe due volte"},
+  {"M015", Severita::Errore, "La particella costituita non ha nome temporaneo",
+   "ogni particella nuova ha il proprio identificativo"},
+  {"M016", Severita::Errore, "Superficie reale: le nuove sommano {1} mq, le originarie {2} mq, differenza {3} mq",
+   "con una superficie reale (SR) la differenza non è ammessa"_w},
+  {"M017", Severita::Avviso, "La fusione porta l'area dell'ultima particella: nuove {1} mq, originarie {2} mq, differenza {3} mq",
+   "la particella fusa ha la somma delle aree: la composizione scrive quella dell'ultima"},
+  {"M018", Severita::Nota, "Il riordino non conta le righe M31FU e darà il suo avviso"_w,
+   "il loro conteggio è di particelle e non di righe"_w},
 });
 // clang-format on
 
