@@ -1,48 +1,24 @@
-#include "sostituti/banco.h"
+// Start, rows, drop, commands of the main window.
+#include "sala.h"
 
 #include <applicazione/autore.h>
-#include <applicazione/finestra_principale.h>
-#include <applicazione/forme.h>
 #include <base/errore.h>
 #include <base/testo.h>
-#include <core/righe_scartate.h>
 #include <core/riordino.h>
-#include <intestazione/catasto1_form.h>
 #include <supporto/editor_gen.h>
 #include <supporto/stampa_generale.h>
 
 #include <gtest/gtest.h>
 
-#include <deque>
-#include <set>
-
 namespace lirmeto {
 namespace {
 
-using prova::Banco;
+using prova::Nove;
+using prova::Programma;
+using prova::Sala;
 using prova::Testo;
+using prova::Zero;
 using Righe = std::vector<std::string>;
-
-const std::string Zero = "0|01022024|7|G224|0010|12,3|ROSSI MARIO|GEOMETRA|PADOVA|";
-const std::string Nove = "9|12|10|20|0|VER|FR|TOTALE|";
-const std::string Programma = "C:\\users\\prova\\Documents\\LIRMETO";
-
-struct Sala : Banco {
-  KR_LibrettoOriginale finestra{ambiente};
-  Sala() {
-    disco.Metti("C:\\ACT.DAT",
-                Testo({Zero, Nove, "6|commento|", "1|1|1.5|N|", "2|2|1|2|3|1|N|", "8|PF01/0010/G224|1|2|3|x|"}));
-  }
-  // Everything that undo must give back.
-  [[nodiscard]] std::vector<std::string> Foto() const {
-    std::vector<std::string> foto = Righe();
-    for (const auto& valore : {sessione.Libretto, sessione.Ditta, finestra.CasellaDitta, sessione.NomeFileLibretto,
-                               sessione.EstrattoAssociato, sessione.RigaZero, sessione.Protocollo})
-      foto.push_back(valore);
-    return foto;
-  }
-  [[nodiscard]] std::string Domanda() const { return dialoghi.detti.back().titolo + "/" + dialoghi.UltimoTesto(); }
-};
 
 TEST(Avvio, ApreIlLibrettoEPreparaLaSessione) {
   Sala sala;
@@ -232,157 +208,6 @@ TEST(Comandi, ProgrammiCaratterePannello) {
   EXPECT_TRUE(sala.finestra.Disponibile(Comando::NuovoLibretto));
 }
 
-// --- undo and redo
-
-struct CasoAnnulla {
-  std::string nome;
-  std::function<void(Sala&)> comando;
-};
-
-class Annulla : public testing::TestWithParam<CasoAnnulla> {};
-
-TEST_P(Annulla, RidaEsatteLeRigheERipeteRida) {
-  Sala sala;
-  sala.disco.Metti("C:\\ACT.DAT", Testo({Zero, Nove, "6|commento|", "8|1|1|1|", "2|1|1,2,3|x|y|z|N [VRS]|",
-                                         "1|1|1.5||<P!>|", "2|2|1,2,3|x|y|z|N|", "6|una|due|tre|quattro|"}));
-  sala.disco.Metti("C:\\ALTRO.DAT", Testo({Zero, Nove, "8|9|9|9|", "6|<DIT>NERI|", "6|<EST>ALTRO.EMP|"}));
-  sala.disco.Metti("C:\\ACT.LXB", Testo({"1|1|9|x|"}));
-  sala.finestra.Avvia("C:\\ACT.DAT");
-  sala.finestra.CambiaDitta("rossi");
-  sala.finestre.disponibili = {"FormCatasto1TXT", "KR_EDM"};
-  sala.dialoghi.risposte = {Risposta::Si};
-  sala.appunti.testo = "5\t1,5\t2\r\n";
-  const auto prima = sala.Foto();
-  GetParam().comando(sala);
-  const auto dopo = sala.Foto();
-  EXPECT_NE(prima, dopo);
-  ASSERT_TRUE(sala.finestra.Attivo(Comando::Annulla)) << sala.dialoghi.UltimoTesto();
-  for (int giro = 0; giro < 2; ++giro) {
-    sala.finestra.Esegui(Comando::Annulla);
-    EXPECT_EQ(sala.Foto(), prima);
-    EXPECT_FALSE(sala.finestra.Attivo(Comando::Annulla)) << "one command is one step";
-    sala.finestra.Esegui(Comando::Ripeti);
-    EXPECT_EQ(sala.Foto(), dopo);
-  }
-}
-
-CasoAnnulla Dal(Comando comando, long indice = -1) {
-  return {"Comando" + std::to_string(static_cast<int>(comando)), [=](Sala& sala) {
-            sala.sessione.List1.Indice(indice);
-            sala.finestra.Esegui(comando);
-          }};
-}
-
-// The editor, as a user who takes a row away.
-CasoAnnulla Dall(const std::string& nome, void (KR_LibrettoOriginale::*evento)(std::size_t)) {
-  return {nome, [=](Sala& sala) {
-            sala.finestre.utente = [](Modello& modello) {
-              auto& editor = dynamic_cast<KR_EditorGen&>(modello);
-              editor.Testo = Sostituisci(editor.Testo, "8|1|1|1|\r\n", "");
-              editor.Chiudi();
-            };
-            (sala.finestra.*evento)(3);
-          }};
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    OgniComando, Annulla,
-    testing::Values(Dal(Comando::EliminaVrs), Dal(Comando::AssegnaVrs, 6), Dal(Comando::Righe8DaExcel),
-                    Dal(Comando::Righe8NomeAutoDaExcel), Dal(Comando::RigheCompleteDaExcel),
-                    Dal(Comando::DaElaborazionePregeo), Dal(Comando::ModelloCensuario), Dal(Comando::RiordinoRighe),
-                    Dal(Comando::IncollaDaAppunti), Dal(Comando::NuovoLibretto), Dal(Comando::NuovoLibrettoVuoto),
-                    Dall("DoppioClick", &KR_LibrettoOriginale::DoppioClick),
-                    Dall("Invio", &KR_LibrettoOriginale::TastoInvio),
-                    CasoAnnulla{"Cancella",
-                                [](Sala& sala) {
-                                  sala.sessione.List1.SelezionaIntervallo(2, 4, true);
-                                  sala.finestra.TastoCancella();
-                                }},
-                    CasoAnnulla{"Trascina", [](Sala& sala) { sala.finestra.Trascina("C:\\altro.dat"); }},
-                    CasoAnnulla{"TrascinaLxb", [](Sala& sala) { sala.finestra.Trascina("C:\\act.lxb"); }},
-                    CasoAnnulla{"DialogoRiordino",
-                                [](Sala& sala) {
-                                  sala.finestre.utente = [](Modello& modello) {
-                                    auto& form = dynamic_cast<FormRiordinoRighe&>(modello);
-                                    form.AllAttivazione();
-                                    form.Righe[ClasseRighe::Coordinate].clear();
-                                    form.Conferma();
-                                  };
-                                  sala.finestra.Esegui(Comando::MostraRiordino);
-                                }}),
-    [](const auto& caso) { return caso.param.nome; });
-
-// Forms opened by name are the real ones.
-struct FinestreVere : prova::FinestreDiProva {
-  Ambiente* ambiente = nullptr;
-  [[nodiscard]] bool Disponibile(std::string_view nome) const override { return TrovaForma(nome) != nullptr; }
-  void Apri(std::string_view nome) override { TrovaForma(nome)->apri(*ambiente); }
-};
-
-TEST(Annulla, LIntestazioneConfermata) {
-  Sala sala;
-  FinestreVere finestre;
-  Ambiente vero{sala.sessione, sala.disco,        sala.dialoghi, finestre,
-                sala.processi, sala.impostazioni, sala.appunti,  sala.orologio};
-  finestre.ambiente = &vero;
-  finestre.utente = [](Modello& modello) {
-    auto& form = dynamic_cast<FormCatasto1TXT&>(modello);
-    form.Cambia(1, "99");
-    form.Premi(0);
-  };
-  sala.dialoghi.risposte = {Risposta::Si}; // a fiscal code that is none
-  KR_LibrettoOriginale finestra(vero);
-  finestra.Avvia("C:\\ACT.DAT");
-  const auto prima = sala.Foto();
-  finestra.DoppioClick(0);
-  EXPECT_EQ(Parte(sala.Righe()[0], '|', 2), "99");
-  finestra.Esegui(Comando::Annulla);
-  EXPECT_EQ(sala.Foto(), prima);
-  finestra.Esegui(Comando::Ripeti);
-  EXPECT_EQ(sala.sessione.Protocollo, "99");
-}
-
-TEST(Annulla, NonPerCioCheNonCambiaLeRighe) {
-  Sala sala;
-  sala.finestra.Avvia("C:\\ACT.DAT");
-  for (const Comando comando : {Comando::SalvaLibretto, Comando::CopiaNegliAppunti, Comando::SelezionaStazioni,
-                                Comando::InvertiSelezione, Comando::MostraRigheScartate, Comando::EliminaVrs}) {
-    sala.finestra.Esegui(comando);
-    EXPECT_FALSE(sala.finestra.Attivo(Comando::Annulla)) << static_cast<int>(comando);
-  }
-  sala.finestra.Esegui(Comando::RiordinoRighe);
-  EXPECT_EQ(sala.finestra.Didascalia(Comando::Annulla), "Annulla");
-  sala.sessione.List1.Aggiungi("8|nuova|1|2|");
-  sala.sessione.List1.Seleziona(2, true);
-  sala.dialoghi.risposte = {Risposta::Si};
-  sala.finestra.TastoCancella();
-  EXPECT_EQ(sala.finestra.Didascalia(Comando::Annulla), "Annulla Elimina Righe");
-  sala.finestra.Esegui(Comando::Annulla);
-  EXPECT_EQ(sala.finestra.Didascalia(Comando::Ripeti), "Ripeti Elimina Righe");
-}
-
-TEST(Scartate, LAvvisoRestaFinoAlProssimoCambiamento) {
-  Sala sala;
-  sala.disco.Metti("C:\\ACT.DAT", Testo({Zero, Nove, "8|1|1|1|", "6|una|due|tre|", "6|x|y|z|w|"}));
-  sala.finestra.Avvia("C:\\ACT.DAT");
-  sala.finestra.Esegui(Comando::RiordinoRighe);
-  EXPECT_EQ(sala.finestra.AvvisoScartate, "Scartate 2 righe senza classe");
-  sala.finestra.Esegui(Comando::SelezionaStazioni);
-  sala.finestre.utente = [&](Modello& modello) {
-    auto& form = dynamic_cast<FormRigheScartate&>(modello);
-    EXPECT_EQ(form.Righe(), (ListaRighe{"6|una|due|tre|", "6|x|y|z|w|"}));
-    form.Copia();
-  };
-  sala.finestra.Esegui(Comando::MostraRigheScartate);
-  EXPECT_EQ(sala.appunti.testo, Testo({"6|una|due|tre|", "6|x|y|z|w|"}));
-  sala.finestra.Esegui(Comando::Annulla);
-  EXPECT_EQ(sala.finestra.AvvisoScartate, "");
-  sala.finestra.Esegui(Comando::Ripeti);
-  EXPECT_EQ(sala.sessione.RigheScartate.size(), 2U);
-  sala.finestra.Esegui(Comando::IncollaDaAppunti);
-  EXPECT_EQ(sala.finestra.AvvisoScartate, "");
-}
-
 TEST(Comandi, OpzioniFormEConfigurazione) {
   Sala sala;
   sala.finestra.Avvia("C:\\ACT.DAT");
@@ -419,147 +244,6 @@ TEST(Comandi, OpzioniFormEConfigurazione) {
   sala.sessione.CodiceComune = "X";
   sala.finestra.Esegui(Comando::CodiceFiscale);
   EXPECT_EQ(sala.sessione.CodiceComune, "G224");
-}
-
-TEST(Chiusura, ScriveIlFileELaPosizione) {
-  Sala sala;
-  sala.finestra.Avvia("C:\\ACT.DAT");
-  sala.finestra.CambiaDitta("rossi");
-  sala.finestra.CambiaCodiceFiscale("abc");
-  sala.finestra.CambiaIscrizione("9");
-  sala.finestra.Chiusura({1, 2, 300, 400});
-  const std::string scritto = sala.disco.Contenuto("C:\\ACT.DAT");
-  EXPECT_TRUE(scritto.ends_with("6|<EST>|\r\n6|<COD>ABC|\r\n6|<ISC>9|\r\n6|<DIT>ROSSI|\r\n\r\n")) << scritto;
-  EXPECT_EQ(sala.impostazioni.valori["POSIZIONE_FORMx/KR_LibrettoOriginale"], "1");
-  EXPECT_EQ(sala.impostazioni.valori["FORMy/KR_LibrettoOriginale"], "400");
-  EXPECT_TRUE(sala.finestra.Finita);
-}
-
-TEST(Chiusura, SenzaCambiamentiNonScriveNulla) {
-  const std::string ripetute = Testo({Zero, Nove, "8|1||", "8|1||"}); // what opening mends is no change
-  for (const char* file : {"C:\\ACT.DAT", "C:\\MANCA.DAT", ""}) {
-    Sala sala;
-    sala.disco.Metti("C:\\ACT.DAT", ripetute + "6|<DIT>Rossi|\r\n");
-    sala.finestra.Avvia(file);
-    sala.finestra.Esegui(Comando::InvertiSelezione);
-    sala.finestra.Chiusura({});
-    EXPECT_EQ(sala.disco.Contenuto("C:\\ACT.DAT"), ripetute + "6|<DIT>Rossi|\r\n");
-    EXPECT_FALSE(sala.disco.Esiste("C:\\MANCA.DAT"));
-    EXPECT_TRUE(sala.finestra.Finita);
-    EXPECT_EQ(sala.dialoghi.detti.size(), 0U) << sala.dialoghi.UltimoTesto();
-  }
-}
-
-TEST(Chiusura, CioCheUnLxbPortaSiScrive) {
-  Sala sala;
-  sala.disco.Metti("C:\\ACT.LXB", "1|9|1.5|NUOVA|\r\n");
-  sala.finestra.Avvia("C:\\ACT.LXB");
-  sala.finestra.Chiusura({});
-  EXPECT_TRUE(Contiene(sala.disco.Contenuto("C:\\ACT.DAT"), "1|9|1.5|NUOVA|"));
-}
-
-struct CasoChiusura {
-  std::string nome;
-  std::deque<std::size_t> scelte; // 0 again, 1 elsewhere, 2 without saving; none: the window stays
-  bool finita;
-  std::string dove; // where the edit is in the end; empty for nowhere
-};
-
-class ChiusuraFallita : public testing::TestWithParam<CasoChiusura> {};
-
-TEST_P(ChiusuraFallita, NonPerdeLeModifiche) {
-  Sala sala;
-  sala.finestra.Avvia("C:\\ACT.DAT");
-  sala.finestra.CambiaDitta("rossi");
-  sala.disco.rotti["C:\\ACT.DAT"] = errore::AccessoAlFile;
-  sala.dialoghi.scelte = GetParam().scelte;
-  sala.dialoghi.fileScelto = "C:\\COPIA.DAT";
-  sala.finestra.Chiusura({});
-  EXPECT_EQ(sala.finestra.Finita, GetParam().finita);
-  EXPECT_EQ(sala.finestra.CasellaDitta, "ROSSI");
-  for (const std::string file : {"C:\\ACT.DAT", "C:\\COPIA.DAT"})
-    EXPECT_EQ(Contiene(sala.disco.Contenuto(file), "6|<DIT>ROSSI|"), file == GetParam().dove) << file;
-  sala.disco.rotti.clear();
-  if (GetParam().finita) return;
-  sala.finestra.Chiusura({});
-  EXPECT_TRUE(Contiene(sala.disco.Contenuto("C:\\ACT.DAT"), "6|<DIT>ROSSI|"));
-}
-
-INSTANTIATE_TEST_SUITE_P(Scelte, ChiusuraFallita,
-                         testing::Values(CasoChiusura{"resta", {}, false, ""},
-                                         CasoChiusura{"riprova", {0, 0}, false, ""},
-                                         CasoChiusura{"altrove", {0, 1}, true, "C:\\COPIA.DAT"},
-                                         CasoChiusura{"senzaSalvare", {2}, true, ""}),
-                         [](const auto& caso) { return caso.param.nome; });
-
-// The header form as the user leaves it.
-struct FinestraIntestazione : prova::FinestreDiProva {
-  Sessione* sessione = nullptr;
-  std::int16_t esito = EsitoAnnullato;
-  [[nodiscard]] bool Disponibile(std::string_view) const override { return true; }
-  void Apri(std::string_view) override {
-    sessione->EsitoForm = esito;
-    if (esito > 0) sessione->Libretto = Testo({"0|01012026|9|G224|0010|5|NUOVO ATTO|GEOMETRA|PADOVA|", Nove});
-  }
-};
-
-struct CasoNuovo {
-  std::string nome;
-  std::string ditta;  // typed before
-  Risposta risposta;  // to the question whether to save
-  bool siScrive;      // the file can be written
-  std::int16_t esito; // of the header form
-  bool chiede;
-  bool nuovo;   // the new libretto stands in the end
-  bool salvata; // the edit is on the disk
-};
-
-class Nuovo : public testing::TestWithParam<CasoNuovo> {};
-
-TEST_P(Nuovo, NonSiPortaViaQuelloDiPrima) {
-  const CasoNuovo& caso = GetParam();
-  Sala sala;
-  FinestraIntestazione finestre;
-  finestre.sessione = &sala.sessione;
-  finestre.esito = caso.esito;
-  Ambiente vero{sala.sessione, sala.disco,        sala.dialoghi, finestre,
-                sala.processi, sala.impostazioni, sala.appunti,  sala.orologio};
-  KR_LibrettoOriginale finestra(vero);
-  finestra.Avvia("C:\\ACT.DAT");
-  if (!caso.ditta.empty()) finestra.CambiaDitta(caso.ditta);
-  if (!caso.siScrive) sala.disco.rotti["C:\\ACT.DAT"] = errore::AccessoAlFile;
-  sala.dialoghi.risposte = {caso.risposta};
-  const auto prima = sala.Foto();
-  finestra.Esegui(Comando::NuovoLibretto);
-  EXPECT_EQ(!sala.dialoghi.detti.empty() && sala.dialoghi.detti[0].titolo == "Nuovo Libretto", caso.chiede);
-  EXPECT_EQ(finestra.EtichettaFile, caso.nuovo ? "" : "C:\\ACT.DAT");
-  EXPECT_EQ(sala.sessione.NomeFileLibretto, finestra.EtichettaFile);
-  EXPECT_EQ(finestra.CasellaDitta, caso.nuovo ? "" : Maiuscolo(caso.ditta));
-  if (!caso.nuovo) {
-    EXPECT_EQ(sala.Foto(), prima);
-  }
-  EXPECT_EQ(Contiene(sala.disco.Contenuto("C:\\ACT.DAT"), "6|<DIT>ROSSI|"), caso.salvata);
-  finestra.Esegui(Comando::Annulla);
-  EXPECT_EQ(sala.sessione.NomeFileLibretto, "C:\\ACT.DAT");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Casi, Nuovo,
-    testing::Values(CasoNuovo{"intatto", "", Risposta::No, true, EsitoConfermato, false, true, false},
-                    CasoNuovo{"intatto_esc", "", Risposta::No, true, EsitoAnnullato, false, false, false},
-                    CasoNuovo{"si", "rossi", Risposta::Si, true, EsitoConfermato, true, true, true},
-                    CasoNuovo{"si_fallito", "rossi", Risposta::Si, false, EsitoConfermato, true, false, false},
-                    CasoNuovo{"si_esc", "rossi", Risposta::Si, true, EsitoAnnullato, true, false, true},
-                    CasoNuovo{"no", "rossi", Risposta::No, true, EsitoConfermato, true, true, false},
-                    CasoNuovo{"annulla", "rossi", Risposta::Annulla, true, EsitoConfermato, true, false, false}),
-    [](const auto& caso) { return caso.param.nome; });
-
-TEST(Tabelle, OgniPulsanteUnaVolta) {
-  std::set<int> indici;
-  for (const auto& pulsante : Pulsanti()) EXPECT_TRUE(indici.insert(pulsante.indice).second) << pulsante.indice;
-  EXPECT_EQ(indici,
-            (std::set<int>{1, 3, 4, 5, 6, 7, 9, 10, 11, 14, 15, 16, 17, 18, 20, 21, 22, 23, 24, 25, 27, 28, 30, 31}));
-  EXPECT_EQ(Strumenti().size(), 10U);
 }
 
 } // namespace
