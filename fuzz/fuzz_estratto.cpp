@@ -5,7 +5,6 @@
 #include <base/testo.h>
 #include <core/riga.h>
 #include <estratti/dati_estratto.h>
-#include <estratti/kr_calcolo.h>
 #include <estratti/kr_estratto.h>
 #include <estratti/modifiche_estratto.h>
 #include <sostituti/banco.h>
@@ -61,15 +60,6 @@ void ProvaLettori(Banco& banco) {
   } catch (const Errore& errore) {
     Pretendi(errore.Numero() == errore::IndiceFuoriIntervallo, "data are refused for what they lack");
   }
-  KR_Calcolo calcolo;
-  try {
-    CaricaEstrattoSuKRCalcolo(banco.ambiente, calcolo, "C:\\pregeo\\estratti", Nome);
-  } catch (const Errore& errore) {
-    Pretendi(errore.Numero() == errore::IndiceFuoriIntervallo, "grids are refused for what they lack");
-    return;
-  }
-  Pretendi(calcolo.Tutto.Righe() == calcolo.TuttoList.size() + 1, "every row is in the grid");
-  for (std::size_t i = 0; i < calcolo.Riga7.Righe(); ++i) (void)calcolo.Riga7.RigaConTab(i);
 }
 
 } // namespace

@@ -86,6 +86,7 @@ std::string_view DidascaliaDiTag(std::string_view tag) {
 void KR_LibrettoOriginale::EseguiStrumento(std::string_view tag) {
   ambiente_.sessione.ComandoTag = tag;
   Comanda(DidascaliaDiTag(tag), [&] { EseguiComandoTag(ambiente_); });
+  Verifiche.Dimentica();
   MostraSessione();
 }
 
@@ -154,6 +155,7 @@ bool KR_LibrettoOriginale::EseguiConForm(Comando comando) {
   }
   const std::string_view form = FormDi(comando);
   if (form.empty()) return false;
+  Verifiche.Dimentica(); // a form may change the extract or install an archive
   if (SoloConsulta(comando)) {
     if (ApriForm(ambiente_, form)) DecoZeroNove(ambiente_);
     return true;

@@ -95,9 +95,10 @@ std::span<const Forma> Forme() {
 }
 
 const Forma* TrovaForma(std::string_view nome) {
+  const auto forme = Forme();
   const auto trovata =
-      std::find_if(ElencoForme.begin(), ElencoForme.end(), [nome](const Forma& form) { return form.nome == nome; });
-  return trovata == ElencoForme.end() ? nullptr : &*trovata;
+      std::find_if(forme.begin(), forme.end(), [nome](const Forma& form) { return form.nome == nome; });
+  return trovata == forme.end() ? nullptr : &*trovata;
 }
 
 } // namespace lirmeto

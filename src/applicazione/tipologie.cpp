@@ -125,10 +125,6 @@ bool ComponiNelLibretto(Ambiente& ambiente, const Tipologia& tipologia) {
 
 } // namespace
 
-std::span<const Tipologia> Tipologie() {
-  return ElencoTipologie;
-}
-
 const Tipologia* TrovaTipologia(Comando comando) {
   const auto trovata = std::find_if(ElencoTipologie.begin(), ElencoTipologie.end(),
                                     [comando](const Tipologia& una) { return una.comando == comando; });

@@ -4,7 +4,6 @@
 #include <applicazione/comandi.h>
 #include <core/ambiente.h>
 
-#include <span>
 #include <string_view>
 
 namespace lirmeto {
@@ -15,8 +14,6 @@ struct Tipologia {
   bool unaMantiene = false; // of more than one parcel, one keeps its identifier: the user says which
 };
 
-// All of them, in the order of the menu.
-[[nodiscard]] std::span<const Tipologia> Tipologie();
 // Null for a command that is none.
 [[nodiscard]] const Tipologia* TrovaTipologia(Comando comando);
 

@@ -116,9 +116,7 @@ struct Sessione {
   std::string VersionePregeo;
 
   // Numbers and flags.
-  double Pi = std::numbers::pi;
   double RadGon = 200 / std::numbers::pi; // radians to grads
-  double GonRad = std::numbers::pi / 200; // grads to radians
   std::int16_t EsitoForm = 0;             // set by a modal form before it closes: 1 confirmed, -1 cancelled
   std::int16_t EsitoSelezione = 0; // the same kind of answer: 1 a comune or a possessor was taken, -1 nothing was
   int ModoEditor = 0;              // what KR_EditorGen edits: 381 the libretto, 382 a report, 383 the census memo

@@ -5,7 +5,6 @@
 #include <core/lettura.h>
 #include <core/riga.h>
 #include <estratti/campi.h>
-#include <estratti/kr_estratto.h>
 
 #include <string>
 #include <utility>
@@ -21,10 +20,6 @@ struct VoceArchiviata {
   std::string percorso;
   std::string riga;
 };
-
-void Scrivi(Ambiente& ambiente, const std::vector<VoceArchiviata>& voci) {
-  for (const auto& [percorso, riga] : voci) ambiente.disco.Scrivi(percorso, riga + std::string(FineRiga));
-}
 
 std::vector<VoceArchiviata> VociDitte(const Sessione& sessione, std::string_view testo) {
   const auto righe = RigheDi(testo);
@@ -48,21 +43,12 @@ std::string SenzaDitte(std::string_view testo) {
   return uscita;
 }
 
-std::vector<VoceArchiviata> VociParticelle(const Sessione& sessione, const KR_Estratto& estratto) {
-  std::vector<VoceArchiviata> voci;
-  for (const auto riga : estratto.PARTICELLA) {
-    const std::string nome = sessione.EstrattoComune + "_" + sessione.EstrattoFoglio + "_" +
-                             Sostituisci(Taglia(Campo(riga, 2)), "/", "_") + ".Map";
-    voci.push_back({sessione.RadiceDati + "\\FIDUCIAL\\PARTICELLE\\" + ComponenteFile(nome), std::string(riga)});
-  }
-  return voci;
-}
-
 } // namespace
 
 void ArchiviaDitte(Ambiente& ambiente, std::string_view percorso) {
   ambiente.sessione.PuntoErrore = "ArchiviaDitte";
-  Scrivi(ambiente, VociDitte(ambiente.sessione, CaricaFileIntero(ambiente, percorso)));
+  for (const auto& [file, riga] : VociDitte(ambiente.sessione, CaricaFileIntero(ambiente, percorso)))
+    ambiente.disco.Scrivi(file, riga + std::string(FineRiga));
 }
 
 // The extract is written last: until then everything that it held is still there.
@@ -73,14 +59,6 @@ void ArchiviaEdEliminaDitte(Ambiente& ambiente, std::string_view percorso) {
   ambiente.disco.Copia(percorso, copia);
   ambiente.disco.Scrivi(percorso, SenzaDitte(CaricaFileIntero(ambiente, copia)));
   ambiente.dialoghi.Messaggio("Intestatari archiviati ed eliminati dall'Estratto!");
-}
-
-void ArchiviaParticelle(Ambiente& ambiente) {
-  ambiente.sessione.PuntoErrore = "ArchiviaParticelle";
-  if (ambiente.sessione.EstrattoAssociato.empty()) return ambiente.dialoghi.Messaggio("Estratto non trovato!");
-  KR_Estratto estratto;
-  if (!EsplodiEstratto(ambiente, estratto, ambiente.sessione.EstrattoAssociato)) return;
-  Scrivi(ambiente, VociParticelle(ambiente.sessione, estratto));
 }
 
 } // namespace lirmeto

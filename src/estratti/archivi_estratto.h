@@ -1,5 +1,5 @@
 #pragma once
-// What an extract leaves in the archives of owners and of parcels: a row to a file.
+// What an extract leaves in the archive of owners: a row to a file.
 
 #include <core/ambiente.h>
 
@@ -14,9 +14,5 @@ void ArchiviaDitte(Ambiente& ambiente, std::string_view percorso);
 
 // The same, and the rows are taken out of the extract, whose last content is kept as a .BAK in the program's \TEMP.
 void ArchiviaEdEliminaDitte(Ambiente& ambiente, std::string_view percorso);
-
-// Writes each census row of the extract associated with the libretto to \FIDUCIAL\PARTICELLE\COMUNE_SHEET_PARCEL.Map,
-// "/" of a parcel's name becoming "_", over one that is there. Without an extract it says so. Errors as ArchiviaDitte.
-void ArchiviaParticelle(Ambiente& ambiente);
 
 } // namespace lirmeto

@@ -38,7 +38,6 @@ struct KR_Estratto {
   ListaRighe List1;      // rows 7 that are no lines, as read; made again by the save
   ListaRighe SETTE;      // a row a ring, its continuations joined, in the reverse order of the file
   ListaRighe Linee;      // rows 7 of free lines, their continuations joined
-  ListaRighe SORTED;     // scratch, in text order
   ListaRighe List2;      // scratch
   ListaRighe PARTICELLA; // rows 6
   ListaRighe DITTA;
@@ -55,9 +54,7 @@ struct KR_Estratto {
   std::array<double, MassimoVertici + 2> Est{};
 
   // What the last ring of three vertices or more gave.
-  double SuperficieCalcolata = 0;    // square metres
-  double PerimetroCalcolato = 0;     // metres
-  double DifferenzaEstCalcolata = 0; // metres, 0 for a ring that closes
+  double SuperficieCalcolata = 0; // square metres
 
   // Empties every list and starts again.
   void Scarica() { *this = KR_Estratto{}; }

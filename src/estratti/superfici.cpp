@@ -7,17 +7,10 @@
 
 namespace lirmeto {
 
-MisureAnello MisuraAnello(std::span<const double> nord, std::span<const double> est) {
-  MisureAnello misure;
-  for (std::size_t i = 0; i + 1 < nord.size(); ++i) {
-    const double versoEst = est[i + 1] - est[i];
-    const double versoNord = nord[i + 1] - nord[i];
-    misure.superficie += versoEst * (nord[i + 1] + nord[i]) / 2;
-    misure.perimetro += std::sqrt(versoEst * versoEst + versoNord * versoNord);
-    misure.differenzaEst += versoEst;
-  }
-  misure.superficie = std::fabs(misure.superficie);
-  return misure;
+double SuperficieAnello(std::span<const double> nord, std::span<const double> est) {
+  double superficie = 0;
+  for (std::size_t i = 0; i + 1 < nord.size(); ++i) superficie += (est[i + 1] - est[i]) * (nord[i + 1] + nord[i]) / 2;
+  return std::fabs(superficie);
 }
 
 SuperficiAnelli::SuperficiAnelli(KR_Estratto& estratto) : estratto_(estratto), indice_(estratto.Punti.size(), '%') {
@@ -62,10 +55,7 @@ void SuperficiAnelli::SuperficieRigaSette(std::string_view riga) {
   est.at(n + 1) = est[1];
   if (n < 3) return;
   // The "NC" is a vertex wherever its place lay before: the ring is closed, so that its two terms cancel.
-  const MisureAnello misure = MisuraAnello(std::span(nord).subspan(1, n + 1), std::span(est).subspan(1, n + 1));
-  estratto_.PerimetroCalcolato = misure.perimetro;
-  estratto_.DifferenzaEstCalcolata = misure.differenzaEst;
-  estratto_.SuperficieCalcolata = misure.superficie;
+  estratto_.SuperficieCalcolata = SuperficieAnello(std::span(nord).subspan(1, n + 1), std::span(est).subspan(1, n + 1));
 }
 
 } // namespace lirmeto

@@ -10,15 +10,9 @@
 
 namespace lirmeto {
 
-// What a closed ring measures.
-struct MisureAnello {
-  double superficie = 0;    // square metres
-  double perimetro = 0;     // metres
-  double differenzaEst = 0; // metres, 0 for a ring that closes
-};
-
-// From the norths and easts of its vertices, metres, in order, the first one repeated behind the last.
-[[nodiscard]] MisureAnello MisuraAnello(std::span<const double> nord, std::span<const double> est);
+// Square metres of a ring, from the norths and easts of its vertices, metres, in order, the first one repeated behind
+// the last.
+[[nodiscard]] double SuperficieAnello(std::span<const double> nord, std::span<const double> est);
 
 // Computes with the points that the extract has when this is made.
 class SuperficiAnelli {

@@ -35,7 +35,6 @@ public:
   void Filtra(std::string_view testo);
   // Orders the rows by a column; by the same one again, the other way round.
   void Ordina(std::size_t colonna);
-  [[nodiscard]] std::size_t ColonnaOrdinata() const { return colonna_; } // of none: as many as there are
   [[nodiscard]] bool Crescente() const { return crescente_; }
 
   // The rows shown from one to another, either of which may be the lower. Without a selection all rows shown count.

@@ -48,7 +48,7 @@ double AreaPoligono(const std::vector<PuntoPiano>& vertici) {
     nord.push_back(vertici[i % vertici.size()].nord);
     est.push_back(vertici[i % vertici.size()].est);
   }
-  return MisuraAnello(nord, est).superficie;
+  return SuperficieAnello(nord, est);
 }
 
 std::vector<std::string> Genera7Completa(Ambiente& ambiente, std::string_view riga, const PuntiPerNome& punti,

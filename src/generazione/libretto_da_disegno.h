@@ -32,7 +32,6 @@ public:
 
   // The frame of the TAF can be used.
   [[nodiscard]] bool TafAbilitata() const { return !Opzioni.Mantieni8; }
-  [[nodiscard]] const TabelleDisegno& Tabelle() const { return tabelle_; }
   [[nodiscard]] Ambiente& Dintorni() { return ambiente_; }
 
   // Settings, old rows, drawing and list of lines. A drawing that is not there is told and loads nothing.

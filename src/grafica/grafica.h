@@ -98,9 +98,6 @@ public:
   // A tool that takes two picks forgets the first.
   void LasciaPresa() { mouse_.Lascia(); }
 
-  // Index of the nearest point, the first of equal ones, in map coordinates. 0 when all are 100,000 metres away or
-  // more.
-  [[nodiscard]] std::size_t KR_IlPiuVicinoAlMouse(const PuntoPiano& posto) { return mouse_.PiuVicino(posto); }
   // Tells the names of points less than 0.01 metres apart, pair by pair; nothing when there are none.
   void KR_PuntiCoincidenti();
 

@@ -41,9 +41,6 @@ class StrumentiMouse {
 public:
   explicit StrumentiMouse(DisegnoCondiviso& disegno) : disegno_(disegno) {}
 
-  [[nodiscard]] const PuntoPreso& Ultimo() const { return ultimo_; }
-  // First pick of a tool that takes two.
-  [[nodiscard]] const std::optional<PuntoPreso>& PrimaPresa() const { return prima_; }
   [[nodiscard]] const EtichettaMouse& Etichetta() const { return etichetta_; }
   // The pointer has the shape of moving in all directions.
   [[nodiscard]] bool Sposta() const { return sposta_; }

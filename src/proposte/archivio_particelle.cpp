@@ -145,8 +145,9 @@ std::string EstrattoConParticella(std::string_view testo, const std::string& nuo
   return esito;
 }
 
-void AggiornaArchivioParticelle(Ambiente& ambiente) {
-  const Sessione& sessione = ambiente.sessione;
+void ArchiviaParticelle(Ambiente& ambiente) {
+  Sessione& sessione = ambiente.sessione;
+  sessione.PuntoErrore = "ArchiviaParticelle";
   KR_Estratto estratto;
   if (sessione.EstrattoAssociato.empty() || !EsplodiEstratto(ambiente, estratto, sessione.EstrattoAssociato))
     return ambiente.dialoghi.Messaggio("Estratto non trovato!");

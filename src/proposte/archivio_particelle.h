@@ -28,8 +28,8 @@ struct FileParticella {
 // that the extract does not need are dropped.
 [[nodiscard]] std::string EstrattoConParticella(std::string_view testo, const std::string& riga);
 
-// The associated extract's parcels into the archive; one that is not there is told.
-void AggiornaArchivioParticelle(Ambiente& ambiente);
+// The associated extract's parcels into the archive, over those that are there; an extract that is not there is told.
+void ArchiviaParticelle(Ambiente& ambiente);
 
 void ScriviParticelle(Ambiente& ambiente, const std::vector<FileParticella>& particelle);
 

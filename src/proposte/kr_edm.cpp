@@ -85,7 +85,7 @@ void KR_EDM::AlCaricamento() {
            " Estratto: " + sessione.EstrattoAssociato;
   EsplodiAreeProposta(ambiente_);
   Prova(&KR_EDM::CaricaProposta);
-  (void)Intrappola(ambiente_, [this] { AggiornaArchivioParticelle(ambiente_); });
+  (void)Intrappola(ambiente_, [this] { ArchiviaParticelle(ambiente_); });
   AllAttivazione();
 }
 

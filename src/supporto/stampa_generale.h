@@ -39,7 +39,6 @@ public:
 
   // A button of the indexed row. Errors are reported here.
   void Esegui(int indice);
-  void DoppioClickLista() { Esegui(ModificaLista); }
   void DoppioClickModello();
   // The menu entry for a text editor: the report's .TXT file.
   void ApriTesto();

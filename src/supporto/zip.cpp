@@ -26,7 +26,7 @@ bool ZipClass::WriteZip(std::string_view percorso, bool sovrascrivi) {
   for (ZipFile& file : file_) ScriviLocale(file, archivio);
   const std::size_t inizioElenco = archivio.size();
   for (const ZipFile& file : file_) ScriviCentrale(file, archivio);
-  ScriviFine(file_.size(), inizioElenco, commento_, archivio);
+  ScriviFine(file_.size(), inizioElenco, archivio);
   disco_.Scrivi(percorso, archivio);
   return true;
 }

@@ -18,10 +18,6 @@ class ZipClass {
 public:
   explicit ZipClass(Disco& disco) : disco_(disco) {}
 
-  [[nodiscard]] std::size_t FileCount() const { return file_.size(); }
-  [[nodiscard]] const std::string& Comment() const { return commento_; }
-  void Comment(std::string commento) { commento_ = std::move(commento); }
-
   // Reads a file into a new entry, under the last part of its path or under `nome`, when that is not empty. False, and
   // nothing added, when the file is not there. Errors: 457 its path is an entry already, 6 it is of 4 GB or more; those
   // of Disco::Leggi.
@@ -36,7 +32,6 @@ private:
   Disco& disco_;
   std::vector<ZipFile> file_;
   std::unordered_set<std::string> chiavi_; // upper-cased paths
-  std::string commento_;
 };
 
 // Bounds of an unpacking: who sends more than this sends no extract but a trap.

@@ -118,7 +118,7 @@ void ScriviCentrale(const ZipFile& file, std::string& archivio) {
   archivio += file.commento;
 }
 
-void ScriviFine(std::size_t quanti, std::size_t inizioElenco, std::string_view commento, std::string& archivio) {
+void ScriviFine(std::size_t quanti, std::size_t inizioElenco, std::string& archivio) {
   const std::size_t lungo = archivio.size() - inizioElenco;
   Campo32(archivio, FirmaFine);
   Campo16(archivio, 0); // this disk, and the one where the directory begins
@@ -127,8 +127,7 @@ void ScriviFine(std::size_t quanti, std::size_t inizioElenco, std::string_view c
   Campo16(archivio, quanti);
   Campo32(archivio, lungo);
   Campo32(archivio, inizioElenco);
-  Campo16(archivio, commento.size());
-  archivio += commento;
+  Campo16(archivio, 0); // letters of a comment
 }
 
 } // namespace lirmeto

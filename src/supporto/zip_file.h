@@ -34,7 +34,7 @@ void ScriviCentrale(const ZipFile& file, std::string& archivio);
 
 // The record that ends an archive of so many entries, whose central directory begins at `inizioElenco` and ends here.
 // Error 6 likewise.
-void ScriviFine(std::size_t quanti, std::size_t inizioElenco, std::string_view commento, std::string& archivio);
+void ScriviFine(std::size_t quanti, std::size_t inizioElenco, std::string& archivio);
 
 // A moment in the MS-DOS packing, which knows the years 1980 to 2107: one before or behind them is told as its nearest.
 [[nodiscard]] std::uint16_t DataDos(const Data& data);

@@ -18,11 +18,6 @@ struct Rototraslazione {
   [[nodiscard]] PuntoPiano Applica(const PuntoPiano& p) const {
     return {coseno * p.est - seno * p.nord + dx, seno * p.est + coseno * p.nord + dy};
   }
-  [[nodiscard]] PuntoPiano Inversa(const PuntoPiano& p) const {
-    const double x = p.est - dx;
-    const double y = p.nord - dy;
-    return {coseno * x + seno * y, coseno * y - seno * x};
-  }
 };
 
 struct Coppia {

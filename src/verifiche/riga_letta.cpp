@@ -179,11 +179,6 @@ Punto NomiPunti::Numero(std::string_view nome) {
   return posto->second;
 }
 
-Punto NomiPunti::Cerca(std::string_view nome) const {
-  const auto posto = numeri_.find(nome);
-  return posto == numeri_.end() ? SenzaPunto : posto->second;
-}
-
 std::size_t QuantiCampi(const Campi& campi) {
   const std::size_t quanti = campi.Quanti();
   return quanti > 0 && campi[quanti - 1].empty() ? quanti - 1 : quanti;

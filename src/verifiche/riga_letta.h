@@ -21,8 +21,6 @@ inline constexpr Punto SenzaPunto = 0xFFFFFFFF;
 class NomiPunti {
 public:
   Punto Numero(std::string_view nome);
-  // SenzaPunto when it has none.
-  [[nodiscard]] Punto Cerca(std::string_view nome) const;
   [[nodiscard]] std::string_view Nome(Punto punto) const { return *nomi_[punto]; }
   [[nodiscard]] std::size_t Quanti() const { return nomi_.size(); }
   // Whether it is a fiducial point by its name: "PF" in front, in either case.

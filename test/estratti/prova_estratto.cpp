@@ -4,7 +4,6 @@
 #include <base/testo.h>
 #include <core/riga.h>
 #include <estratti/dati_estratto.h>
-#include <estratti/kr_calcolo.h>
 #include <estratti/kr_estratto.h>
 #include <estratti/modifiche_estratto.h>
 #include <estratti/superfici.h>
@@ -166,8 +165,6 @@ TEST(Superfici, QuelloCheRestaNellePosizioni) {
   EXPECT_EQ(estratto.SuperficieCalcolata, 0) << "fewer than three";
   anelli.SuperficieRigaSette("7|4|1%|2%|3%|1%|NC|A|A|5|");
   EXPECT_EQ(estratto.SuperficieCalcolata, 600);
-  EXPECT_EQ(estratto.PerimetroCalcolato, 120);
-  EXPECT_EQ(estratto.DifferenzaEstCalcolata, 0);
   // a missing point takes what the ring before it left in its place: 3%
   anelli.SuperficieRigaSette("7|4|1%|2%|7%|1%|NC|A|A|5|");
   EXPECT_EQ(estratto.SuperficieCalcolata, 600);
@@ -265,27 +262,6 @@ TEST(Estratto, DatiPerIlLibretto) {
   EXPECT_EQ(banco.sessione.VersionePregeoEstratto + banco.sessione.TipoEstratto, "10");
   RiconosciEstratto(banco.sessione, "0|AUTOALLESTITO|0|\r\n");
   EXPECT_EQ(banco.sessione.VersionePregeoEstratto + banco.sessione.TipoEstratto, "9AUTOALLESTITO");
-}
-
-TEST(Estratto, LeGriglieDiKRCalcolo) {
-  Banco banco;
-  banco.disco.Metti(Percorso, Testo(Mista));
-  KR_Calcolo calcolo;
-  calcolo.List1.Aggiungi("old");
-  CaricaEstrattoSuKRCalcolo(banco.ambiente, calcolo, "C:\\pregeo\\estratti", "X.EMP");
-  EXPECT_EQ(prova::Copia(calcolo.TuttoList), Mista);
-  EXPECT_EQ(calcolo.Tutto.Righe(), Mista.size() + 1);
-  EXPECT_EQ(calcolo.Tutto.RigaConTab(0), "\t1\t2\t3\t4\t5\t6\t7\t8\t9\t10\t11\t12\t13\t14\t15\t16\t17\t18\t19");
-  EXPECT_EQ(calcolo.Riga8.Righe(), 8U);
-  EXPECT_EQ(calcolo.PF.RigaConTab(1), "8\tPF01/1230/G224\t1.0\t2.0" + std::string(16, '\t'));
-  ASSERT_EQ(calcolo.Riga7.Righe(), 8U);
-  EXPECT_EQ(Unisci({calcolo.Riga7.Cella(4, 2), calcolo.Riga7.Cella(4, 19)}, " "), "1% 37+");
-  EXPECT_EQ(Unisci({calcolo.Riga7.Cella(5, 2), calcolo.Riga7.Cella(5, 19)}, " "), "1% 37+");
-  EXPECT_EQ(calcolo.List1.size(), 7U);
-  EXPECT_EQ(calcolo.Misurate.Righe() + calcolo.Particelle.Righe(), 4U);
-  EXPECT_EQ(prova::Copia(calcolo.List2), Righe{"6|PARTICELLA|35|  |SEMINATIVO  |1|    | | |"});
-  EXPECT_THROW(static_cast<void>(calcolo.PF.Cella(0, 20)), Errore);
-  EXPECT_THROW(static_cast<void>(calcolo.PF.Cella(2, 0)), Errore);
 }
 
 } // namespace

@@ -1,67 +1,25 @@
-// The extract manager and the form of the sum: what each command says and leaves on disk.
-#include "sostituti/banco.h"
+// The extract manager: what each command says and leaves on disk.
+#include "tavolo.h"
 
 #include <base/errore.h>
 #include <base/testo.h>
 #include <core/mostra_errore.h>
-#include <estratti/archivi_estratto.h>
-#include <estratti/estratti_di_mappa.h>
 #include <estratti/kr_estratto.h>
-#include <estratti/somma_estratti.h>
 #include <supporto/stampa_generale.h>
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace lirmeto {
 namespace {
 
 using prova::Banco;
+using prova::Cartella;
+using prova::Estratto;
+using prova::Scegli;
+using prova::Tavolo;
 using prova::Testo;
+using prova::Zero;
 using Righe = std::vector<std::string>;
-
-const std::string Cartella = "C:\\PREGEO\\ESTRATTI\\";
-const std::string Zero = "0|12062026|PD0041877/2026|G224|00123|35,36|PD|PUB|RSSMTN|1|";
-const Righe Estratto = {Zero,
-                        "8|1%|0|0|",
-                        "8|2%|10|0|",
-                        "8|3%|10|10|",
-                        "8|9%|77|7|",
-                        "7|4|1%|2%|3%|1%|NC|35|35|50|",
-                        "7|4|1%|3%|2%|1%|NC|36|36|50|",
-                        "6|DITTA|1|ROSSI|2|X|",
-                        "6|PARTICELLA|35/A|  |SEMINATIVO  |1|1| | |",
-                        "6|DISTORSIONE|1.5|"};
-
-struct Tavolo : Banco {
-  Tavolo() {
-    sessione.Comuni = {{"G224", "D3AA", "PD", "PADOVA"}};
-    sessione.Province = {{"PD", "PADOVA"}};
-    disco.cartelle.emplace_back("C:\\PREGEO\\TMP");
-    for (const char* cartella : {"C:\\FIDUCIAL", "C:\\FIDUCIAL\\DITTA", "C:\\FIDUCIAL\\PARTICELLE", "C:\\DATI"})
-      disco.cartelle.emplace_back(cartella);
-    disco.Metti(Cartella + "A.EMP", Testo(Estratto));
-    disco.Metti(Cartella + "A.PNG", "foto");
-    disco.Metti(Cartella + "A.JPG", "foto j");
-    disco.Metti(Cartella + "B.EMP", Testo({Zero, "8|1%|0|0.0001|", "8|2%|50|50|"}));
-    disco.Metti(Cartella + "C.SMP", Testo({Zero}));
-    disco.Metti(Cartella + "NOTE.TXT", "no");
-    dialoghi.risposte = {Risposta::Si};
-  }
-
-  [[nodiscard]] std::string File(const std::string& nome) const { return disco.Contenuto(Cartella + nome); }
-  [[nodiscard]] std::vector<std::string> Detti() const {
-    std::vector<std::string> testi;
-    for (const auto& detto : dialoghi.detti) testi.push_back(detto.titolo + "/" + detto.testo);
-    return testi;
-  }
-};
-
-void Scegli(KR_EstrattiDiMappa1& form, const std::string& nome) {
-  const auto trovato = std::find(form.File1.begin(), form.File1.end(), nome);
-  form.Seleziona(trovato == form.File1.end() ? -1 : trovato - form.File1.begin());
-}
 
 TEST(Manager, SelezionareMostraTestoEtichetteEDisegno) {
   Tavolo tavolo;
@@ -181,7 +139,6 @@ const std::string FotoA = "foto";
 const std::string Salvato = Testo({Zero, "8|1%|0|0|", "8|2%|10|0|", "8|3%|10|10|", "7|4|1%|3%|2%|1%|NC|36|36|50|",
                                    "7|4|1%|2%|3%|1%|NC|35|35|50|", "6|DITTA|1|ROSSI|2|X|",
                                    "6|PARTICELLA|35/A|  |SEMINATIVO  |1|1| | |", "6|DISTORSIONE|1.5|"});
-const std::string Selezionare = "Lirmeto/Selezionare un Estratto!";
 
 INSTANTIATE_TEST_SUITE_P(
     Casi, Comandi,
@@ -194,7 +151,6 @@ INSTANTIATE_TEST_SUITE_P(
                     {{"A1.EMP", Testo(Estratto)}, {"A1.PNG", FotoA}, {"A1.JPG", "foto j"}},
                     "A.EMP"},
         CasoComando{"CopiaDiUnRaster", 6, "A.PNG", {}, {}, {}, "A.PNG"},
-        CasoComando{"CopiaDiNiente", 6, "", {}, {Selezionare}, {}, ""},
         CasoComando{"Elimina",
                     8,
                     "A.EMP",
@@ -202,7 +158,6 @@ INSTANTIATE_TEST_SUITE_P(
                     {"Elimina Estratto/Eliminare Estratto : \r\n\r\nA.* ?? "},
                     {{"A.EMP", "(manca)"}, {"A.PNG", "(manca)"}, {"A.JPG", "(manca)"}},
                     "B.EMP"},
-        CasoComando{"EliminaDiNiente", 8, "", {}, {"Lirmeto/Selezionare un estratto!"}, {}, ""},
         CasoComando{"Vuota",
                     9,
                     "A.EMP",
@@ -219,7 +174,6 @@ INSTANTIATE_TEST_SUITE_P(
                     {{"A.EMP", Testo({"0|AUTOALLESTITO|0|0|0|0|0|0|0|0|", "8|1%|0|0|", "8|2%|10|0|", "8|3%|10|10|",
                                       "8|9%|77|7|", "7|4|1%|2%|3%|1%|NC|35|35|50|", "7|4|1%|3%|2%|1%|NC|36|36|50|"})}},
                     "A.EMP"},
-        CasoComando{"AutoallestitoDiNiente", 10, "", {}, {Selezionare}, {}, ""},
         CasoComando{"Duplica",
                     11,
                     "A.EMP",
@@ -235,7 +189,6 @@ INSTANTIATE_TEST_SUITE_P(
                      "Lirmeto/Duplicare Estratto :  da : A a : B ?? "},
                     {{"B.EMP", Testo(Estratto)}, {"B.PNG", FotoA}},
                     "B.EMP"},
-        CasoComando{"DuplicaSenzaNome", 11, "A.EMP", {" "}, {"Lirmeto/Nuovo nome Estratto!"}, {}, "A.EMP"},
         CasoComando{"DuplicaSuSeStesso", 11, "A.EMP", {"a"}, {}, {}, "A.EMP"},
         CasoComando{"Rinomina",
                     12,
@@ -244,7 +197,6 @@ INSTANTIATE_TEST_SUITE_P(
                     {"Lirmeto/Rinominare Estratto :  da : A a : Z ?? "},
                     {{"Z.EMP", Testo(Estratto)}, {"Z.PNG", FotoA}, {"A.EMP", "(manca)"}, {"A.PNG", "(manca)"}},
                     "Z.PNG"},
-        CasoComando{"RinominaDiNiente", 12, "", {"Z"}, {Selezionare}, {}, ""},
         CasoComando{"EliminaParticella",
                     13,
                     "A.EMP",
@@ -252,20 +204,6 @@ INSTANTIATE_TEST_SUITE_P(
                     {"Elimina Particella/Eliminare definitivamente la particella 36  ?"},
                     {{"A.EMP", Sostituisci(Salvato, "7|4|1%|3%|2%|1%|NC|36|36|50|\r\n", "")}},
                     "A.EMP"},
-        CasoComando{"EliminaParticellaSenzaNome",
-                    13,
-                    "A.EMP",
-                    {},
-                    {"Impossibile continuare/Indicare il nome della particella da eliminare!"},
-                    {},
-                    "A.EMP"},
-        CasoComando{"EliminaParticellaDiNiente",
-                    13,
-                    "",
-                    {"", "36"},
-                    {"Operazione Impossibile!/Indicare un Estratto di Mappa!"},
-                    {},
-                    ""},
         CasoComando{"RinominaParticella",
                     14,
                     "A.EMP",
@@ -280,32 +218,45 @@ INSTANTIATE_TEST_SUITE_P(
                     {"Rinomina Particella/Rinominare la Particella 35 in AAA ?"},
                     {},
                     "B.EMP"},
-        CasoComando{"RinominaParticellaSenzaAttuale",
-                    14,
-                    "A.EMP",
-                    {"", "", "AAA"},
-                    {"Rinomina Particella/Indicare il nome Attuale della particella!"},
-                    {},
-                    "A.EMP"},
-        CasoComando{"RinominaParticellaSenzaNuovo",
-                    14,
-                    "A.EMP",
-                    {"", "35"},
-                    {"Rinomina Particella/Indicare il nome Nuovo della particella!"},
-                    {},
-                    "A.EMP"},
-        CasoComando{"RinominaParticellaDiNiente",
-                    14,
-                    "",
-                    {"", "35", "A"},
-                    {"Operazione Impossibile!/Indicare un Estratto di Mappa!"},
-                    {},
-                    ""},
-        CasoComando{"AssociaNiente", 15, "", {}, {"Operazione Impossibile!/Indicare un Estratto di Mappa!"}, {}, ""},
         CasoComando{
             "PuntiIsolati", 19, "A.EMP", {}, {"Lirmeto/Eliminare i Punti Isolati?"}, {{"A.EMP", Salvato}}, "A.EMP"},
         CasoComando{"IndiceCheNonCe", 5, "A.EMP", {}, {}, {}, "A.EMP"}),
     [](const auto& caso) { return caso.param.nome; });
+
+// What a command lacks is said, and nothing happens.
+TEST(Manager, QuelloCheMancaSiDice) {
+  const std::string nessuno = "Operazione Impossibile!/Indicare un Estratto di Mappa!";
+  const struct {
+    int indice;
+    std::string scelto;
+    std::array<std::string, 3> caselle;
+    std::string detto;
+  } casi[] = {
+      {6, "", {}, "Lirmeto/Selezionare un Estratto!"},
+      {8, "", {}, "Lirmeto/Selezionare un estratto!"},
+      {10, "", {}, "Lirmeto/Selezionare un Estratto!"},
+      {11, "A.EMP", {" "}, "Lirmeto/Nuovo nome Estratto!"},
+      {12, "", {"Z"}, "Lirmeto/Selezionare un Estratto!"},
+      {13, "A.EMP", {}, "Impossibile continuare/Indicare il nome della particella da eliminare!"},
+      {13, "", {"", "36"}, nessuno},
+      {14, "A.EMP", {"", "", "AAA"}, "Rinomina Particella/Indicare il nome Attuale della particella!"},
+      {14, "A.EMP", {"", "35"}, "Rinomina Particella/Indicare il nome Nuovo della particella!"},
+      {14, "", {"", "35", "A"}, nessuno},
+      {15, "", {}, nessuno},
+  };
+  for (const auto& caso : casi) {
+    Tavolo tavolo;
+    KR_EstrattiDiMappa1 form(tavolo.ambiente);
+    form.AlCaricamento();
+    Scegli(form, caso.scelto);
+    std::tie(form.NuovoNome, form.NomeParticella, form.NuovoNomeParticella) =
+        std::tie(caso.caselle[0], caso.caselle[1], caso.caselle[2]);
+    const auto prima = tavolo.disco.file;
+    form.Premi(caso.indice);
+    EXPECT_EQ(tavolo.Detti(), Righe{caso.detto}) << caso.indice;
+    EXPECT_EQ(tavolo.disco.file, prima);
+  }
+}
 
 struct CasoNegato {
   int indice;
@@ -406,15 +357,6 @@ TEST(Manager, IntestatariArchiviatiUnoPerFile) {
   EXPECT_TRUE(Contiene(tavolo.File("A.EMP"), "6|DITTA|"));
 }
 
-TEST(Manager, ArchiviaParticelleDellEstrattoAssociato) {
-  Tavolo tavolo;
-  ArchiviaParticelle(tavolo.ambiente);
-  EXPECT_EQ(tavolo.dialoghi.UltimoTesto(), "Estratto non trovato!");
-  tavolo.sessione.EstrattoAssociato = "A.EMP";
-  ArchiviaParticelle(tavolo.ambiente);
-  EXPECT_EQ(tavolo.disco.Contenuto("C:\\FIDUCIAL\\PARTICELLE\\G224_00123_35_A.MAP"), Estratto[8] + "\r\n");
-}
-
 TEST(Manager, ImportareDicePortaEAssocia) {
   Tavolo tavolo;
   tavolo.disco.Metti("C:\\DATI\\N.EMP", Testo({Zero}));
@@ -437,58 +379,6 @@ TEST(Manager, ImportareDicePortaEAssocia) {
   }
   form.Lascia("C:\\DATI\\N.DXF");
   EXPECT_EQ(tavolo.dialoghi.UltimoTesto(), "Ammessi file di Estratti: .EMP, .PNG, .ZIP");
-}
-
-// --- the sum
-
-TEST(FormSomma, SommaISceltiSottoIlNomeNuovo) {
-  Tavolo tavolo;
-  KR_EstrattiDiMappa1 manager(tavolo.ambiente);
-  manager.AlCaricamento();
-  Scegli(manager, "A.EMP");
-  tavolo.finestre.utente = [&](Modello& modello) {
-    auto& form = dynamic_cast<KR_SommaEstratti&>(modello);
-    EXPECT_EQ(form.File1, (Righe{"A.EMP", "B.EMP"}));
-    EXPECT_EQ(form.Grafica1().Archivio().Punti().size(), 6U);
-    form.Somma();
-    EXPECT_EQ(tavolo.dialoghi.UltimoTesto(), "Selezionare l'Estratto da Aggiungere");
-    form.Scegli(1, true);
-    form.Somma();
-    EXPECT_EQ(tavolo.dialoghi.UltimoTesto(), "Inserire il Nome dell'Estratto Risultante");
-    form.MostraSomma();
-    EXPECT_EQ(form.Grafica1().Archivio().Punti().size(), 7U) << "one more of B, the other is common";
-    form.NomeSomma = "..\\x";
-    form.Somma();
-    EXPECT_TRUE(!form.Chiusa && form.Creato.empty());
-    form.NomeSomma = "somma.emp";
-    form.Somma();
-    EXPECT_TRUE(form.Chiusa);
-  };
-  manager.Premi(3);
-  EXPECT_EQ(tavolo.File("SOMMA.EMP"),
-            Testo({"0|AUTOALLESTITO|0|0|0|0|0|0|0|0|", "8|1%|0|0|", "8|2%|10|0|", "8|3%|10|10|", "8|4%|77|7|",
-                   "8|5%|50|50|", "7|4|1%|2%|3%|1%|NC|35|35|50|", "7|4|1%|3%|2%|1%|NC|36|36|50|"}));
-  EXPECT_EQ(tavolo.File("SOMMA.PNG") + "/" + tavolo.File("SOMMA.JPG"), "foto/foto j");
-  EXPECT_EQ(manager.File1.at(static_cast<std::size_t>(manager.Indice)), "SOMMA.EMP");
-}
-
-TEST(FormSomma, UnNomeEsistenteSiChiedeEUnGuastoNonLasciaNulla) {
-  Tavolo tavolo;
-  tavolo.disco.Metti(Cartella + "ROTTO.EMP", "8|1%\r\n");
-  KR_SommaEstratti form(tavolo.ambiente, Cartella + "A.EMP");
-  form.AlCaricamento();
-  form.NomeSomma = "B";
-  form.Scegli(1, true);
-  tavolo.dialoghi.risposte = {Risposta::No};
-  const auto prima = tavolo.disco.file;
-  form.Somma();
-  EXPECT_EQ(tavolo.dialoghi.UltimoTesto(), "Estratto B esistente!\r\nSostituire??");
-  form.NomeSomma = "ALTRO";
-  form.Scegli(2, true);
-  form.Somma();
-  EXPECT_EQ(tavolo.sessione.NumeroErrore, errore::IndiceFuoriIntervallo);
-  EXPECT_EQ(tavolo.disco.file, prima);
-  EXPECT_FALSE(form.Chiusa);
 }
 
 } // namespace

@@ -43,13 +43,14 @@ TEST_P(Vicinanza, ComeCamminandoAncheMentreCrescono) {
   std::mt19937 caso(4821);
   std::uniform_real_distribution<double> da(-GetParam().lato, GetParam().lato);
   const auto coordinata = [&] { return std::round(da(caso) / GetParam().passo) * GetParam().passo; };
+  StrumentiMouse mouse(disegno);
   for (int giro = 0; giro < 600; ++giro) {
     if (giro == 400) grafica.KR_Clear();
     grafica.KR_AggiungiPuntoGraf(Punto(std::to_string(giro) + "%", coordinata(), coordinata()));
     for (int k = 0; k < 4; ++k) {
       const double x = k % 2 == 0 ? coordinata() : da(caso) * 3;
       const double y = k % 2 == 0 ? coordinata() : da(caso) * 3;
-      ASSERT_EQ(grafica.KR_IlPiuVicinoAlMouse({x, y}), PiuVicinoCamminando(disegno.archivio.Punti(), {x, y}));
+      ASSERT_EQ(mouse.PiuVicino({x, y}), PiuVicinoCamminando(disegno.archivio.Punti(), {x, y}));
     }
   }
   grafica.KR_PuntiCoincidenti();
@@ -75,12 +76,11 @@ TEST_F(Mouse, ISovrappostiSiLeggonoTutti) {
   grafica.MouseMove({0.001, 0}, TastoMouse::Nessuno);
   EXPECT_EQ(mouse.Etichetta().testo, "1% PF01");
   EXPECT_TRUE(mouse.Etichetta().visibile && mouse.Etichetta().posto == (PuntoPiano{10, 20}));
-  EXPECT_TRUE(mouse.Ultimo().nome == "PF01" && mouse.Ultimo().posto == (PuntoPiano{10.004, 20.003}));
   grafica.MouseMove({-200'000, 0}, TastoMouse::Nessuno); // all too far: the first one
   EXPECT_EQ(mouse.Etichetta().testo, "1% PF01");
   grafica.KR_Clear();
   grafica.MouseMove({5, 5}, TastoMouse::Nessuno);
-  EXPECT_TRUE(mouse.Etichetta().testo.empty() && mouse.Ultimo().nome.empty() && mouse.Ultimo().posto.est == 0);
+  EXPECT_EQ(mouse.Etichetta().testo, "");
 }
 
 TEST_F(Mouse, IlCentralePortaConSeIlPuntoPreso) {
@@ -121,7 +121,7 @@ struct Strumenti : ConGrafica {
 TEST_F(Strumenti, ContornoACatena) {
   grafica.Strumento = "ContornoRosso";
   Clicca(10, 20);
-  EXPECT_TRUE(grafica.Mouse().PrimaPresa()->nome == "1%" && disegno.archivio.Linee().empty());
+  EXPECT_TRUE(disegno.archivio.Linee().empty());
   Clicca(30, 0);
   grafica.Strumento = "CONTORNONERO";
   Clicca(31, 0); // the kept one again: a line of no length
@@ -155,12 +155,12 @@ TEST_F(Strumenti, PuntoMedioEBilatera) {
     grafica.Strumento = strumento;
     grafica.NomeNuovoPunto = "M*";
     Clicca(10, 20);
-    EXPECT_TRUE(grafica.Mouse().PrimaPresa() && disegno.archivio.Punti().size() == prima);
+    EXPECT_EQ(disegno.archivio.Punti().size(), prima);
     Clicca(31, 0);
     ASSERT_EQ(disegno.archivio.Punti().size(), prima + 1);
     EXPECT_EQ(disegno.archivio.Punti().back().Nome, "M*");
     EXPECT_TRUE(disegno.archivio.Punti().back().X == 20.25 && disegno.archivio.Punti().back().Y == 9.875);
-    EXPECT_TRUE(!grafica.Mouse().PrimaPresa() && grafica.NomeNuovoPunto.empty());
+    EXPECT_TRUE(grafica.NomeNuovoPunto.empty());
   }
 }
 

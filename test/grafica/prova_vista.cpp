@@ -63,7 +63,7 @@ TEST_F(Vista, CoordinateSmisurateNonRompono) {
   grafica.KR_ZoomTutto();
   EXPECT_TRUE(std::isfinite(grafica.Vista().Xc) && std::isfinite(grafica.Vista().Zoom));
   EXPECT_EQ(grafica.Dipingi(1).cerchi.size(), 2U);
-  EXPECT_EQ(grafica.KR_IlPiuVicinoAlMouse({1e308, -1e308}), 0U);
+  EXPECT_EQ(StrumentiMouse(disegno).PiuVicino({1e308, -1e308}), 0U);
 }
 
 // Which operations come out, in order, for each of the flags: "c" and "t" with their point.

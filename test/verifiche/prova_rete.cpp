@@ -73,7 +73,9 @@ struct Ricalcolato : Disegno {
     verificatore.Aggiorna();
   }
   [[nodiscard]] double Scarto(const std::string& nome, const PuntoPiano& vero) const {
-    const Punto punto = verificatore.Righe().Nomi().Cerca(nome);
+    const NomiPunti& nomi = verificatore.Righe().Nomi();
+    Punto punto = 0;
+    while (punto < nomi.Quanti() && nomi.Nome(punto) != nome) ++punto;
     return verificatore.Posti().Nota(punto) ? DistanzaPiana(verificatore.Posti().Dove(punto), vero) : 1e9;
   }
   // Rows of the findings of the network.
