@@ -24,9 +24,9 @@ namespace {
 // The lists of lines, stations and sightings told as scans.
 namespace scansioni {
 
-const PuntoDisegno* Vicino(const TabelleDisegno& t, double x, double y) {
+const PuntoDisegno* Vicino(const TabelleDisegno& t, const PuntoPiano& posto) {
   for (const auto& punto : t.Punti())
-    if (DistanzaPiana(punto.X, punto.Y, x, y) < 0.005) return &punto;
+    if (DistanzaPiana(punto.Posto(), posto) < 0.005) return &punto;
   return nullptr;
 }
 
@@ -39,8 +39,8 @@ const PuntoDisegno* Trova(const TabelleDisegno& t, std::string_view nome) {
 std::vector<std::string> Linee(const TabelleDisegno& t) {
   std::set<std::pair<std::string, std::string>> coppie;
   for (const auto& linea : t.Linee()) {
-    const PuntoDisegno* a = Vicino(t, linea.X1, linea.Y1);
-    const PuntoDisegno* b = Vicino(t, linea.X2, linea.Y2);
+    const PuntoDisegno* a = Vicino(t, {linea.X1, linea.Y1});
+    const PuntoDisegno* b = Vicino(t, {linea.X2, linea.Y2});
     if (a == nullptr || b == nullptr) continue;
     const std::string primo = AllineaDestra(a->Nome, 15);
     const std::string secondo = AllineaDestra(b->Nome, 15);
