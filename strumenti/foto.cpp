@@ -333,7 +333,7 @@ private:
     grafica.show();
     QApplication::processEvents();
     piano.Esegui(misurate);
-    if (!piano.Punti.empty()) piano.SelezionaFoglio(piano.Punti.front().est, piano.Punti.front().nord);
+    if (!piano.Punti.empty()) piano.SelezionaFoglio({piano.Punti.front().est, piano.Punti.front().nord});
     emit grafica.Superficie().Uscito();
     return Salva(comuni, "fiduciali_comuni") && Salva(tabella, "fiduciali_tabella") &&
            Salva(grafica, "fiduciali_piano");
