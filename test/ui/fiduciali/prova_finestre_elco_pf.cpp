@@ -128,7 +128,7 @@ TEST_F(Piano, GliStrumentiDelMouse) {
   KR_ElcoPFGrafica conFinestre(ambiente, tabella);
   conFinestre.AlCaricamento();
   conFinestre.Seleziona(SelezionePF::Intorno);
-  conFinestre.Clic(1000, 500);
+  conFinestre.Clic({1000, 500});
   EXPECT_TRUE(conFinestre.Punti[1].Selezionato() && conFinestre.Punti[2].Selezionato());
   EXPECT_EQ(conFinestre.Selezionati(), 2U);
   Premi(QStringLiteral("Foglio"));
