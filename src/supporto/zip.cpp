@@ -13,7 +13,7 @@ bool ZipClass::AddFile(std::string_view percorso, std::string_view nome, std::st
   if (chiavi_.contains(chiave)) throw Errore(errore::ChiaveEsistente);
   ZipFile file = LeggiZipFile(disco_, percorso);
   if (!nome.empty()) file.nome = nome;
-  if (!commento.empty()) file.commento = commento;
+  file.commento = commento;
   file_.push_back(std::move(file));
   chiavi_.insert(chiave);
   return true;

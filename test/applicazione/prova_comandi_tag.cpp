@@ -5,11 +5,16 @@
 #include <applicazione/forme.h>
 #include <base/errore.h>
 #include <base/testo.h>
+#include <estratti/estratti_di_mappa.h>
+#include <fiduciali/elco_pf_grafica.h>
 #include <generazione/libretto_da_disegno.h>
 #include <intestazione/catasto1_form.h>
 #include <pregeo/form_configura_pregeo.h>
+#include <proposte/kr_edm.h>
 
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace lirmeto {
 namespace {
@@ -245,6 +250,23 @@ TEST(Strumenti, LaTagPassaDalloSmistamentoELeCaselleSeguono) {
   EXPECT_EQ(banco.sessione.ComandoTag, "Silvarca");
   EXPECT_EQ(banco.finestre.aperte, (std::vector<std::string>{"FormConfiguraPregeo", "KR_ElcoPf"}));
   EXPECT_TRUE(banco.dialoghi.detti.empty());
+}
+
+// A wrong index is either that of a neighbour or one that no button had.
+template <class Voci>
+std::size_t Indici(const Voci& voci) {
+  std::set<int> indici;
+  for (const auto& voce : voci) indici.insert(voce.indice);
+  EXPECT_EQ(indici.size(), voci.size());
+  return voci.size();
+}
+
+TEST(Pulsanti, OgnunoHaIlSuoIndice) {
+  EXPECT_EQ(Indici(Pulsanti()), 24U);
+  EXPECT_EQ(Indici(FormCatasto1TXT::Pulsanti()), 24U);
+  EXPECT_EQ(Indici(KR_EDM::Pulsanti()), 18U);
+  EXPECT_EQ(Indici(KR_EstrattiDiMappa1::Pulsanti()), 19U);
+  EXPECT_EQ(Indici(VociElcoPF()), 15U);
 }
 
 TEST(Forme, OgnunaSiApreColSuoModelloCaricato) {

@@ -29,6 +29,7 @@ TEST(Avvio, ApreIlLibrettoEPreparaLaSessione) {
                    "\"ROSSI "
                    "MARIO\",\"INGEGNERE\",\r\n,,\r\n\"55\",\"CFX\"\r\nROSSI\r\nMARIO\r\n");
   ASSERT_TRUE(sala.finestra.Avvia("C:\\ACT.DAT"));
+  EXPECT_EQ(sala.sessione.PuntoErrore, "Decozero_141");
   EXPECT_EQ(sala.disco.Contenuto("C:\\users\\prova\\Temp\\CARTELLADOCUMENTI.TXT"), Programma + "\r\n");
   EXPECT_TRUE(sala.disco.Contenuto(Programma + "\\VersioneLirmeto.TXT").starts_with("Ver 6.00 6."));
   EXPECT_EQ(sala.Righe().size(), 6U);
@@ -203,6 +204,7 @@ TEST(Comandi, ProgrammiCaratterePannello) {
   sala.finestra.Esegui(Comando::UtilitaCatastali);
   sala.finestra.Righe_Indice();
   EXPECT_FALSE(sala.finestra.PannelloStrumenti);
+  EXPECT_EQ(sala.sessione.PuntoErrore, "1134");
   EXPECT_FALSE(sala.finestra.Disponibile(Comando::NuovoLibretto));
   sala.finestre.disponibili = {"FormCatasto1TXT"};
   EXPECT_TRUE(sala.finestra.Disponibile(Comando::NuovoLibretto));

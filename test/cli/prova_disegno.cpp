@@ -1,11 +1,76 @@
+#include <cli/disegno_png.h>
 #include <cli/lancio.h>
 
+#include <cairo.h>
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <map>
+#include <memory>
 #include <string>
 
 namespace lirmeto::prova {
+
+// A picture read back.
+class Immagine {
+public:
+  explicit Immagine(const std::string& png) : resto_(png) {
+    const auto leggi = [](void* da, unsigned char* dove, unsigned quanti) {
+      auto& resto = *static_cast<std::string_view*>(da);
+      if (resto.size() < quanti) return CAIRO_STATUS_READ_ERROR;
+      std::memcpy(dove, resto.data(), quanti);
+      resto.remove_prefix(quanti);
+      return CAIRO_STATUS_SUCCESS;
+    };
+    tela_.reset(cairo_image_surface_create_from_png_stream(leggi, &resto_));
+  }
+  [[nodiscard]] int Larga() const { return cairo_image_surface_get_width(tela_.get()); }
+  // Red, green and blue of a pixel, a byte each.
+  [[nodiscard]] std::uint32_t Tinta(int x, int y) const {
+    std::uint32_t tinta = 0;
+    const auto posto = static_cast<std::ptrdiff_t>(y) * cairo_image_surface_get_stride(tela_.get()) + x * 4L;
+    std::memcpy(&tinta, cairo_image_surface_get_data(tela_.get()) + posto, 4);
+    return tinta & 0xFFFFFF;
+  }
+  // Whether anything is painted there.
+  [[nodiscard]] bool Dipinta(int x1, int y1, int x2, int y2) const {
+    for (int y = y1; y < y2; ++y)
+      for (int x = x1; x < x2; ++x)
+        if (Tinta(x, y) != 0xFDFDFB) return true;
+    return false;
+  }
+
+private:
+  std::string_view resto_;
+  std::unique_ptr<cairo_surface_t, void (*)(cairo_surface_t*)> tela_{nullptr, cairo_surface_destroy};
+};
+
+// Five pixels a metre, the centre at 100, 50.
+TEST(DisegnoPng, OgniOperazioneAlSuoPosto) {
+  Operazioni lista;
+  lista.scala = {-20, 10, 20, -10};
+  lista.linee = {{-20, 9, 20, 9, 4, 0, stile::Tratteggiato},
+                 {-20, -9, 20, -9, 2, colore::BluChiaro, stile::Continuo},
+                 {-30, 7, 20, 7, 4, colore::RossoChiaro, stile::Tratteggiato},
+                 {30, 0, 40, 0, 1, 0, 0}};
+  lista.cerchi = {{0, 0, 4, colore::Verde}, {60, 0, 4, 0}};
+  lista.testi = {{-19, 0, "MMM", "", 12, 0, colore::Nero}, {15, -3, "MMM", "", 12, 900, 0}, {90, 0, "M", "", 9, 0, 0}};
+  const std::string png = DisegnoPng(lista, 200, 100);
+  const Immagine immagine(png);
+  ASSERT_EQ(immagine.Larga(), 200);
+  EXPECT_EQ(immagine.Tinta(5, 5), 0U);
+  EXPECT_EQ(immagine.Tinta(32, 5), 0xFDFDFBU) << "a dash of 24, a gap of 16";
+  EXPECT_EQ(immagine.Tinta(32, 95), 0x0000FFU);
+  EXPECT_EQ(immagine.Tinta(2, 15), 0xFF0000U);
+  EXPECT_TRUE(immagine.Tinta(195, 95) == 0x0000FF && !immagine.Dipinta(0, 97, 200, 100));
+  for (const auto& [x, y] : {std::pair{119, 49}, {80, 50}, {100, 30}, {99, 69}, {114, 64}})
+    EXPECT_TRUE(immagine.Dipinta(x, y, x + 2, y + 2)) << x << " " << y << ": a whole circle, behind a dashed line";
+  EXPECT_FALSE(immagine.Dipinta(90, 40, 110, 60)) << "not filled";
+  EXPECT_TRUE(immagine.Dipinta(5, 50, 40, 66));
+  EXPECT_FALSE(immagine.Dipinta(5, 20, 40, 50)) << "below its corner";
+  EXPECT_TRUE(immagine.Dipinta(175, 35, 191, 60));
+  EXPECT_FALSE(immagine.Dipinta(175, 66, 200, 90)) << "upwards from its corner";
+}
 
 TEST_F(ProvaCli, IlDisegnoEsceInQuattroModi) {
   const std::string file = Metti("a.emp", "0|\r\n8|1%|0|0|\r\n8|2%|0|8|\r\n7|3|1%|2%|1%|NC|5|5|9|\r\n");

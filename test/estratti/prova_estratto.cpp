@@ -3,6 +3,7 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
+#include <estratti/campi.h>
 #include <estratti/dati_estratto.h>
 #include <estratti/kr_estratto.h>
 #include <estratti/modifiche_estratto.h>
@@ -103,6 +104,12 @@ TEST(Estratto, LeStringheDellaSessione) {
   // without an unload the next load goes behind
   ASSERT_TRUE(EsplodiEstratto(banco.ambiente, estratto, Percorso));
   EXPECT_EQ(estratto.Punti.size(), 8U);
+}
+
+TEST(Campi, DallaFineDellaRiga) {
+  EXPECT_EQ(Unisci({CampoDaUltimo("a|b|", 0), CampoDaUltimo("a|b|", 1), CampoDaUltimo("a|b|", 2)}, "/"), "/b/a");
+  EXPECT_EQ(CampoDaUltimo("|a", 0), "a");
+  for (const char* riga : {"", "a|b"}) EXPECT_THROW((void)CampoDaUltimo(riga, 2), Errore);
 }
 
 TEST(Estratto, MesiDalRilascioEScadenza) {

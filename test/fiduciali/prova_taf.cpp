@@ -110,6 +110,7 @@ TEST_F(ConForm, IPuntiDelLibrettoControLaTaf) {
   EXPECT_EQ(form.List1, (Righe{"PF01/0010/L736", "PF07/012A/G224"}));
   EXPECT_EQ(form.List2, (Righe{"8|PF07/012A/G224||||SPIGOLO 'NORD'|"})) << "the first record of a name, cut as it is";
   EXPECT_EQ(form.PuntiInTaf, 1U);
+  EXPECT_FALSE(form.Chiusa);
   form.CambiaRigheQuota(true);
   EXPECT_EQ(form.List2.back(), "8|PF07/012A/G224|9999.000|04|NOTE:|");
   banco.disco.Metti("C:\\FIDUCIAL\\DATI\\G224.TAF", Intera);

@@ -1,6 +1,8 @@
 #include "censuario.h"
 
+#include <base/numeri.h>
 #include <proposte/archivio_particelle.h>
+#include <proposte/contorno_particella.h>
 #include <proposte/kr_edm.h>
 #include <proposte/kr_fraziona.h>
 #include <proposte/kr_stralcio.h>
@@ -63,6 +65,29 @@ TEST(Edm, ApreListeECaselle) {
   EXPECT_EQ(form.File1.size(), 1U);
   form.Premi(19);
   EXPECT_EQ(form.Text4, "SR");
+}
+
+// A ring goes on behind its tenth name; one with a plus is the parcel's too, one with a minus is a hole.
+TEST(Edm, IlContornoDellaParticella) {
+  BancoEdm banco;
+  banco.disco.Metti("C:\\P.DAT",
+                    Testo({"6|ESTRATTO DI MAPPA|", "8|1%|0|0|", "8|2%|0|5|", "8|3%|5|0|", Anello,
+                           "6|ESTRATTO DI MAPPA AGGIORNATO|", "8|4%|7|7|", "7|4|1%|2%|3%|1%|NC|36+|36+|12|",
+                           "7|5|1%|3%|NC|AAA|AAA|1|", "7|0|4%|2%|1%|NC|", "7|3|2%|3%|2%|NC|AAA-|AAA-|0|"}));
+  DisegnoCondiviso disegno;
+  Grafica grafica(banco.ambiente, disegno);
+  grafica.Vista().Check1 = true;
+  grafica.KR_CaricaPropostaDaLibretto("C:\\P.DAT");
+  const auto lati = [&](const char* nome) {
+    std::string testo;
+    for (const LineaGrafica& l : ContornoParticella(grafica, nome))
+      for (const double numero : {l.X1, l.Y1, l.X2, l.Y2}) testo += TestoPieno(numero) + " ";
+    return testo;
+  };
+  EXPECT_EQ(lati("AAA"), "0 0 0 5 0 5 7 7 7 7 5 0 5 0 0 0 ");
+  EXPECT_EQ(lati("36"), "0 0 5 0 5 0 0 5 0 5 0 0 ");
+  EXPECT_EQ(lati("35"), lati("36")) << "in the original extract alone";
+  EXPECT_EQ(lati("37") + lati(""), "");
 }
 
 TEST(Edm, SalvaNellArchivioENellEstratto) {

@@ -129,7 +129,7 @@ TEST(ZipClass, QuelloCheScriveTornaIndietro) {
   t.disco.Metti("C:\\zip\\VUOTO.TXT", "");
   t.disco.Metti("C:\\zip\\X.EMP", tutti);
   ZipClass zip(t.disco);
-  EXPECT_TRUE(zip.AddFile("C:\\zip\\vuoto.txt"));
+  EXPECT_TRUE(zip.AddFile("C:\\zip\\vuoto.txt", "", std::string(300, 'c')));
   EXPECT_TRUE(zip.AddFile("C:\\zip\\X.EMP", "dir\\PERCH\xC9 \x80\x96.emp"));
   EXPECT_TRUE(zip.WriteZip("C:\\zip\\b.zip", false));
   EXPECT_EQ(t.Esplodi(t.disco.Contenuto("C:\\zip\\b.zip")), "DIR\\PERCH\xC9 \x80\x96.EMP=" + tutti + " VUOTO.TXT= ");

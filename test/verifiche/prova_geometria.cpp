@@ -54,7 +54,7 @@ TEST(Geometria, IPianiSiPosanoSenzaLaCoppiaSbagliata) {
       const PuntoPiano p{piano(caso), piano(caso)};
       coppie.push_back({p, vera.Applica(p)});
     }
-    coppie[static_cast<std::size_t>(giro) % coppie.size()].a.est += 30;
+    coppie[static_cast<std::size_t>(giro) % coppie.size()].a.est += giro % 2 == 0 ? 30 : 0.9;
     const auto trovata = Adatta(coppie);
     ASSERT_TRUE(trovata);
     const PuntoPiano prova{50, -70};
@@ -104,6 +104,15 @@ TEST(Figura, DisegnaCioCheLeRigheDicono) {
   EXPECT_EQ(Linee(archivio, colore::BluChiaro), 3U);     // the traverse
   EXPECT_EQ(Linee(archivio, colore::MagentaChiaro), 3U); // the triangle
   EXPECT_EQ(Linee(archivio, colore::Verde), 4U);         // two offsets, each with its foot
+  EXPECT_EQ(archivio.Punti()[archivio.PrimoDiNome("300").value()].Colore, colore::Blu);
+  EXPECT_EQ(archivio.Punti()[archivio.PrimoDiNome("101").value()].Colore, colore::Nero);
+  EXPECT_TRUE(archivio.PrimoDiNome("10000"));
+  ConAtto lontano;
+  lontano.ApriCon(
+      {"31 -170.775>-12170.775", "32 -190.115>-12190.115", "33 -218.765>-12218.765", "34 -181.867>-12181.867"});
+  ArchivioGrafica vicino;
+  DisegnaRilievo({lontano.verificatore.Righe(), lontano.verificatore.Posti(), lontano.verificatore.Archivi()}, vicino);
+  EXPECT_FALSE(vicino.PrimoDiNome("10000")) << "the picture would be a speck in a corner";
   for (const auto& [nome, x, y] :
        {std::tuple{"103", 1165.0, 1125.0}, {"105", 1140.0, 1090.0}, {"300", 1150.0, 1140.0}}) {
     const auto posto = archivio.PrimoDiNome(nome);
@@ -130,6 +139,7 @@ TEST(Figura, OgniRigaHaIlSuoPuntoEOgniPuntoLaSuaRiga) {
   EXPECT_FALSE(figura.Grafica1.Evidenza);
   // A changed row moves its point and not the view.
   c.sessione.List1.Cambia(9, "2|101|66.5167|100.4300|25.000|1.500|X|");
+  c.sessione.List1.Cambia(1, "9|12|10|20|1150|10.00-G,APAG 2.12|FR|ALTRO|");
   c.verificatore.Aggiorna();
   figura.Aggiorna();
   EXPECT_NEAR(figura.Grafica1.Vista().Xc, 1130, 0.01);
