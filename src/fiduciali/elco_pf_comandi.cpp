@@ -9,6 +9,7 @@
 #include <supporto/stampa_generale.h>
 
 #include <array>
+#include <utility>
 
 namespace lirmeto {
 
@@ -60,44 +61,31 @@ void KR_ElcoPFGrafica::Esegui(int indice) {
 }
 
 void KR_ElcoPFGrafica::EsegueComando(int indice) {
-  switch (indice) {
-  case 0:
-    Chiusa = true;
-    return;
-  case 1:
-    return Sposta(-Passo);
-  case 2:
-    return Sposta(Passo);
-  case 3:
-    return subZoomElcoPF(1);
-  case 4:
-    return subZoomElcoPF(2);
-  case 5:
-    return ZoomTutto();
-  case 6:
-    return MettiDistanzeMisurate(ArchivioDellaProvincia());
-  case 7:
-    CopiaInFilePF();
-    Chiusa = TuttoChiuso = true;
-    return;
-  case 8:
-    return Stampa();
-  case 9:
-  case 10:
-    return RiDisegnaPF();
-  case 11:
-    return Arma(StrumentoPF::ZoomFinestra);
-  case 12:
-    return CopiaSchermo();
-  case 13:
-    return AssociamiEstratto();
-  case 14:
-    return ElcoPF_SalvaDXF();
-  case 15:
-    return AnteprimaStampapf();
-  default:
-    return;
-  }
+  using F = KR_ElcoPFGrafica;
+  static constexpr auto azioni = std::to_array<std::pair<int, void (*)(F&)>>({
+      {0, [](F& form) { form.Chiusa = true; }},
+      {1, [](F& form) { form.Sposta(-Passo); }},
+      {2, [](F& form) { form.Sposta(Passo); }},
+      {3, [](F& form) { form.subZoomElcoPF(1); }},
+      {4, [](F& form) { form.subZoomElcoPF(2); }},
+      {5, [](F& form) { form.ZoomTutto(); }},
+      {6, [](F& form) { form.MettiDistanzeMisurate(form.ArchivioDellaProvincia()); }},
+      {7,
+       [](F& form) {
+         form.CopiaInFilePF();
+         form.Chiusa = form.TuttoChiuso = true;
+       }},
+      {8, [](F& form) { form.Stampa(); }},
+      {9, [](F& form) { form.RiDisegnaPF(); }},
+      {10, [](F& form) { form.RiDisegnaPF(); }},
+      {11, [](F& form) { form.Arma(StrumentoPF::ZoomFinestra); }},
+      {12, [](F& form) { form.CopiaSchermo(); }},
+      {13, [](F& form) { form.AssociamiEstratto(); }},
+      {14, [](F& form) { form.ElcoPF_SalvaDXF(); }},
+      {15, [](F& form) { form.AnteprimaStampapf(); }},
+  });
+  for (const auto& [suo, azione] : azioni)
+    if (suo == indice) azione(*this);
 }
 
 void KR_ElcoPFGrafica::CopiaSchermo() {

@@ -20,6 +20,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace lirmeto {
 
@@ -199,47 +200,29 @@ bool KR_EDM::ConSelezione() {
 }
 
 void KR_EDM::Esegui(int indice) {
-  switch (indice) {
-  case 0:
-    Chiusa = true;
-    return;
-  case 1:
-    return ApriEstratti();
-  case 2:
-  case 14:
-    return Salva();
-  case 3:
-    return Elimina();
-  case 5:
-    return CercaComune();
-  case 6:
-    return ApriFraziona(ModoSopprime);
-  case 7:
-    return ApriFraziona(ModoMantiene);
-  case 8:
-    return ApriNuovaCostruzione();
-  case 9:
-    return ApriVariazione();
-  case 10:
-    return ApriStralcio();
-  case 11:
-    return ApriFusione();
-  case 12:
-    return Filtra({});
-  case 13:
-    return Filtra(InizioFoglio(ambiente_.sessione));
-  case 15:
-    return ArchivioDalLibretto();
-  case 16:
-    return ArchivioDallEstratto();
-  case 18:
-    return EliminaTutte();
-  case 19:
-    Text4 = Text4 == "SN" ? "SR" : "SN";
-    return;
-  default:
-    return;
-  }
+  using Azione = void (*)(KR_EDM&);
+  static constexpr auto azioni = std::to_array<std::pair<int, Azione>>({
+      {0, [](KR_EDM& form) { form.Chiusa = true; }},
+      {1, [](KR_EDM& form) { form.ApriEstratti(); }},
+      {2, [](KR_EDM& form) { form.Salva(); }},
+      {3, [](KR_EDM& form) { form.Elimina(); }},
+      {5, [](KR_EDM& form) { form.CercaComune(); }},
+      {6, [](KR_EDM& form) { form.ApriFraziona(ModoSopprime); }},
+      {7, [](KR_EDM& form) { form.ApriFraziona(ModoMantiene); }},
+      {8, [](KR_EDM& form) { form.ApriNuovaCostruzione(); }},
+      {9, [](KR_EDM& form) { form.ApriVariazione(); }},
+      {10, [](KR_EDM& form) { form.ApriStralcio(); }},
+      {11, [](KR_EDM& form) { form.ApriFusione(); }},
+      {12, [](KR_EDM& form) { form.Filtra({}); }},
+      {13, [](KR_EDM& form) { form.Filtra(InizioFoglio(form.ambiente_.sessione)); }},
+      {14, [](KR_EDM& form) { form.Salva(); }},
+      {15, [](KR_EDM& form) { form.ArchivioDalLibretto(); }},
+      {16, [](KR_EDM& form) { form.ArchivioDallEstratto(); }},
+      {18, [](KR_EDM& form) { form.EliminaTutte(); }},
+      {19, [](KR_EDM& form) { form.Text4 = form.Text4 == "SN" ? "SR" : "SN"; }},
+  });
+  for (const auto& [suo, azione] : azioni)
+    if (suo == indice) azione(*this);
 }
 
 void KR_EDM::ApriEstratti() {

@@ -6,6 +6,7 @@
 #include <core/riga_censuaria.h>
 #include <core/tabelle.h>
 #include <proposte/file_particella.h>
+#include <proposte/proposta_derivate.h>
 
 namespace lirmeto::prova {
 
@@ -27,5 +28,21 @@ struct BancoCensuario : Banco {
 
 inline const std::string TestataCensuaria(censuario::Intestazione);
 inline const std::string Bianchi57(57, ' ');
+inline const std::string Cento = "6|PARTICELLA|35|01|SEMINATIVO  |100|100|1.00|2.00|SN|";
+
+// Types each area and its keys, as a surveyor would.
+inline void Batti(PropostaDerivate& form, const std::vector<std::string>& aree) {
+  form.CambiaText1(std::to_string(aree.size()));
+  for (const auto& area : aree) {
+    form.CambiaText2(area.substr(0, area.find(':')));
+    for (std::size_t i = area.find(':'); i != std::string::npos && ++i < area.size();)
+      form.CambiaText2(form.Text2 + area[i]);
+    form.Invio();
+  }
+}
+
+inline std::string Conteggio(const std::string& sezione, const std::string& cifre) {
+  return "6|" + sezione + "|" + cifre + "|" + Bianchi57 + "|";
+}
 
 } // namespace lirmeto::prova

@@ -10,6 +10,7 @@ namespace lirmeto {
 namespace {
 
 using prova::BancoCensuario;
+using prova::Conteggio;
 using prova::Copia;
 using prova::TestataCensuaria;
 using prova::Testo;
@@ -27,10 +28,6 @@ std::string SrSn(const ListaRighe& righe) {
 // A row by its columns 3 to 52.
 std::string Dati(const std::string& colonne) {
   return "6|" + colonne + Coda;
-}
-
-std::string Conteggio(const std::string& sezione, const std::string& cifre) {
-  return "6|" + sezione + "|" + cifre + "|" + prova::Bianchi57 + "|";
 }
 
 TEST(NuovaCostruzione, DaiModelliAlMemo) {
