@@ -13,7 +13,6 @@
 #include <proposte/kr_tm_fusione.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 
 using namespace lirmeto;
@@ -30,10 +29,9 @@ std::string Parte(const std::vector<std::string_view>& parti, std::size_t indice
 }
 
 void ProvaRighe(const ListaRighe& righe) {
-  constexpr std::array<std::size_t, 13> barre = {2, 4, 10, 14, 17, 23, 33, 36, 39, 45, 49, 52, 70};
   for (std::size_t i = 2; i < righe.size(); ++i) {
     Pretendi(RigaCensuaria(righe[i]), "a composed row is a census row");
-    Pretendi(std::ranges::all_of(barre, [&](std::size_t colonna) { return righe[i][colonna - 1] == '|'; }),
+    Pretendi(std::ranges::all_of(BarreCensuarie, [&](std::size_t colonna) { return righe[i][colonna - 1] == '|'; }),
              "bars stand at their columns");
   }
   (void)VerificaElencoCensuario(righe, IlBanco().sessione.TabellaQualita);

@@ -1,6 +1,6 @@
 #pragma once
 // Rows of the Modello Censuario, and the one place that knows their columns. Unlike the other rows they are fixed: seventy
-// characters, bars at columns 2, 4, 10, 14, 17, 23, 33, 36, 39, 45, 49, 52 and 70.
+// characters, bars at fixed columns.
 //
 //   6|Dati per aggiornare il D.B. Censuario dell'Ufficio Tecnico Erariale|   the heading, once
 //   6|51FTP|004|                                                         |   a section and how many rows follow
@@ -79,6 +79,9 @@ inline constexpr std::string_view ModelloVariata =
 inline constexpr std::string_view ModelloVuoto =
     "6| |     |000|  |     |000000000|  |  |     |000|  |                 |";
 } // namespace censuario
+
+// Columns of the bars, from 1.
+inline constexpr std::array<std::size_t, 13> BarreCensuarie = {2, 4, 10, 14, 17, 23, 33, 36, 39, 45, 49, 52, 70};
 
 // A field as it stands between its bars; empty when the row has not so many.
 [[nodiscard]] std::string_view LeggiCampo(std::string_view riga, const CampoCensuario& campo);

@@ -7,7 +7,6 @@
 #include <supporto/tabella_verifiche.h>
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <unordered_map>
 #include <unordered_set>
@@ -15,8 +14,6 @@
 namespace lirmeto {
 
 namespace {
-
-constexpr std::array<std::size_t, 13> Barre = {2, 4, 10, 14, 17, 23, 33, 36, 39, 45, 49, 52, 70}; // columns, from 1
 
 std::string Intero(std::size_t numero) {
   return TestoIntero(static_cast<long long>(numero));
@@ -99,8 +96,8 @@ private:
       ++sezione_->dati;
     else
       Di(RegolaDi("M011"), riga);
-    const auto storta = std::ranges::find_if(Barre, [&](std::size_t c) { return riga.testo[c - 1] != '|'; });
-    if (storta != Barre.end()) return Di(RegolaDi("M002"), riga, {Intero(*storta)});
+    const auto storta = std::ranges::find_if(BarreCensuarie, [&](std::size_t c) { return riga.testo[c - 1] != '|'; });
+    if (storta != BarreCensuarie.end()) return Di(RegolaDi("M002"), riga, {Intero(*storta)});
     const std::string_view operazione = LeggiCampo(riga.testo, censuario::Operazione);
     if (operazione == "O") Originale(riga);
     if (operazione == "S" || operazione == "V") Risposta(riga);

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace lirmeto {
 namespace {
 
@@ -208,6 +210,24 @@ TEST(Comandi, ProgrammiCaratterePannello) {
   EXPECT_FALSE(sala.finestra.Disponibile(Comando::NuovoLibretto));
   sala.finestre.disponibili = {"FormCatasto1TXT"};
   EXPECT_TRUE(sala.finestra.Disponibile(Comando::NuovoLibretto));
+}
+
+// What stands around the act is read once, and again behind a form.
+TEST(Verifiche, UnaFormPuoCambiareGliArchivi) {
+  Sala sala;
+  sala.disco.Metti("C:\\ACT.DAT", Testo({Zero, Nove}) + "6|<EST>X.EMP|\r\n");
+  sala.finestra.Avvia("C:\\ACT.DAT");
+  const auto manca = [&] {
+    (void)sala.finestra.AggiornaVerifiche();
+    const auto& trovate = sala.finestra.Verifiche.Esito().Segnalazioni();
+    return std::ranges::any_of(trovate, [](const Segnalazione& s) { return s.regola->codice == "E002"; });
+  };
+  EXPECT_TRUE(manca());
+  sala.disco.Metti("C:\\pregeo\\estratti\\X.EMP", "0|01102026|P|G224|00010|12,3|PD|PUB|X|1|\r\n");
+  EXPECT_TRUE(manca());
+  sala.finestre.disponibili = {"KR_EstrattiDiMappa1"};
+  sala.finestra.Esegui(Comando::EstrattiDiMappa);
+  EXPECT_FALSE(manca());
 }
 
 TEST(Comandi, OpzioniFormEConfigurazione) {

@@ -289,7 +289,6 @@ TEST(Frazionamento, SenzaPropostaLoDice) {
 
 // Whatever proposal and keys, the rows keep their columns; without fixed areas they add up within half a metre a row.
 void FrazionaACaso(BancoCensuario& banco, std::mt19937& caso, std::size_t giro) {
-  constexpr std::size_t barre[] = {2, 4, 10, 14, 17, 23, 33, 36, 39, 45, 49, 52, 70};
   const auto numero = [&](unsigned massimo) { return std::to_string(1 + caso() % massimo); };
   const std::size_t quante = 1 + caso() % (giro % 100 == 0 ? 60 : 6);
   const std::string catastale = numero(90000);
@@ -311,7 +310,7 @@ void FrazionaACaso(BancoCensuario& banco, std::mt19937& caso, std::size_t giro) 
   for (const std::string_view riga : form->List1) {
     ASSERT_EQ(riga.size(), 70U) << riga;
     if (riga == prova::TestataCensuaria || ApreSezione(riga)) continue;
-    for (const std::size_t colonna : barre) ASSERT_EQ(riga[colonna - 1], '|') << riga;
+    for (const std::size_t colonna : BarreCensuarie) ASSERT_EQ(riga[colonna - 1], '|') << riga;
     if (riga[2] == 'C' || riga[2] == 'V') somma += std::stod(std::string(riga.substr(23, 9)));
   }
   if (giro % 3 != 0) {

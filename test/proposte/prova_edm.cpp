@@ -41,6 +41,7 @@ TEST(Edm, ApreListeECaselle) {
   banco.disco.Metti(Archivio + "G224_00020_9.MAP", "6|PARTICELLA|9|\r\n");
   KR_EDM form(banco.ambiente);
   form.AlCaricamento();
+  EXPECT_TRUE(banco.dialoghi.detti.empty()) << banco.dialoghi.UltimoTesto();
   EXPECT_EQ(form.Titolo, "Archivio Particelle - G224-0010  Libretto: ATTO.DAT Estratto: X.EMP");
   EXPECT_EQ(form.File1, (Righe{"G224_00010_35.MAP"})); // from the extract, of this sheet
   EXPECT_EQ(form.List1, (Righe{"35", "36"}));
