@@ -83,7 +83,7 @@ std::string ComandoAutoallestito(Ambiente& ambiente, const std::vector<std::stri
 std::string ComandoSomma(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
   std::string somma = CaricaFileBinario(ambiente, argomenti[0]);
   for (std::size_t i = 1; i < argomenti.size(); ++i)
-    somma = UnisciEstratti(somma, CaricaFileBinario(ambiente, argomenti[i]));
+    somma = UnisciEstratti(std::move(somma), CaricaFileBinario(ambiente, argomenti[i]));
   return somma;
 }
 

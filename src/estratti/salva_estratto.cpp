@@ -6,6 +6,7 @@
 #include <core/mostra_errore.h>
 #include <core/riga.h>
 #include <estratti/campi.h>
+#include <estratti/righe_nuove.h>
 #include <estratti/rinumerazione.h>
 #include <estratti/superfici.h>
 
@@ -13,7 +14,6 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <memory>
 #include <numeric>
 #include <unordered_map>
 
@@ -29,48 +29,6 @@ namespace lirmeto {
 namespace {
 
 constexpr std::size_t ColonneIdentificativo = 10;
-
-// Of the rows of a list with their line ends.
-std::size_t Lunghezza(const ListaRighe& lista) {
-  return std::accumulate(lista.begin(), lista.end(), std::size_t{0}, [](std::size_t somma, std::string_view riga) {
-    return somma + riga.size() + FineRiga.size();
-  });
-}
-
-// The rows of a list as they are written one after the other.
-class RigheNuove {
-public:
-  // Room for what a list becomes that changes by a few characters a row.
-  explicit RigheNuove(const ListaRighe& vecchie) {
-    const std::size_t lunghezza = Lunghezza(vecchie);
-    testo_.reserve(lunghezza + lunghezza / 16);
-    fini_.reserve(vecchie.size());
-  }
-
-  // The row that is being written: pieces are added to it.
-  [[nodiscard]] std::string& Riga() { return testo_; }
-  void Chiudi() {
-    fini_.push_back(testo_.size());
-    testo_ += FineRiga;
-  }
-
-  // In place of what the list held.
-  void Prendi(ListaRighe& lista) {
-    const auto tenuto = std::make_shared<const std::string>(std::move(testo_));
-    lista.clear();
-    lista.Tieni(tenuto);
-    lista.Riserva(fini_.size());
-    std::size_t inizio = 0;
-    for (const std::size_t fine : fini_) {
-      lista.AggiungiVista(std::string_view(*tenuto).substr(inizio, fine - inizio));
-      inizio = fine + FineRiga.size();
-    }
-  }
-
-private:
-  std::string testo_;
-  std::vector<std::size_t> fini_; // where each row ends
-};
 
 // A row 8 whose identifier is right-aligned, so that nine comes before ten.
 std::string RigaAllineata(std::string_view riga) {

@@ -46,7 +46,7 @@ void KR_SommaEstratti::SommaDiLista() {
   for (std::size_t i = 0; i < File1.size(); ++i) {
     if (!Scelti[i]) continue;
     EstrattoDaSommare = PercorsoEstratto(ambiente_.sessione, File1[i]);
-    somma = UnisciEstratti(somma, ambiente_.disco.Leggi(EstrattoDaSommare));
+    somma = UnisciEstratti(std::move(somma), ambiente_.disco.Leggi(EstrattoDaSommare));
   }
   ambiente_.disco.Scrivi(FileTemporaneo(), somma);
 }

@@ -2,7 +2,6 @@
 // Two extracts made into one with a single numbering.
 
 #include <string>
-#include <string_view>
 
 namespace lirmeto {
 
@@ -14,6 +13,6 @@ namespace lirmeto {
 // The numbering of the second is moved on by the number of the first's last vertex, and the numbers of the sum are put in
 // one after the other: an extract whose vertices are not in order should be saved before it is summed.
 // Throws Errore 9 for a vertex without coordinates.
-[[nodiscard]] std::string UnisciEstratti(std::string_view primo, std::string_view secondo);
+[[nodiscard]] std::string UnisciEstratti(std::string primo, std::string secondo);
 
 } // namespace lirmeto
