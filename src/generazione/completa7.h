@@ -1,6 +1,7 @@
 #pragma once
 // The row 7 of a new contour, closed with its parcel and its area.
 
+#include <base/impronta.h>
 #include <base/piano.h>
 #include <core/ambiente.h>
 
@@ -18,7 +19,7 @@ inline constexpr std::size_t MassimoVerticiPoligono = 501;
 [[nodiscard]] double AreaPoligono(const std::vector<PuntoPiano>& vertici);
 
 // Points by their names.
-using PuntiPerNome = std::unordered_map<std::string_view, PuntoPiano>;
+using PuntiPerNome = std::unordered_map<std::string_view, PuntoPiano, ImprontaNome>;
 
 // A row 7 of the new contour as its rows of ten names: every name gets "*", and the first row, behind the code, the
 // parcel with "+", the parcel and the area in whole square metres. A name that is no point adds no vertex.

@@ -77,6 +77,12 @@ std::optional<std::string> Coordinata(std::string_view riga, std::string_view se
 
 class LettoreElenco {
 public:
+  // Room for what so many rows may hold.
+  explicit LettoreElenco(std::size_t righe) {
+    numeri_.reserve(righe);
+    elenco_.punti.reserve(righe);
+  }
+
   void Riga(std::string_view riga) {
     if (RigaVertice(riga)) return Vertice(Taglia(riga));
     const auto nome = NomeStrato(riga);
@@ -119,7 +125,7 @@ private:
 ElencoCad LeggiElencoCad(Dialoghi& dialoghi, std::string_view testo) {
   const auto righe = RigheDi(testo);
   Avanzamento avanzamento(dialoghi, "Lettura delle polilinee", righe.size());
-  LettoreElenco lettore;
+  LettoreElenco lettore(righe.size());
   for (std::size_t i = 0; i < righe.size(); ++i) {
     avanzamento.Fatto(i);
     lettore.Riga(righe[i]);

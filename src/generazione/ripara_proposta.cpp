@@ -1,5 +1,6 @@
 #include <generazione/ripara_proposta.h>
 
+#include <base/impronta.h>
 #include <base/testo.h>
 #include <core/riga.h>
 #include <estratti/campi.h>
@@ -98,9 +99,11 @@ void AggiungiRiga(std::string& testo, std::string_view riga) {
   testo.append(riga).append(FineRiga);
 }
 
-// Field 2 and field 3 of a row 8, as they are written.
-std::string Coordinate(std::string_view riga8) {
-  return std::string(Parte(riga8, '|', 2)).append("|").append(Parte(riga8, '|', 3));
+// Field 2 and field 3 of a row 8, as they are written, with the bar between.
+std::string_view Coordinate(std::string_view riga8) {
+  const std::string_view nord = Parte(riga8, '|', 2);
+  const std::string_view est = Parte(riga8, '|', 3);
+  return est.data() == nullptr ? nord : std::string_view(nord.data(), nord.size() + 1 + est.size());
 }
 
 // --- the marks of the names
@@ -137,13 +140,14 @@ std::string ConCodici(std::string_view riga) {
 // --- coincident points
 
 // Names of the parcel's points by their coordinates, the first of equal ones.
-std::unordered_map<std::string, std::string_view> NomiPerCoordinate(const std::vector<std::string>& punti) {
-  std::unordered_map<std::string, std::string_view> nomi;
+std::unordered_map<std::string_view, std::string_view> NomiPerCoordinate(const std::vector<std::string>& punti) {
+  std::unordered_map<std::string_view, std::string_view> nomi;
+  nomi.reserve(punti.size());
   for (const std::string& riga : punti) nomi.try_emplace(Coordinate(riga), Parte(riga, '|', 1));
   return nomi;
 }
 
-using Cambi = std::unordered_map<std::string_view, std::string_view>; // new name, name on the map
+using Cambi = std::unordered_map<std::string_view, std::string_view, ImprontaNome>; // new name, name on the map
 
 // Takes away the points that coincide with one of the parcel; the answer is what they are called from now on.
 Cambi TogliCoincidenti(Righe& punti, const ContornoMappale& mappale) {
@@ -172,6 +176,7 @@ std::string ConNomiCambiati(std::string_view riga, const Cambi& cambi) {
 struct NomiContorno {
   Righe nomi;
   Righe coda;
+  std::vector<std::uint64_t> posti; // of the names
 };
 
 // The last code ends the names of a row; in one without codes all fields are names.
@@ -208,16 +213,23 @@ public:
     return trovato == perNome_.end() ? 0 : trovato->second;
   }
 
-  // A stretch, the same in either direction; 0 when an end is no point.
-  [[nodiscard]] std::uint64_t Tratto(std::string_view a, std::string_view b) const {
-    const auto [minore, maggiore] = std::minmax({Di(a), Di(b)}); // by value: the places are made here
+  [[nodiscard]] std::vector<std::uint64_t> DiTutti(const Righe& nomi) const {
+    std::vector<std::uint64_t> posti;
+    posti.reserve(nomi.size());
+    for (const auto nome : nomi) posti.push_back(Di(nome));
+    return posti;
+  }
+
+  // A stretch between two places, the same in either direction; 0 when an end is no point.
+  static std::uint64_t Tratto(std::uint64_t a, std::uint64_t b) {
+    const auto [minore, maggiore] = std::minmax(a, b);
     constexpr unsigned bit = 32;
     return minore == 0 ? 0 : maggiore << bit | minore;
   }
 
 private:
-  std::unordered_map<std::string, std::uint64_t> numeri_;
-  std::unordered_map<std::string_view, std::uint64_t> perNome_;
+  std::unordered_map<std::string_view, std::uint64_t> numeri_; // by coordinates
+  std::unordered_map<std::string_view, std::uint64_t, ImprontaNome> perNome_;
 };
 
 class ModestaEntita {
@@ -226,7 +238,10 @@ public:
       : proposta_(proposta), posti_(mappale.punti) {
     for (const auto riga : proposta.punti) posti_.Aggiungi(riga);
     if (!mappale.riga.empty()) nomiMappale_ = LeggiNomi({{}, {mappale.riga}});
+    contorni_.reserve(proposta.contorni.size());
     for (const Contorno& contorno : proposta.contorni) contorni_.push_back(LeggiNomi(contorno));
+    nomiMappale_.posti = posti_.DiTutti(nomiMappale_.nomi);
+    for (NomiContorno& contorno : contorni_) contorno.posti = posti_.DiTutti(contorno.nomi);
     SegnaTrattiComuni();
   }
 
@@ -245,12 +260,12 @@ private:
   // Names of the contours' stretches that lie on the parcel's contour.
   void SegnaTrattiComuni() {
     std::unordered_set<std::uint64_t> mappa;
-    const Righe& anello = nomiMappale_.nomi;
-    for (std::size_t i = 1; i < anello.size(); ++i) mappa.insert(posti_.Tratto(anello[i - 1], anello[i]));
+    const auto& anello = nomiMappale_.posti;
+    for (std::size_t i = 1; i < anello.size(); ++i) mappa.insert(Posti::Tratto(anello[i - 1], anello[i]));
     mappa.erase(0);
     for (const NomiContorno& contorno : contorni_)
       for (std::size_t i = 1; i < contorno.nomi.size(); ++i)
-        if (mappa.contains(posti_.Tratto(contorno.nomi[i - 1], contorno.nomi[i])))
+        if (mappa.contains(Posti::Tratto(contorno.posti[i - 1], contorno.posti[i])))
           comuni_.insert({contorno.nomi[i - 1], contorno.nomi[i]});
   }
 
@@ -274,11 +289,11 @@ private:
     if (nomiMappale_.nomi.empty()) return;
     std::unordered_map<std::uint64_t, std::string_view> nuovi; // the contours' name of a place
     for (const NomiContorno& contorno : contorni_)
-      for (const auto nome : contorno.nomi) nuovi.try_emplace(posti_.Di(nome), nome);
+      for (std::size_t i = 0; i < contorno.nomi.size(); ++i) nuovi.try_emplace(contorno.posti[i], contorno.nomi[i]);
     nuovi.erase(0);
     Righe nomi = nomiMappale_.nomi;
-    for (auto& nome : nomi)
-      if (const auto nuovo = nuovi.find(posti_.Di(nome)); nuovo != nuovi.end()) nome = nuovo->second;
+    for (std::size_t i = 0; i < nomi.size(); ++i)
+      if (const auto nuovo = nuovi.find(nomiMappale_.posti[i]); nuovo != nuovi.end()) nomi[i] = nuovo->second;
     testo_ += RigheUnite(ComponiRighe7(nomi, "NC", Unisci(nomiMappale_.coda, "|") + "|"));
   }
 
@@ -286,7 +301,7 @@ private:
   Posti posti_;
   NomiContorno nomiMappale_;
   std::vector<NomiContorno> contorni_;
-  std::unordered_set<std::string_view> comuni_;
+  std::unordered_set<std::string_view, ImprontaNome> comuni_;
   std::string testo_;
 };
 
@@ -309,7 +324,7 @@ ContornoMappale LeggiContornoMappale(Ambiente& ambiente) {
   if (anello == estratto.SETTE.end()) return {};
   ContornoMappale mappale{std::string(*anello), {}};
   const auto nomi = Dividi(mappale.riga, "|");
-  const std::unordered_set<std::string_view> suoi(nomi.begin() + PrimoNome, nomi.end());
+  const std::unordered_set<std::string_view, ImprontaNome> suoi(nomi.begin() + PrimoNome, nomi.end());
   for (const auto riga : estratto.Punti)
     if (suoi.contains(SpezzaPunto(riga).identificativo)) mappale.punti.emplace_back(riga);
   return mappale;
