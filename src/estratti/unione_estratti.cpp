@@ -26,6 +26,7 @@ namespace lirmeto {
 //   a ring that stands before its vertices  follows them too
 //   a vertex near several of the first      becomes the first of them in the order of the file
 //   points of one extract near each other   stay: only those of the other are looked at
+//   a row whose kind is written "7%"        keeps it: the first field of a row is no vertex to be renumbered
 
 namespace {
 
@@ -106,18 +107,18 @@ Addendo LeggiAddendo(std::string&& testo) {
   return addendo;
 }
 
-// The rows of a list with their fields turned into others, those between bars alone or the first and last too.
+// The rows of a list with the fields behind the first turned into others, those between bars alone or the last too.
 template <typename Traduci>
 void CambiaCampi(ListaRighe& lista, Traduci traduci) {
   RigheNuove nuove(lista);
   for (const auto riga : lista) {
-    for (std::size_t inizio = 0;;) {
-      const std::string_view campo = CampoDa(riga, inizio);
-      const std::size_t fine = inizio + campo.size();
-      nuove.Riga() += traduci(campo, inizio > 0 && fine < riga.size());
-      if (fine == riga.size()) break;
+    std::size_t fine = CampoDa(riga, 0).size();
+    nuove.Riga() += riga.substr(0, fine);
+    while (fine < riga.size()) {
       nuove.Riga() += '|';
-      inizio = fine + 1;
+      const std::string_view campo = CampoDa(riga, fine + 1);
+      fine += 1 + campo.size();
+      nuove.Riga() += traduci(campo, fine < riga.size());
     }
     nuove.Chiudi();
   }
