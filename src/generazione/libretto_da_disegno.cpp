@@ -105,6 +105,7 @@ void LibrettoDaDisegno::Form_Load() {
   tabelle_ = CaricaGrafica(ambiente_);
   Grafica1.Percorso = PercorsoDisegno(sessione);
   List1 = ElencoLinee(tabelle_);
+  tolte_.clear();
   if (List1.empty()) {
     std::string testo;
     testo += "Non è stata trovata nessuna Stazione nel Disegno!"_w;
@@ -129,9 +130,19 @@ bool LibrettoDaDisegno::Imposta(std::string_view chiave, std::string_view valore
 
 void LibrettoDaDisegno::DoppioClickList1(std::size_t indice) {
   if (!GeneraAbilitato || List1.size() < LineeMinimePerTogliere || indice >= List1.size()) return;
+  tolte_.emplace_back(indice, List1[indice]);
   List1.erase(List1.begin() + static_cast<std::ptrdiff_t>(indice));
   Accendi({});
   Disegna();
+}
+
+std::optional<std::size_t> LibrettoDaDisegno::RimettiLinea() {
+  if (!GeneraAbilitato || tolte_.empty()) return {};
+  const auto [indice, linea] = std::move(tolte_.back());
+  tolte_.pop_back();
+  List1.insert(List1.begin() + static_cast<std::ptrdiff_t>(indice), linea);
+  Disegna();
+  return indice;
 }
 
 // A generation puts rows into the session and leaves List1 alone, so that the places stay those of the lines.

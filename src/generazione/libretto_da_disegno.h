@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace lirmeto {
@@ -49,6 +50,8 @@ public:
   void ButtonPlus1_1() { Chiusa = true; }
   // Double click on a line: it takes no part. Of fewer than three lines none can be removed.
   void DoppioClickList1(std::size_t indice);
+  // The line removed last comes back to its place, which is the answer; none when all are there.
+  std::optional<std::size_t> RimettiLinea();
 
   // The line of the list that is lit in the picture; none, or one that is not there, puts the light out. What is
   // generated does not depend on it.
@@ -71,6 +74,7 @@ private:
   void MostraRapporto(const std::vector<std::string>& rapporto);
 
   Ambiente& ambiente_;
+  std::vector<std::pair<std::size_t, std::string>> tolte_; // lines removed, and where they stood
   TabelleDisegno tabelle_;
   std::vector<std::optional<LineaGrafica>>
       tracciate_; // those of List1 as they are drawn; none where an end is no point

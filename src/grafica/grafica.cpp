@@ -4,6 +4,8 @@
 #include <grafica/file_esportati.h>
 #include <grafica/righe_in_disegno.h>
 
+#include <cmath>
+
 namespace lirmeto {
 
 namespace {
@@ -71,7 +73,9 @@ Operazioni Grafica::Dipingi(double rapporto) {
 }
 
 void Grafica::MouseMove(const PuntoPiano& daCentro, TastoMouse tasto) {
-  if (mouse_.Muovi(daCentro, tasto)) KR_RidisegnaGrafica();
+  const bool spostata = mouse_.Muovi(daCentro, tasto);
+  if (metro_.Acceso()) metro_.PassaSu(mouse_.Ultimo().posto);
+  if (spostata) KR_RidisegnaGrafica();
 }
 
 void Grafica::MouseDown(const PuntoPiano& daCentro, TastoMouse tasto) {
@@ -92,6 +96,11 @@ void Grafica::MouseDown(const PuntoPiano& daCentro, TastoMouse tasto) {
 
 // Without a tool the view stays where it is and is painted again: only the middle button moves it.
 void Grafica::Clicca(const PuntoPiano& daCentro) {
+  if (metro_.Acceso()) {
+    (void)mouse_.Muovi(daCentro, TastoMouse::Nessuno);
+    if (!Archivio().Punti().empty()) metro_.Prendi(mouse_.Ultimo().posto);
+    return KR_RidisegnaGrafica();
+  }
   const EsitoClic esito = mouse_.Clicca(daCentro, Strumento);
   if (esito.nuovo) AggiungiPuntoNuovo(*esito.nuovo);
   KR_RidisegnaGrafica();
@@ -108,6 +117,34 @@ void Grafica::AggiungiPuntoNuovo(const PuntoPiano& posto) {
   punto.Font = FontPredefinito;
   punto.Dimensione = DimensioneNuovo;
   KR_AggiungiPuntoGraf(std::move(punto));
+}
+
+void Grafica::Rotola(bool avanti, const PuntoPiano& daCentro) {
+  const double prima = Vista().Zoom;
+  disegno_.gancio.Rotella(avanti);
+  const double resta = 1 - Vista().Zoom / prima;
+  if (!(prima > 0) || !std::isfinite(resta) || resta == 0) return;
+  Vista().MettiCentro({Vista().Xc + daCentro.est * resta, Vista().Yc + daCentro.nord * resta});
+  KR_RidisegnaGrafica();
+}
+
+void Grafica::AccendiMetro(bool acceso) {
+  metro_.Accendi(acceso);
+  KR_RidisegnaGrafica();
+}
+
+void Grafica::TogliVertice() {
+  metro_.TogliUltimo();
+  KR_RidisegnaGrafica();
+}
+
+// Of a row 8 the point, of a row 7 its vertices.
+void Grafica::AccendiRiga(std::optional<std::size_t> riga) {
+  PuntiEvidenza.clear();
+  const ListaRighe& righe = liste_.LibrettoOriginale;
+  if (riga && *riga < righe.size()) PuntiEvidenza = PostiDellaRiga(righe[*riga], Archivio());
+  if (!PuntiEvidenza.empty() && !Vista().Mostra(PuntiEvidenza.front())) Vista().MettiCentro(PuntiEvidenza.front());
+  KR_RidisegnaGrafica();
 }
 
 void Grafica::PuntatoreEntra(std::int16_t host) {

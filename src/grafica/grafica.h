@@ -6,6 +6,7 @@
 #include <grafica/caricatori.h>
 #include <grafica/disegno_condiviso.h>
 #include <grafica/operazioni.h>
+#include <grafica/righello.h>
 #include <grafica/strumenti_mouse.h>
 
 #include <cstdint>
@@ -14,6 +15,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace lirmeto {
 
@@ -47,6 +49,7 @@ public:
   std::string Percorso;       // of the file loaded last
   // A line that the surface lights up over the drawing; it is no part of the store, and no exporter sees it.
   std::optional<LineaGrafica> Evidenza;
+  std::vector<PuntoPiano> PuntiEvidenza; // lit in the same way
   // The surface it is shown on, if any; it must take itself away before it goes.
   SuperficieGrafica* Picture1 = nullptr;
   // What a step of the wheel does where the form has a zoom of its own, forward or back.
@@ -60,6 +63,13 @@ public:
   [[nodiscard]] const ListeGrafica& Liste() const { return liste_; }
   // What the mouse stands over, and what it holds.
   [[nodiscard]] const StrumentiMouse& Mouse() const { return mouse_; }
+
+  // The ruler; while it is on, it has the left button before any tool.
+  [[nodiscard]] const Righello& Metro() const { return metro_; }
+  void AccendiMetro(bool acceso);
+  void TogliVertice();
+  // Lights the points that a row of LibrettoOriginale names, in sight; no row puts them out.
+  void AccendiRiga(std::optional<std::size_t> riga);
 
   // Store.
   void KR_Clear();
@@ -94,6 +104,10 @@ public:
   // The pointer comes upon the surface, or goes: the host's number is set, and the wheel zooms in between.
   void PuntatoreEntra(std::int16_t host);
   void PuntatoreEsce(std::int16_t host);
+
+  // A step of the wheel: the form's own zoom or that of the drawing, if a hook stands. The place under the pointer stays
+  // under it.
+  void Rotola(bool avanti, const PuntoPiano& daCentro);
 
   // A tool that takes two picks forgets the first.
   void LasciaPresa() { mouse_.Lascia(); }
@@ -133,6 +147,7 @@ private:
   Ambiente& ambiente_;
   DisegnoCondiviso& disegno_;
   StrumentiMouse mouse_;
+  Righello metro_;
   ListeGrafica liste_;
   bool fineProgramma_ = false;
 };

@@ -198,6 +198,18 @@ void DisegnaRighe(const ListaRighe& righe, bool sottoProposta, ArchivioGrafica& 
   anelli.Fine();
 }
 
+std::vector<PuntoPiano> PostiDellaRiga(std::string_view riga, const ArchivioGrafica& archivio) {
+  const std::vector<std::string_view> campi = Dividi(riga, "|");
+  const bool contorno = !campi.empty() && campi[0] == "7";
+  std::vector<PuntoPiano> posti;
+  if (!contorno && (campi.empty() || campi[0] != "8")) return posti;
+  const std::size_t primo = contorno ? 2 : 1;
+  const std::size_t fine = contorno ? campi.size() : std::min<std::size_t>(campi.size(), primo + 1);
+  for (std::size_t i = primo; i < fine; ++i)
+    if (const auto indice = archivio.PrimoDiNome(campi[i])) posti.push_back(archivio.Punti()[*indice].Posto());
+  return posti;
+}
+
 void DisegnaNomeParticella(std::string_view riga7, std::int16_t colore, ArchivioGrafica& archivio) {
   constexpr double dimensione = 12;
   const auto campi = Dividi(riga7, "|");

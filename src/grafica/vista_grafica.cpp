@@ -20,10 +20,11 @@ struct FlagSalvato {
   bool VistaGrafica::*flag;
 };
 
-constexpr std::array<FlagSalvato, 4> Flag = {{{"PROPOSTASINO", &VistaGrafica::Check1},
+constexpr std::array<FlagSalvato, 5> Flag = {{{"PROPOSTASINO", &VistaGrafica::Check1},
                                               {"NOMISINO", &VistaGrafica::Check2},
                                               {"TOPONIMISINO", &VistaGrafica::Check3},
-                                              {"PFSINO", &VistaGrafica::Check4}}};
+                                              {"PFSINO", &VistaGrafica::Check4},
+                                              {"NOMISOVRAPPOSTI", &VistaGrafica::NomiSovrapposti}}};
 
 constexpr double Margine = 3;          // metres on each side of the extent
 constexpr double MisuraIniziale = 640; // metres, of a view that has no height, or no width
@@ -33,6 +34,10 @@ constexpr double MisuraIniziale = 640; // metres, of a view that has no height, 
 void VistaGrafica::MettiCentro(const PuntoPiano& centro) {
   Xc = centro.est;
   Yc = centro.nord;
+}
+
+bool VistaGrafica::Mostra(const PuntoPiano& posto) const {
+  return std::abs(posto.est - Xc) <= Larghezza() / 2 && std::abs(posto.nord - Yc) <= Zoom / 2;
 }
 
 void VistaGrafica::Inquadra(const ArchivioGrafica& archivio) {

@@ -27,9 +27,13 @@ struct VistaGrafica {
   bool Check2 = false; // NOMISINO: the names of points are not painted
   bool Check3 = false; // TOPONIMISINO: toponyms are left out of loading, extent and painting
   bool Check4 = false; // PFSINO: fiducial points are left out of loading
+  // NOMISOVRAPPOSTI: on the screen every name stands at its point, whatever it covers. Other surfaces always have it so.
+  bool NomiSovrapposti = false;
 
   [[nodiscard]] PuntoPiano Centro() const { return {Xc, Yc}; }
   void MettiCentro(const PuntoPiano& centro);
+  // Whether the surface shows a place.
+  [[nodiscard]] bool Mostra(const PuntoPiano& posto) const;
   // Fits the view to the store. The extent starts from the first point, whatever its class; an empty store counts as
   // one point at the origin. Lines take no part.
   void Inquadra(const ArchivioGrafica& archivio);

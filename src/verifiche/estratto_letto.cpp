@@ -6,7 +6,6 @@
 #include <verifiche/riga_letta.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace lirmeto {
 
@@ -99,16 +98,6 @@ EstrattoLetto LeggiEstratto(std::string_view testo) {
   for (const AnelloLetto& anello : letto.anelli) letto.particelle.push_back(SenzaSegno(anello.nome));
   std::sort(letto.particelle.begin(), letto.particelle.end());
   return letto;
-}
-
-double AreaDi(const std::vector<PuntoPiano>& vertici) {
-  double doppia = 0;
-  for (std::size_t i = 0; i < vertici.size(); ++i) {
-    const PuntoPiano& a = vertici[i];
-    const PuntoPiano& b = vertici[(i + 1) % vertici.size()];
-    doppia += (b.est - a.est) * (b.nord + a.nord);
-  }
-  return std::fabs(doppia) / 2;
 }
 
 } // namespace lirmeto

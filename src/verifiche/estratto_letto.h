@@ -53,7 +53,4 @@ public:
 
 [[nodiscard]] EstrattoLetto LeggiEstratto(std::string_view testo);
 
-// The area inside a ring, square metres; the ring need not repeat its first vertex.
-[[nodiscard]] double AreaDi(const std::vector<PuntoPiano>& vertici);
-
 } // namespace lirmeto

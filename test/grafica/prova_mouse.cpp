@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <random>
 #include <span>
+#include <tuple>
 
 namespace lirmeto::prova {
 namespace {
@@ -168,6 +169,74 @@ TEST_F(Strumenti, SenzaStrumentoSiRidisegnaSoltanto) {
   grafica.Strumento = "altro";
   Clicca(10, 20);
   EXPECT_TRUE(superficie.disegni == 1 && grafica.Vista().Xc == 0 && disegno.archivio.Punti().size() == 2);
+}
+
+// The place under the pointer stays under it, near and far; without a hook the wheel does nothing.
+TEST_F(Strumenti, LaRotellaIngrandisceDoveStaIlPuntatore) {
+  grafica.Vista().Zoom = 200;
+  grafica.Rotola(true, {30, -40});
+  EXPECT_EQ(grafica.Vista().Zoom, 200);
+  grafica.PuntatoreEntra(14);
+  for (const bool avanti : {true, false, false}) {
+    const VistaGrafica prima = grafica.Vista();
+    const double quota = (avanti ? 0.9 : 1.1);
+    grafica.Rotola(avanti, {30, -40});
+    EXPECT_DOUBLE_EQ(grafica.Vista().Zoom, prima.Zoom * quota);
+    EXPECT_NEAR(grafica.Vista().Xc + 30 * quota, prima.Xc + 30, 1e-9);
+    EXPECT_NEAR(grafica.Vista().Yc - 40 * quota, prima.Yc - 40, 1e-9);
+  }
+}
+
+// A square of 30 by 40 metres walked round from its south-west corner, each pick a metre off.
+TEST_F(Strumenti, RighelloDistanzaDirezioneEArea) {
+  grafica.KR_Clear();
+  for (const auto& [nome, est, nord] :
+       {std::tuple("A%", 0, 0), std::tuple("B%", 0, 40), std::tuple("C%", 30, 40), std::tuple("D%", 30, 0)})
+    grafica.KR_AggiungiPuntoGraf(Punto(nome, est, nord));
+  grafica.Vista().MettiCentro({});
+  grafica.Strumento = "NUOVOPUNTO"; // waits behind the ruler
+  grafica.AccendiMetro(true);
+  struct Passo {
+    double est, nord;
+    const char* letto;
+  };
+  for (const auto& [est, nord, letto] :
+       {Passo{1, -1, "Righello: clic su un punto, poi sul successivo/Canc toglie l'ultimo, Esc lascia/"},
+        Passo{-1, 41, "Distanza 40.000 m/Direzione 0.0000 gon/"},
+        Passo{31, 41, "Distanza 30.000 m/Direzione 100.0000 gon/Totale 70.000 m/Area 600.0 m\xB2/"},
+        Passo{31, -1, "Distanza 40.000 m/Direzione 200.0000 gon/Totale 110.000 m/Area 1200.0 m\xB2/"},
+        Passo{1, 1, "Distanza 30.000 m/Direzione 300.0000 gon/Totale 140.000 m/Area 1200.0 m\xB2/"}}) {
+    grafica.MouseMove({est, nord}, TastoMouse::Nessuno);
+    grafica.MouseDown({est, nord}, TastoMouse::Sinistro);
+    std::string righe;
+    for (const std::string& riga : RigheMisura(grafica.Metro())) righe += riga + "/";
+    EXPECT_EQ(righe, letto);
+  }
+  EXPECT_EQ(disegno.archivio.Punti().size(), 4U);
+  grafica.TogliVertice();
+  EXPECT_EQ(grafica.Metro().Vertici().size(), 4U);
+  grafica.AccendiMetro(false);
+  EXPECT_TRUE(grafica.Metro().Vertici().empty());
+  grafica.MouseDown({0, 0}, TastoMouse::Sinistro);
+  EXPECT_EQ(disegno.archivio.Punti().size(), 5U);
+}
+
+TEST_F(Strumenti, UnaRigaAccendeISuoiPunti) {
+  banco.disco.Metti("C:\\A.EMP", Testo({"0|12032026|G224|0010|0000|12|6|", "8|1%|0|0|", "8|2%|0|100|", "8|3%|900|100|",
+                                        "7|3|1%|2%|3%|1%|NC|12|12|500|", "9|"}));
+  grafica.CaricaDisegno("C:\\A.EMP");
+  grafica.KR_ZoomPiu();
+  const PuntoPiano centro = grafica.Vista().Centro();
+  grafica.AccendiRiga(1);
+  EXPECT_EQ(grafica.PuntiEvidenza, std::vector<PuntoPiano>{PuntoPiano{}});
+  EXPECT_EQ(grafica.Vista().Centro(), PuntoPiano{}) << "out of sight it comes to the middle";
+  grafica.Vista().MettiCentro(centro);
+  grafica.AccendiRiga(4);
+  EXPECT_EQ(grafica.PuntiEvidenza.size(), 4U);
+  for (const std::optional<std::size_t> nessuno : {std::optional<std::size_t>(0), std::optional<std::size_t>(99), {}}) {
+    grafica.AccendiRiga(nessuno);
+    EXPECT_TRUE(grafica.PuntiEvidenza.empty());
+  }
 }
 
 TEST(Gancio, UnoAllaVolta) {

@@ -125,6 +125,7 @@ TEST(Flag, SiLeggonoAllInizioESiTengonoAllaFine) {
     disegno.vista.Check2 = false;
   }
   EXPECT_EQ(banco.impostazioni.valori, (std::map<std::string, std::string>{{"CONFIGURA_GRAFICA1/NOMISINO", "0"},
+                                                                           {"CONFIGURA_GRAFICA1/NOMISOVRAPPOSTI", "0"},
                                                                            {"CONFIGURA_GRAFICA1/PFSINO", "1"},
                                                                            {"CONFIGURA_GRAFICA1/PROPOSTASINO", "1"},
                                                                            {"CONFIGURA_GRAFICA1/TOPONIMISINO", "0"}}));
