@@ -9,7 +9,7 @@
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication applicazione(argc, argv);
-  lirmeto::ui::VestiApplicazione(applicazione);
+  lirmeto::ui::VestiApplicazione(applicazione, lirmeto::ui::Luce::Chiara);
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }

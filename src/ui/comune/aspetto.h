@@ -1,6 +1,7 @@
 #pragma once
-// The look all windows share: palette, fonts, icons, and one quiet colour for
-// each kind of row.
+// The look all windows share: fonts, icons, place and size, and one quiet colour for each kind of row.
+
+#include <ui/comune/tema.h>
 
 #include <base/dialoghi.h>
 #include <core/posizione_form.h>
@@ -18,14 +19,15 @@ class QWidget;
 
 namespace lirmeto::ui {
 
-// Sets style, palette, Italian texts of the toolkit's own dialogs and the
-// window icon.
-void VestiApplicazione(QApplication& applicazione);
+// The light that the windows are in.
+enum class Luce { Sistema, Chiara, Scura };
 
-struct ColoriRiga {
-  QColor fondo;    // behind the text
-  QColor striscia; // the mark beside it
-};
+// Sets style, palette, Italian texts of the toolkit's own dialogs and the window icon. With the system's light the
+// windows change with it while they run.
+void VestiApplicazione(QApplication& applicazione, Luce luce = Luce::Sistema);
+
+// The same windows in another light.
+void Tingi(QApplication& applicazione, bool scuro);
 
 // Colours by kind of row (0 to 9); any other kind has those of kind 0.
 [[nodiscard]] ColoriRiga ColoriDelGenere(std::string_view riga);

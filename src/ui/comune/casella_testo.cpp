@@ -162,7 +162,7 @@ void CasellaTesto::DisegnaMargine(const QRect& zona, QWidget& margine) {
 
 void CasellaTesto::SegnaRigaCorrente() {
   QTextEdit::ExtraSelection riga;
-  riga.format.setBackground(QColor(0xEE, 0xF5, 0xFB));
+  riga.format.setBackground(ColoreTema(Tono::RigaCorrente));
   riga.format.setProperty(QTextFormat::FullWidthSelection, true);
   riga.cursor = textCursor();
   riga.cursor.clearSelection();

@@ -1,5 +1,7 @@
 #include <ui/estratti/anteprima_raster.h>
 
+#include <ui/comune/tema.h>
+
 #include <QBuffer>
 #include <QGraphicsPixmapItem>
 #include <QGraphicsScene>
@@ -27,7 +29,7 @@ AnteprimaRaster::AnteprimaRaster(QWidget* padre)
   setDragMode(QGraphicsView::ScrollHandDrag);
   setTransformationAnchor(QGraphicsView::AnchorUnderMouse);
   setFrameShape(QFrame::NoFrame);
-  setBackgroundBrush(Qt::white);
+  setBackgroundBrush(ColoreTema(Tono::Foglio));
   avviso_->setObjectName(QStringLiteral("Invito"));
   avviso_->setAlignment(Qt::AlignCenter);
   avviso_->setWordWrap(true);

@@ -30,7 +30,7 @@ PannelloStrumenti::PannelloStrumenti(QWidget* padre) : QFrame(padre) {
   auto* ombra = new QGraphicsDropShadowEffect(this);
   ombra->setBlurRadius(18);
   ombra->setOffset(0, 3);
-  ombra->setColor(QColor(0, 0, 0, 70));
+  ombra->setColor(ColoreTema(Tono::Ombra));
   setGraphicsEffect(ombra);
   hide();
 }

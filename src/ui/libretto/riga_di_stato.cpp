@@ -22,7 +22,7 @@ QString Tabella(const RigaDescritta& descritta) {
                         .arg(AQString(descritta.genere).toHtmlEscaped());
   for (std::size_t i = 0; i < descritta.campi.size() && i < MassimiCampi; ++i) {
     const CampoDescritto& campo = descritta.campi[i];
-    tabella += QStringLiteral("<tr><td style='color:#66737C'>%1&nbsp;&nbsp;</td><td>%2&nbsp;%3</td></tr>")
+    tabella += QStringLiteral("<tr><td><i>%1</i>&nbsp;&nbsp;</td><td>%2&nbsp;%3</td></tr>")
                    .arg(AQString(campo.nome).toHtmlEscaped(), ValoreBreve(campo).toHtmlEscaped(),
                         AQString(campo.unita).toHtmlEscaped());
   }

@@ -1,5 +1,6 @@
 #include <ui/proposte/griglia_qt.h>
 
+#include <ui/comune/tema.h>
 #include <ui/comune/testo_qt.h>
 
 #include <QColor>
@@ -9,8 +10,8 @@ namespace lirmeto::ui {
 namespace {
 
 QVariant Fondo(ColoreCella colore) {
-  if (colore == ColoreCella::Giallo) return QColor(0xFF, 0xE9, 0x7A);
-  if (colore == ColoreCella::Rosso) return QColor(0xF2, 0x9B, 0x90);
+  if (colore == ColoreCella::Giallo) return ColoreTema(Tono::CellaGialla);
+  if (colore == ColoreCella::Rosso) return ColoreTema(Tono::CellaRossa);
   return {};
 }
 

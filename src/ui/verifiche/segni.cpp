@@ -1,5 +1,7 @@
 #include <ui/verifiche/segni.h>
 
+#include <ui/comune/tema.h>
+
 #include <QPainter>
 #include <QPixmap>
 #include <QPolygonF>
@@ -11,8 +13,8 @@ namespace lirmeto::ui {
 namespace {
 
 QColor ColoreDi(Severita severita) {
-  const std::array colori = {QColor(0xC6, 0x28, 0x28), QColor(0xE0, 0x8A, 0x00), QColor(0x2F, 0x7F, 0xC1)};
-  return colori.at(static_cast<std::size_t>(severita));
+  constexpr std::array toni = {Tono::SegnoErrore, Tono::SegnoDubbio, Tono::SegnoNota};
+  return ColoreTema(toni.at(static_cast<std::size_t>(severita)));
 }
 
 } // namespace
