@@ -60,51 +60,64 @@ bool MostraSe(Modello& modello, Impostazioni* impostazioni, std::string_view nom
 struct Mostratore {
   std::string_view nome;
   bool (*mostra)(Modello&, Impostazioni*, std::string_view);
+  const std::type_info* tipo;
 };
+
+template <typename Tipo, typename Finestra>
+constexpr Mostratore Mostra(std::string_view nome = {}) {
+  return {nome, &MostraSe<Tipo, Finestra>, &typeid(Tipo)};
+}
 
 // Which window belongs to which model, a line each.
 constexpr std::array Mostratori = {
-    Mostratore{"KR_EditorGen", &MostraSe<KR_EditorGen, FinestraEditor>},
-    Mostratore{"FormRiordinoRighe", &MostraSe<FormRiordinoRighe, FinestraRiordino>},
-    Mostratore{"", &MostraSe<FormCatasto1TXT, FinestraCatasto1>},
-    Mostratore{"FormRigheScartate", &MostraSe<FormRigheScartate, FinestraScartate>},
-    Mostratore{"FormConfiguraPregeo", &MostraSe<FormConfiguraPregeo, FinestraConfiguraPregeo>},
-    Mostratore{"FormDisegno", &MostraSe<FormDisegno, FinestraDisegno>},
-    Mostratore{"LibrettoDaDisegno", &MostraSe<LibrettoDaDisegno, FinestraLibrettoDisegno>},
-    Mostratore{"", &MostraSe<KR_Dapregeo, FinestraDapregeo>},
-    Mostratore{"SelezionaMappali", &MostraSe<SelezionaMappali, FinestraSelezionaMappali>},
-    Mostratore{"MappaleDaMantenere", &MostraSe<MappaleDaMantenere, FinestraMappaleDaMantenere>},
-    Mostratore{"", &MostraSe<Tipol10, FinestraTipol10>},
-    Mostratore{"KR_StampaGenerale", &MostraSe<KR_StampaGenerale, FinestraStampaGenerale>},
-    Mostratore{"KR_CodFis", &MostraSe<KR_CodFis, FinestraCodFis>},
-    Mostratore{"KR_Comuni8", &MostraSe<KR_Comuni8, FinestraComuni>},
-    Mostratore{"ArchivioPossessori", &MostraSe<ArchivioPossessori, FinestraPossessori>},
-    Mostratore{"autore", &MostraSe<autore, FinestraAutore>},
-    Mostratore{"AssegnaDescrizione", &MostraSe<AssegnaDescrizione, FinestraAssegnaDescrizione>},
-    Mostratore{"", &MostraSe<KR_EstrattiDiMappa1, FinestraEstratti>},
-    Mostratore{"KR_SommaEstratti", &MostraSe<KR_SommaEstratti, FinestraSomma>},
-    Mostratore{"CompletaAutoallestito", &MostraSe<CompletaAutoallestito, FinestraCompleta>},
-    Mostratore{"FormImportaFiduciali", &MostraSe<FormImportaFiduciali, FinestraImportaFiduciali>},
-    Mostratore{"KR_SelezionaMisurate", &MostraSe<KR_SelezionaMisurate, FinestraSelezionaMisurate>},
-    Mostratore{"KR_ElcoPf", &MostraSe<KR_ElcoPf, FinestraElcoPf>},
-    Mostratore{"KR_ElcoPfGriglia", &MostraSe<KR_ElcoPfGriglia, FinestraElcoPfGriglia>},
-    Mostratore{"KR_ElcoPFGrafica", &MostraSe<KR_ElcoPFGrafica, FinestraElcoPfGrafica>},
-    Mostratore{"Imputa", &MostraSe<Imputa, FinestraImputa>},
-    Mostratore{"", &MostraSe<KR_EDM, FinestraEdm>},
-    Mostratore{"", &MostraSe<KR_Fraziona, FinestraProposta>},
-    Mostratore{"", &MostraSe<KR_Stralcio, FinestraProposta>},
-    Mostratore{"", &MostraSe<KR_NuovaCostruzione, FinestraTipoMappale>},
-    Mostratore{"", &MostraSe<KR_TMVariazione, FinestraTipoMappale>},
-    Mostratore{"", &MostraSe<KR_TMFusione, FinestraFusione>},
+    Mostra<KR_EditorGen, FinestraEditor>("KR_EditorGen"),
+    Mostra<FormRiordinoRighe, FinestraRiordino>("FormRiordinoRighe"),
+    Mostra<FormCatasto1TXT, FinestraCatasto1>(),
+    Mostra<FormRigheScartate, FinestraScartate>("FormRigheScartate"),
+    Mostra<FormConfiguraPregeo, FinestraConfiguraPregeo>("FormConfiguraPregeo"),
+    Mostra<FormDisegno, FinestraDisegno>("FormDisegno"),
+    Mostra<LibrettoDaDisegno, FinestraLibrettoDisegno>("LibrettoDaDisegno"),
+    Mostra<KR_Dapregeo, FinestraDapregeo>(),
+    Mostra<SelezionaMappali, FinestraSelezionaMappali>("SelezionaMappali"),
+    Mostra<MappaleDaMantenere, FinestraMappaleDaMantenere>("MappaleDaMantenere"),
+    Mostra<Tipol10, FinestraTipol10>(),
+    Mostra<KR_StampaGenerale, FinestraStampaGenerale>("KR_StampaGenerale"),
+    Mostra<KR_CodFis, FinestraCodFis>("KR_CodFis"),
+    Mostra<KR_Comuni8, FinestraComuni>("KR_Comuni8"),
+    Mostra<ArchivioPossessori, FinestraPossessori>("ArchivioPossessori"),
+    Mostra<autore, FinestraAutore>("autore"),
+    Mostra<AssegnaDescrizione, FinestraAssegnaDescrizione>("AssegnaDescrizione"),
+    Mostra<KR_EstrattiDiMappa1, FinestraEstratti>(),
+    Mostra<KR_SommaEstratti, FinestraSomma>("KR_SommaEstratti"),
+    Mostra<CompletaAutoallestito, FinestraCompleta>("CompletaAutoallestito"),
+    Mostra<FormImportaFiduciali, FinestraImportaFiduciali>("FormImportaFiduciali"),
+    Mostra<KR_SelezionaMisurate, FinestraSelezionaMisurate>("KR_SelezionaMisurate"),
+    Mostra<KR_ElcoPf, FinestraElcoPf>("KR_ElcoPf"),
+    Mostra<KR_ElcoPfGriglia, FinestraElcoPfGriglia>("KR_ElcoPfGriglia"),
+    Mostra<KR_ElcoPFGrafica, FinestraElcoPfGrafica>("KR_ElcoPFGrafica"),
+    Mostra<Imputa, FinestraImputa>("Imputa"),
+    Mostra<KR_EDM, FinestraEdm>(),
+    Mostra<KR_Fraziona, FinestraProposta>(),
+    Mostra<KR_Stralcio, FinestraProposta>(),
+    Mostra<KR_NuovaCostruzione, FinestraTipoMappale>(),
+    Mostra<KR_TMVariazione, FinestraTipoMappale>(),
+    Mostra<KR_TMFusione, FinestraFusione>(),
 };
 
 } // namespace
 
 void FinestreQt::MostraModale(Modello& modello) {
   Impostazioni* impostazioni = ambiente_ == nullptr ? nullptr : &ambiente_->impostazioni;
-  for (const auto& [nome, mostra] : Mostratori)
+  for (const auto& [nome, mostra, tipo] : Mostratori)
     if (mostra(modello, impostazioni, nome)) return;
   throw Errore(errore::ErroreInterno);
+}
+
+std::vector<const std::type_info*> ModelliConFinestra() {
+  std::vector<const std::type_info*> modelli;
+  modelli.reserve(Mostratori.size());
+  for (const Mostratore& uno : Mostratori) modelli.push_back(uno.tipo);
+  return modelli;
 }
 
 bool FinestreQt::Disponibile(std::string_view nome) const {

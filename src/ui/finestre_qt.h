@@ -4,6 +4,9 @@
 #include <base/dialoghi.h>
 #include <core/ambiente.h>
 
+#include <typeinfo>
+#include <vector>
+
 namespace lirmeto::ui {
 
 class FinestreQt final : public Finestre {
@@ -21,5 +24,8 @@ public:
 private:
   Ambiente* ambiente_ = nullptr;
 };
+
+// The models that have a window.
+[[nodiscard]] std::vector<const std::type_info*> ModelliConFinestra();
 
 } // namespace lirmeto::ui

@@ -24,6 +24,7 @@ void ModelloClasse::Ricarica() {
   std::size_t lunga = 0;
   for (const std::string_view riga : righe_) lunga = std::max(lunga, std::min(riga.size(), MassimoMostrato));
   const QFontMetrics misure(carattere_);
+  mostrate_ = static_cast<int>(righe_.size());
   misura_ = QSize(static_cast<int>(lunga + 4) * misure.horizontalAdvance(u'0'), misure.height() + 4);
   endResetModel();
 }

@@ -22,11 +22,15 @@ public:
   // Takes effect with the next Ricarica.
   void CambiaCarattere(const QFont& carattere) { carattere_ = carattere; }
 
+  // Rows at the last Ricarica.
+  [[nodiscard]] int Mostrate() const { return mostrate_; }
+
   [[nodiscard]] int rowCount(const QModelIndex& padre = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& indice, int ruolo) const override;
 
 private:
   const ListaRighe& righe_;
+  int mostrate_ = 0;
   QFont carattere_; // the view's
   Fondo fondo_;
   QSize misura_; // of every row, as wide as the widest

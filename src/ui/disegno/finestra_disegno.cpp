@@ -1,6 +1,7 @@
 #include <ui/disegno/finestra_disegno.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/barra_a_capo.h>
 #include <ui/comune/percorsi_qt.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_pannello.h>
@@ -10,7 +11,6 @@
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QMimeData>
-#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -19,7 +19,9 @@ namespace lirmeto::ui {
 FinestraDisegno::FinestraDisegno(FormDisegno& modello, QWidget* padre)
     : QDialog(padre, Qt::Window), modello_(modello),
       pannello_(new GraficaPannello(modello.Dintorni(), modello.Grafica1(), host::AnteprimaGrafica, this)),
-      invito_(new QLabel(QStringLiteral("Trascinare qui un disegno: .EMP, .SUR, .CSV, .PDF, .DAT"), this)) {
+      invito_(new QLabel(QStringLiteral("Trascinare qui un disegno (.EMP, .SUR, .CSV, .PDF, .DAT)\n"
+                                        "o sceglierlo con Apri (Ctrl+O)"),
+                         this)) {
   setObjectName(QStringLiteral("FormDisegno"));
   setAcceptDrops(true);
   connect(this, &FinestraDisegno::FileLasciato, this, &FinestraDisegno::Lascia, Qt::QueuedConnection);
@@ -35,6 +37,7 @@ FinestraDisegno::FinestraDisegno(FormDisegno& modello, QWidget* padre)
     Mostra();
   });
   connect(pannello_, &GraficaPannello::FineRichiesta, this, &QDialog::accept);
+  pannello_->MostraRighe(true);
   AdattaAlloSchermo(*this, 1240, 840);
   pannello_->Superficie().setFocus();
   Mostra();
@@ -42,7 +45,7 @@ FinestraDisegno::FinestraDisegno(FormDisegno& modello, QWidget* padre)
 
 // Before all that the drawing itself offers.
 void FinestraDisegno::AggiungiApri() {
-  QToolBar& barra = pannello_->Barra();
+  BarraACapo& barra = pannello_->Barra();
   auto* apri = new QAction(Icona(QStringLiteral("apri")), QStringLiteral("Apri"), this);
   apri->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_O));
   apri->setToolTip(QStringLiteral("Apre un disegno (Ctrl+O)"));
@@ -52,9 +55,7 @@ void FinestraDisegno::AggiungiApri() {
   });
   QAction* prima = barra.actions().isEmpty() ? nullptr : barra.actions().first();
   barra.insertAction(prima, apri);
-  barra.insertSeparator(prima);
-  if (auto* bottone = qobject_cast<QToolButton*>(barra.widgetForAction(apri)))
-    bottone->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  barra.Separa(prima);
 }
 
 void FinestraDisegno::Mostra() {

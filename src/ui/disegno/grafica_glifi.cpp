@@ -50,6 +50,12 @@ Glifi::Glifi(const QFont& font, double pixel) : font_(QRawFont::fromFont(font)) 
   }
 }
 
+double Glifi::Larghezza(std::string_view testo) const {
+  double larga = 0;
+  for (const char c : testo) larga += larga_[static_cast<unsigned char>(c)];
+  return larga;
+}
+
 QGlyphRun Glifi::Corsa(std::string_view testo) const {
   QList<quint32> indici;
   QList<QPointF> posti;

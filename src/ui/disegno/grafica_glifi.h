@@ -33,6 +33,9 @@ public:
   // Distance from the top of a text to the line it stands on, pixels.
   [[nodiscard]] double Ascesa() const { return font_.ascent(); }
 
+  [[nodiscard]] double Altezza() const { return font_.ascent() + font_.descent(); }
+  [[nodiscard]] double Larghezza(std::string_view testo) const;
+
   // Writes a text from left to right; it stands on the line of `base`.
   void Scrivi(const Raster& raster, std::string_view testo, const QPoint& base, const QColor& colore);
 

@@ -1,5 +1,6 @@
 #include <ui/disegno/grafica_pittura.h>
 
+#include <ui/comune/tema.h>
 #include <ui/comune/testo_qt.h>
 
 #include <base/numeri.h>
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace lirmeto::ui {
 
@@ -25,8 +27,14 @@ pittura::Rettangolo Rettangolo(const QRectF& r) {
   return {r.left(), r.top(), r.right(), r.bottom()};
 }
 
-QPen Penna(const OpLinea& linea, double unita) {
-  QPen penna(ColoreClassico(linea.colore), pittura::Larghezza(linea) * unita);
+bool Rosso(std::int16_t colore) {
+  constexpr std::int16_t scuro = 4;
+  return colore == scuro || colore == colore::RossoChiaro;
+}
+
+QPen Penna(const OpLinea& linea, double unita, const Inchiostri& inchiostri) {
+  const double larga = pittura::Larghezza(linea) + (Rosso(linea.colore) ? inchiostri.rossoInPiu : 0);
+  QPen penna(inchiostri.Segno(linea.colore), larga * unita);
   penna.setCapStyle(Qt::SquareCap); // strokes that meet leave no notch
   if (linea.stile != stile::Tratteggiato && linea.stile != stile::Punteggiato) return penna;
   const auto& tratti = linea.stile == stile::Tratteggiato ? pittura::Tratteggio : pittura::Punteggio;
@@ -38,8 +46,9 @@ QPen Penna(const OpLinea& linea, double unita) {
 // Lines of one pen, painted together.
 class Linee {
 public:
-  Linee(QPainter& pittore, const Inquadratura& dove, double unita, const QRectF& visibile)
-      : pittore_(pittore), dove_(dove), unita_(unita), dentro_(Rettangolo(visibile).Allargato(Bordo * unita)) {}
+  Linee(QPainter& pittore, const Inchiostri& inchiostri, const Inquadratura& dove, double unita, const QRectF& visibile)
+      : pittore_(pittore), inchiostri_(inchiostri), dove_(dove), unita_(unita),
+        dentro_(Rettangolo(visibile).Allargato(Bordo * unita)) {}
   Linee(const Linee&) = delete;
   Linee& operator=(const Linee&) = delete;
   ~Linee() { Scarica(); }
@@ -63,7 +72,7 @@ private:
     Scarica();
     ultima_ = linea;
     pronta_ = true;
-    penna_ = Penna(linea, unita_);
+    penna_ = Penna(linea, unita_, inchiostri_);
     pittore_.setPen(penna_);
   }
 
@@ -85,6 +94,7 @@ private:
   }
 
   QPainter& pittore_;
+  const Inchiostri& inchiostri_;
   const Inquadratura& dove_;
   double unita_;
   pittura::Rettangolo dentro_;
@@ -94,9 +104,9 @@ private:
   std::vector<QLineF> linee_;
 };
 
-void DipingiLinee(QPainter& pittore, const Operazioni& lista, const Inquadratura& dove, double unita,
-                  const QRectF& visibile) {
-  Linee linee(pittore, dove, unita, visibile);
+void DipingiLinee(QPainter& pittore, const Operazioni& lista, const Inchiostri& inchiostri, const Inquadratura& dove,
+                  double unita, const QRectF& visibile) {
+  Linee linee(pittore, inchiostri, dove, unita, visibile);
   for (const OpLinea& linea : lista.linee) linee.Aggiungi(linea);
 }
 
@@ -119,26 +129,39 @@ void Ruotato(QPainter& pittore, const QPointF& dove, int decimi, Disegna&& diseg
 
 } // namespace
 
-QColor ColoreClassico(std::int16_t colore) {
-  const TintaClassica tinta = Tinta(colore);
-  return {tinta.rosso, tinta.verde, tinta.blu};
+Inchiostri InchiostriCarta() {
+  Inchiostri carta{QColor(pittura::Fondo.rosso, pittura::Fondo.verde, pittura::Fondo.blu), {}, {}};
+  for (std::size_t i = 0; i < TinteClassiche.size(); ++i) {
+    const TintaClassica& tinta = TinteClassiche.at(i);
+    carta.segni.at(i) = carta.testi.at(i) = QColor(tinta.rosso, tinta.verde, tinta.blu);
+  }
+  return carta;
 }
 
-QColor ColoreFondo() {
-  return {pittura::Fondo.rosso, pittura::Fondo.verde, pittura::Fondo.blu};
+// On the light ground the lines keep their classic colours; on a dark one black would not be seen.
+Inchiostri InchiostriSchermo() {
+  Inchiostri schermo = InchiostriCarta();
+  schermo.fondo = ColoreTema(Tono::Carta);
+  schermo.rossoInPiu = 1;
+  for (std::size_t i = 0; i < TinteClassiche.size(); ++i) {
+    schermo.testi.at(i) = Leggibile(schermo.testi.at(i), schermo.fondo, ContrastoTesto);
+    if (TemaScuro()) schermo.segni.at(i) = Leggibile(schermo.segni.at(i), schermo.fondo, ContrastoSegno);
+  }
+  return schermo;
 }
 
 void DipingiPagina(QPainter& pittore, const Operazioni& lista, const QRectF& area, double unita) {
   const Inquadratura dove(lista.scala, area);
+  const Inchiostri carta = InchiostriCarta();
   pittore.save();
   pittore.setRenderHint(QPainter::Antialiasing);
   pittore.setClipRect(area);
-  DipingiLinee(pittore, lista, dove, unita, area);
+  DipingiLinee(pittore, lista, carta, dove, unita, area);
   pittore.setBrush(Qt::NoBrush);
   for (const OpCerchio& cerchio : lista.cerchi) {
     const QPointF centro = dove.Pixel(cerchio.x, cerchio.y);
     if (!Rettangolo(area).Contiene(centro.x(), centro.y())) continue;
-    pittore.setPen(QPen(ColoreClassico(cerchio.colore), unita));
+    pittore.setPen(QPen(carta.Segno(cerchio.colore), unita));
     pittore.drawEllipse(centro, cerchio.raggio * dove.pixelMetro, cerchio.raggio * dove.pixelMetro);
   }
   for (const OpTesto& testo : lista.testi) {
@@ -148,24 +171,40 @@ void DipingiPagina(QPainter& pittore, const Operazioni& lista, const QRectF& are
     QFont font = FontGrafica(testo.font);
     font.setPointSizeF(pittura::PixelTesto(testo.dimensione, 1) * pittura::PuntiPerPollice / pittura::PixelPerPollice);
     pittore.setFont(font);
-    pittore.setPen(ColoreClassico(testo.colore));
+    pittore.setPen(carta.Testo(testo.colore));
     const QPointF base(0, QFontMetricsF(font, pittore.device()).ascent());
     Ruotato(pittore, angolo, testo.decimi, [&] { pittore.drawText(base, PerDisegno(testo.testo)); });
   }
   pittore.restore();
 }
 
-PittoreSchermo::PittoreSchermo() = default;
+PittoreSchermo::PittoreSchermo(Inchiostri inchiostri) : inchiostri_(std::move(inchiostri)) {}
 PittoreSchermo::~PittoreSchermo() = default;
+
+void PittoreSchermo::Cambia(Inchiostri inchiostri) {
+  inchiostri_ = std::move(inchiostri);
+  timbri_.clear();
+}
+
+void PittoreSchermo::DisponiNomi(const Operazioni& lista, double pixelMetro, double unita) {
+  std::vector<Scritta> scritte;
+  scritte.reserve(lista.testi.size());
+  for (const OpTesto& testo : lista.testi) {
+    Glifi& glifi = GlifiDi(testo, unita);
+    scritte.push_back({testo.x * pixelMetro, -testo.y * pixelMetro, glifi.Larghezza(testo.testo), glifi.Altezza(),
+                       testo.decimi, testo.testo});
+  }
+  posti_ = DisponiScritte(scritte);
+}
 
 void PittoreSchermo::Dipingi(QImage& tela, const Operazioni& lista, double unita, const QRect& visibile) {
   const Raster raster(tela, visibile);
   const Inquadratura dove(lista.scala, QRectF(QPointF(), QSizeF(tela.size())));
   QPainter pittore(&tela);
   pittore.setClipRect(visibile);
-  pittore.fillRect(visibile, ColoreFondo());
+  pittore.fillRect(visibile, inchiostri_.fondo);
   pittore.setRenderHint(QPainter::Antialiasing);
-  DipingiLinee(pittore, lista, dove, unita, visibile);
+  DipingiLinee(pittore, lista, inchiostri_, dove, unita, visibile);
   Segni(pittore, lista, dove, unita, visibile);
   Testi(pittore, raster, lista, dove, unita);
 }
@@ -182,7 +221,7 @@ const QImage& PittoreSchermo::Timbro(std::int16_t colore, double raggio, double 
   timbro.fill(Qt::transparent);
   QPainter pittore(&timbro);
   pittore.setRenderHint(QPainter::Antialiasing);
-  pittore.setPen(QPen(ColoreClassico(colore), penna));
+  pittore.setPen(QPen(inchiostri_.Segno(colore), penna));
   const double passo = 1.0 / Fasi;
   const int colonna = fase % Fasi;
   const int riga = fase / Fasi;
@@ -206,36 +245,45 @@ void PittoreSchermo::Segni(QPainter& pittore, const Operazioni& lista, const Inq
   }
 }
 
-Glifi& PittoreSchermo::GlifiDi(std::string_view nome, double pixel) {
-  auto& glifi = glifi_[std::string(nome) + "/" + TestoPieno(pixel)];
+// Texts that follow each other mostly share face and size.
+Glifi& PittoreSchermo::GlifiDi(const OpTesto& testo, double unita) {
+  if (ultimi_ != nullptr && testo.font == fontUltimi_ && testo.dimensione == puntiUltimi_ && unita == unitaUltimi_)
+    return *ultimi_;
+  const double pixel = pittura::PixelTesto(testo.dimensione, unita);
+  auto& glifi = glifi_[std::string(testo.font) + "/" + TestoPieno(pixel)];
   if (!glifi) {
-    QFont font = FontGrafica(nome);
+    QFont font = FontGrafica(testo.font);
     font.setHintingPreference(QFont::PreferVerticalHinting);
     glifi = std::make_unique<Glifi>(font, pixel);
   }
+  ultimi_ = glifi.get();
+  fontUltimi_ = testo.font;
+  puntiUltimi_ = testo.dimensione;
+  unitaUltimi_ = unita;
   return *glifi;
 }
 
 void PittoreSchermo::Testi(QPainter& pittore, const Raster& raster, const Operazioni& lista, const Inquadratura& dove,
                            double unita) {
   const pittura::Rettangolo dentro = Rettangolo(raster.dentro);
-  Glifi* glifi = nullptr;
-  const OpTesto* ultimo = nullptr;
-  for (const OpTesto& testo : lista.testi) {
-    const QPointF angolo = dove.Pixel(testo.x, testo.y);
-    const double pixel = pittura::PixelTesto(testo.dimensione, unita);
-    if (!pittura::SiVede(testo, angolo.x(), angolo.y(), pixel, dentro)) continue;
-    if (ultimo == nullptr || ultimo->font != testo.font || ultimo->dimensione != testo.dimensione)
-      glifi = &GlifiDi(testo.font, pixel);
-    ultimo = &testo;
-    const QPointF base(0, glifi->Ascesa());
-    if (testo.decimi == 0) {
-      glifi->Scrivi(raster, testo.testo, (angolo + base).toPoint(), ColoreClassico(testo.colore));
-      continue;
-    }
-    pittore.setPen(ColoreClassico(testo.colore));
-    Ruotato(pittore, angolo, testo.decimi, [&] { pittore.drawGlyphRun(base, glifi->Corsa(testo.testo)); });
+  const bool disposti = posti_.size() == lista.testi.size();
+  for (std::size_t i = 0; i < lista.testi.size(); ++i) {
+    const OpTesto& testo = lista.testi[i];
+    if (disposti && !posti_[i]) continue;
+    const Scarto scarto = disposti ? *posti_[i] : Scarto{};
+    const QPointF angolo = dove.Pixel(testo.x, testo.y) + QPointF(scarto.x, scarto.y);
+    if (!pittura::SiVede(testo, angolo.x(), angolo.y(), pittura::PixelTesto(testo.dimensione, unita), dentro)) continue;
+    Scrivi(pittore, raster, testo, angolo, GlifiDi(testo, unita));
   }
+}
+
+void PittoreSchermo::Scrivi(QPainter& pittore, const Raster& raster, const OpTesto& testo, const QPointF& angolo,
+                            Glifi& glifi) {
+  const QColor& colore = inchiostri_.Testo(testo.colore);
+  const QPointF base(0, glifi.Ascesa());
+  if (testo.decimi == 0) return glifi.Scrivi(raster, testo.testo, (angolo + base).toPoint(), colore);
+  pittore.setPen(colore);
+  Ruotato(pittore, angolo, testo.decimi, [&] { pittore.drawGlyphRun(base, glifi.Corsa(testo.testo)); });
 }
 
 } // namespace lirmeto::ui

@@ -1,5 +1,6 @@
 #include <ui/disegno/grafica_superficie.h>
 
+#include <ui/comune/tema.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_uscite.h>
 
@@ -8,6 +9,7 @@
 #include <QClipboard>
 #include <QEnterEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -15,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace lirmeto::ui {
 
@@ -25,7 +28,7 @@ constexpr qsizetype EtichettaMax = 80; // characters of the readout that are sho
 
 bool StessaScena(const VistaGrafica& a, const VistaGrafica& b) {
   return a.Zoom == b.Zoom && a.Xmin == b.Xmin && a.Xmax == b.Xmax && a.Ymin == b.Ymin && a.Ymax == b.Ymax &&
-         a.Check2 == b.Check2 && a.Check3 == b.Check3;
+         a.Check2 == b.Check2 && a.Check3 == b.Check3 && a.NomiSovrapposti == b.NomiSovrapposti;
 }
 
 bool StessoCentro(const VistaGrafica& a, const VistaGrafica& b) {
@@ -43,7 +46,7 @@ double LunghezzaTonda(double metri) {
 } // namespace
 
 GraficaSuperficie::GraficaSuperficie(Grafica& grafica, std::int16_t ospite, QWidget* padre)
-    : QWidget(padre), grafica_(grafica), ospite_(ospite), label1_(new QLabel(this)) {
+    : QWidget(padre), grafica_(grafica), ospite_(ospite), pittore_(InchiostriSchermo()), label1_(new QLabel(this)) {
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFocusPolicy(Qt::StrongFocus);
@@ -65,9 +68,14 @@ void GraficaSuperficie::Ridisegna() {
   emit Ridisegnata();
 }
 
+// What is pasted elsewhere is on paper, whatever light the windows are in.
 void GraficaSuperficie::CopiaRaster() {
-  AggiornaTela();
-  QGuiApplication::clipboard()->setImage(tela_);
+  QImage foglio(MisuraTela(), QImage::Format_RGB32);
+  PittoreSchermo pittore;
+  const Operazioni lista = grafica_.Dipingi(static_cast<double>(foglio.width()) / foglio.height());
+  DisponiNomi(pittore, lista, foglio.size());
+  pittore.Dipingi(foglio, lista, devicePixelRatioF(), foglio.rect());
+  QGuiApplication::clipboard()->setImage(foglio);
 }
 
 void GraficaSuperficie::Stampa() {
@@ -103,6 +111,7 @@ void GraficaSuperficie::AggiornaTela() {
   const Operazioni lista = grafica_.Dipingi(static_cast<double>(misura.width()) / misura.height());
   const Ritratto adesso{grafica_.Vista(), grafica_.Archivio().Versione(), misura};
   if (stessa && Scorri(lista, adesso)) return;
+  if (!stessa) DisponiNomi(pittore_, lista, misura);
   if (tela_.size() != misura) tela_ = QImage(misura, QImage::Format_RGB32);
   tela_.setDevicePixelRatio(1);
   ritratto_ = adesso;
@@ -128,6 +137,11 @@ bool GraficaSuperficie::Scorri(const Operazioni& lista, const Ritratto& adesso) 
   return true;
 }
 
+void GraficaSuperficie::DisponiNomi(PittoreSchermo& pittore, const Operazioni& lista, const QSize& misura) const {
+  if (grafica_.Vista().NomiSovrapposti) return pittore.NomiComeDetto();
+  pittore.DisponiNomi(lista, misura.height() / (lista.scala.alto - lista.scala.basso), devicePixelRatioF());
+}
+
 void GraficaSuperficie::DipingiSullaTela(const Operazioni& lista, const QRegion& dove) {
   for (const QRect& pezzo : dove) pittore_.Dipingi(tela_, lista, devicePixelRatioF(), pezzo);
 }
@@ -142,18 +156,22 @@ void GraficaSuperficie::paintEvent(QPaintEvent* /*evento*/) {
   DipingiEvidenza(pittore);
   DipingiPuntoVicino(pittore);
   DipingiScala(pittore);
+  DipingiRighello(pittore);
 }
 
 // Broad and clear, so that the line itself and the names beside it are still read.
 void GraficaSuperficie::DipingiEvidenza(QPainter& pittore) const {
-  if (!grafica_.Evidenza) return;
   constexpr double larga = 9;
+  pittore.setPen(QPen(ColoreTema(Tono::Evidenza), larga, Qt::SolidLine, Qt::RoundCap));
+  pittore.setBrush(Qt::NoBrush);
+  for (const PuntoPiano& punto : grafica_.PuntiEvidenza)
+    pittore.drawEllipse(Posto(punto.est, punto.nord), larga, larga);
+  if (!grafica_.Evidenza) return;
   const QPointF da = Posto(grafica_.Evidenza->X1, grafica_.Evidenza->Y1);
   const QPointF a = Posto(grafica_.Evidenza->X2, grafica_.Evidenza->Y2);
   const auto tratto = pittura::Ritaglia({da.x(), da.y(), a.x(), a.y(), 0},
                                         pittura::Rettangolo{0, 0, 1.0 * width(), 1.0 * height()}.Allargato(larga));
   if (!tratto) return;
-  pittore.setPen(QPen(QColor(0xFF, 0xA8, 0x00, 0x90), larga, Qt::SolidLine, Qt::RoundCap));
   pittore.drawLine(QPointF(tratto->x1, tratto->y1), QPointF(tratto->x2, tratto->y2));
 }
 
@@ -161,7 +179,7 @@ void GraficaSuperficie::DipingiEvidenza(QPainter& pittore) const {
 void GraficaSuperficie::DipingiPuntoVicino(QPainter& pittore) const {
   if (!label1_->isVisible()) return;
   constexpr double raggio = 6;
-  pittore.setPen(QPen(QColor(0x2F, 0x7F, 0xC1), 1.6));
+  pittore.setPen(QPen(ColoreTema(Tono::Cerchio), 1.6));
   pittore.setBrush(Qt::NoBrush);
   const PuntoPiano& vicino = grafica_.Mouse().Etichetta().posto;
   pittore.drawEllipse(Posto(vicino.est, vicino.nord), raggio, raggio);
@@ -175,12 +193,46 @@ void GraficaSuperficie::DipingiScala(QPainter& pittore) const {
   const double metri = LunghezzaTonda(width() / 5.0 / pixelMetro);
   if (!std::isfinite(metri) || !(metri > 0)) return;
   const QRectF barra(margine, height() - margine - alto, metri * pixelMetro, alto);
-  const QColor inchiostro(0x5B, 0x6A, 0x75);
+  const QColor inchiostro = ColoreTema(Tono::Scala);
   const QString testo = metri >= 1000 ? QStringLiteral("%L1 km").arg(metri / 1000) : QStringLiteral("%L1 m").arg(metri);
   pittore.setPen(QPen(inchiostro, 1.2));
   pittore.drawPolyline(QPolygonF{barra.topLeft(), barra.bottomLeft(), barra.bottomRight(), barra.topRight()});
   pittore.drawText(QRectF(barra.left(), barra.top() - 18, std::max(barra.width(), 60.0), 18),
                    Qt::AlignLeft | Qt::AlignBottom, testo);
+}
+
+// The way measured so far, on to the point under the mouse, and what it measures in a corner.
+void GraficaSuperficie::DipingiRighello(QPainter& pittore) const {
+  constexpr double larga = 2;
+  constexpr double vertice = 4;
+  constexpr int chiaro = 40; // of 255: the drawing shows through the area
+  const Righello& metro = grafica_.Metro();
+  if (!metro.Acceso()) return;
+  QPolygonF via;
+  for (const PuntoPiano& punto : metro.Vertici()) via.append(Posto(punto.est, punto.nord));
+  if (metro.Sotto() && !via.isEmpty()) via.append(Posto(metro.Sotto()->est, metro.Sotto()->nord));
+  QColor colore = ColoreTema(Tono::Righello);
+  pittore.setPen(QPen(colore, larga, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  pittore.drawPolyline(via);
+  for (const QPointF& punto : std::as_const(via)) pittore.drawEllipse(punto, vertice, vertice);
+  colore.setAlpha(chiaro);
+  pittore.setPen(Qt::NoPen);
+  pittore.setBrush(colore);
+  pittore.drawPolygon(via);
+  DipingiMisura(pittore);
+}
+
+void GraficaSuperficie::DipingiMisura(QPainter& pittore) const {
+  constexpr int margine = 8;
+  QStringList righe;
+  for (const std::string& riga : RigheMisura(grafica_.Metro())) righe << AQString(riga);
+  const QString testo = righe.join(u'\n');
+  const QRect scritta = fontMetrics().boundingRect(rect(), Qt::AlignLeft, testo).translated(2 * margine, 2 * margine);
+  pittore.setPen(ColoreTema(Tono::BordoConsiglio));
+  pittore.setBrush(ColoreTema(Tono::Consiglio));
+  pittore.drawRoundedRect(scritta.adjusted(-margine, -margine, margine, margine), 4, 4);
+  pittore.setPen(ColoreTema(Tono::TestoConsiglio));
+  pittore.drawText(scritta, Qt::AlignLeft, testo);
 }
 
 // The view may show less than the whole list while the window is being laid out: nothing is painted here.
@@ -194,7 +246,7 @@ TastoMouse GraficaSuperficie::Tasto(Qt::MouseButtons tasti) const {
   if (tasti & Qt::MiddleButton) return TastoMouse::Centrale;
   if (tasti & Qt::RightButton) return TastoMouse::Destro;
   if (!(tasti & Qt::LeftButton)) return TastoMouse::Nessuno;
-  return grafica_.Strumento.empty() ? TastoMouse::Centrale : TastoMouse::Sinistro;
+  return grafica_.Strumento.empty() && !grafica_.Metro().Acceso() ? TastoMouse::Centrale : TastoMouse::Sinistro;
 }
 
 void GraficaSuperficie::mouseMoveEvent(QMouseEvent* evento) {
@@ -219,11 +271,28 @@ void GraficaSuperficie::mouseReleaseEvent(QMouseEvent* evento) {
 
 // A fine wheel or a touchpad sends parts of a notch: each whole one is a step.
 void GraficaSuperficie::wheelEvent(QWheelEvent* evento) {
+  const QPointF metri = Metri(evento->position());
   rotella_ += evento->angleDelta().y();
   for (; std::abs(rotella_) >= Tacca; rotella_ -= rotella_ > 0 ? Tacca : -Tacca)
-    grafica_.Gancio().Rotella(rotella_ > 0);
+    grafica_.Rotola(rotella_ > 0, {metri.x(), metri.y()});
   MostraEtichetta();
   evento->accept();
+}
+
+// Of the ruler: the last vertex, or all of it.
+void GraficaSuperficie::keyPressEvent(QKeyEvent* evento) {
+  const bool metro = grafica_.Metro().Acceso();
+  if (metro && (evento->key() == Qt::Key_Delete || evento->key() == Qt::Key_Backspace)) return grafica_.TogliVertice();
+  if (metro && evento->key() == Qt::Key_Escape) emit RighelloLasciato();
+  if (!metro || evento->key() != Qt::Key_Escape) QWidget::keyPressEvent(evento);
+}
+
+void GraficaSuperficie::changeEvent(QEvent* evento) {
+  QWidget::changeEvent(evento);
+  if (evento->type() != QEvent::PaletteChange && evento->type() != QEvent::StyleChange) return;
+  pittore_.Cambia(InchiostriSchermo());
+  tela_ = QImage();
+  update();
 }
 
 void GraficaSuperficie::enterEvent(QEnterEvent* evento) {

@@ -39,6 +39,8 @@ signals:
   void Sopra(double x, double y);
   void Uscito();
   void Ridisegnata();
+  // The ruler was left with its key.
+  void RighelloLasciato();
   // The context menu is wanted, at the pointer.
   void MenuRichiesto(const QPoint& sulloSchermo);
 
@@ -49,6 +51,8 @@ protected:
   void mousePressEvent(QMouseEvent* evento) override;
   void mouseReleaseEvent(QMouseEvent* evento) override;
   void wheelEvent(QWheelEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
+  void changeEvent(QEvent* evento) override;
   void enterEvent(QEnterEvent* evento) override;
   void leaveEvent(QEvent* evento) override;
 
@@ -62,10 +66,13 @@ private:
 
   void AggiornaTela();
   [[nodiscard]] bool Scorri(const Operazioni& lista, const Ritratto& adesso);
+  void DisponiNomi(PittoreSchermo& pittore, const Operazioni& lista, const QSize& misura) const;
   void DipingiSullaTela(const Operazioni& lista, const QRegion& dove);
   void DipingiEvidenza(QPainter& pittore) const;
   void DipingiPuntoVicino(QPainter& pittore) const;
   void DipingiScala(QPainter& pittore) const;
+  void DipingiRighello(QPainter& pittore) const;
+  void DipingiMisura(QPainter& pittore) const;
   void MostraEtichetta();
   [[nodiscard]] TastoMouse Tasto(Qt::MouseButtons tasti) const;
   [[nodiscard]] QSize MisuraTela() const;

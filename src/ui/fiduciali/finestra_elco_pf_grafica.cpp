@@ -1,6 +1,7 @@
 #include <ui/fiduciali/finestra_elco_pf_grafica.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/barra_a_capo.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_superficie.h>
 
@@ -11,7 +12,6 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QRubberBand>
-#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -54,7 +54,7 @@ QString Invito(StrumentoPF strumento) {
 } // namespace
 
 FinestraElcoPfGrafica::FinestraElcoPfGrafica(KR_ElcoPFGrafica& modello, QWidget* padre)
-    : QDialog(padre, Qt::Window), modello_(modello), comandi_(new QToolBar(this)), selezione_(new QToolBar(this)),
+    : QDialog(padre, Qt::Window), modello_(modello), comandi_(new BarraACapo(this)), selezione_(new BarraACapo(this)),
       superficie_(new GraficaSuperficie(modello.Grafica1(), host::KR_ElcoPFGrafica, this)), menu_(new QMenu(this)),
       riquadro_(new QRubberBand(QRubberBand::Rectangle, superficie_)), posto_(new QLabel(this)),
       conteggi_(new QLabel(this)) {
@@ -88,9 +88,9 @@ FinestraElcoPfGrafica::FinestraElcoPfGrafica(KR_ElcoPFGrafica& modello, QWidget*
 
 void FinestraElcoPfGrafica::RiempiComandi() {
   comandi_->setObjectName(QStringLiteral("BarraGrafica"));
-  comandi_->setIconSize(QSize(20, 20));
   for (const VocePF& voce : VociElcoPF()) {
     const QKeySequence tasto = TastoDi(voce.indice);
+    comandi_->MettiStile(tasto.isEmpty() ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
     QAction* azione = comandi_->addAction(Icona(AQString(voce.icona)), AQString(voce.didascalia), this,
                                           [this, indice = voce.indice] { Esegui(indice); });
     azione->setData(voce.indice);
@@ -98,8 +98,6 @@ void FinestraElcoPfGrafica::RiempiComandi() {
     azione->setToolTip(tasto.isEmpty() ? AQString(voce.spiegazione)
                                        : QStringLiteral("%1 (%2)").arg(AQString(voce.spiegazione),
                                                                        tasto.toString(QKeySequence::NativeText)));
-    auto* bottone = qobject_cast<QToolButton*>(comandi_->widgetForAction(azione));
-    if (bottone != nullptr && tasto.isEmpty()) bottone->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     menu_->addAction(azione);
   }
 }
@@ -108,7 +106,7 @@ void FinestraElcoPfGrafica::RiempiSelezione() {
   selezione_->setObjectName(QStringLiteral("BarraGrafica"));
   auto* titolo = new QLabel(QStringLiteral("Seleziona:"), this);
   titolo->setContentsMargins(6, 0, 6, 0);
-  selezione_->addWidget(titolo);
+  selezione_->Aggiungi(titolo);
   for (const VoceSelezionePF& voce : VociSelezionePF()) {
     QAction* azione = selezione_->addAction(AQString(voce.didascalia), this, [this, quali = voce.selezione] {
       modello_.Seleziona(quali);
@@ -116,14 +114,12 @@ void FinestraElcoPfGrafica::RiempiSelezione() {
     });
     azione->setToolTip(AQString(voce.spiegazione));
   }
-  auto* vuoto = new QWidget(selezione_);
-  vuoto->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  selezione_->addWidget(vuoto);
+  selezione_->Allarga();
   auto* nomi = new QCheckBox(QStringLiteral("&Nomi"), this);
   nomi->setObjectName(QStringLiteral("Check1"));
   nomi->setChecked(modello_.Check1());
   nomi->setToolTip(QStringLiteral("Mostra i nomi accanto ai punti"));
-  selezione_->addWidget(nomi);
+  selezione_->Aggiungi(nomi);
   connect(nomi, &QCheckBox::toggled, this, [this](bool si) { modello_.CambiaCheck1(si); });
 }
 

@@ -9,9 +9,10 @@ class QCheckBox;
 class QLabel;
 class QMenu;
 class QRubberBand;
-class QToolBar;
 
 namespace lirmeto::ui {
+
+class BarraACapo;
 
 class GraficaSuperficie;
 
@@ -38,8 +39,8 @@ private:
   [[nodiscard]] QPointF Mappa(const QPointF& posto) const;
 
   KR_ElcoPFGrafica& modello_;
-  QToolBar* comandi_;
-  QToolBar* selezione_;
+  BarraACapo* comandi_;
+  BarraACapo* selezione_;
   GraficaSuperficie* superficie_;
   QMenu* menu_;
   QRubberBand* riquadro_; // of the window zoom

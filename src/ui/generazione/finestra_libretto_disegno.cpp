@@ -18,6 +18,7 @@
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStringListModel>
@@ -163,7 +164,8 @@ QWidget* FinestraLibrettoDisegno::CreaLinee() {
   colonna->addWidget(quanteLinee_);
   colonna->addWidget(linee_, 1);
   colonna->addWidget(lunghezza_);
-  colonna->addWidget(Consiglio(QStringLiteral("Doppio clic o Canc su una linea\nper toglierla dal libretto"), intorno));
+  colonna->addWidget(Consiglio(
+      QStringLiteral("Doppio clic o Canc su una linea\nper toglierla dal libretto;\nCtrl+Z la rimette"), intorno));
   return intorno;
 }
 
@@ -282,6 +284,8 @@ void FinestraLibrettoDisegno::CollegaLinee() {
   connect(linee_, &QListView::entered, this,
           [this](const QModelIndex& posto) { Illumina(static_cast<std::size_t>(posto.row())); });
   connect(linee_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { Illumina(sotto_); });
+  auto* rimetti = new QShortcut(QKeySequence::Undo, this);
+  connect(rimetti, &QShortcut::activated, this, &FinestraLibrettoDisegno::Rimetti);
   connect(linee_, &QListView::doubleClicked, this, [this](const QModelIndex& posto) { Togli(posto.row()); });
 }
 
@@ -338,6 +342,16 @@ void FinestraLibrettoDisegno::Togli(int riga) {
   testiLinee_->removeRow(riga);
   quanteLinee_->setText(QStringLiteral("Linee: %L1").arg(testiLinee_->rowCount()));
   linee_->setCurrentIndex(testiLinee_->index(std::min(riga, testiLinee_->rowCount() - 1)));
+  Illumina({});
+}
+
+// A number that is being typed has an undo of its own, and comes first.
+void FinestraLibrettoDisegno::Rimetti() {
+  const std::optional<std::size_t> riga = modello_.RimettiLinea();
+  if (!riga) return;
+  sotto_.reset();
+  MostraLinee();
+  linee_->setCurrentIndex(testiLinee_->index(static_cast<int>(*riga)));
   Illumina({});
 }
 

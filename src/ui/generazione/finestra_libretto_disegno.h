@@ -49,6 +49,7 @@ private:
   void MostraLinee();
   void Scegli(const VoceOpzione& voce, bool si);
   void Togli(int riga);
+  void Rimetti();
   void PassaSopra(double x, double y);
   void Illumina(std::optional<std::size_t> sotto);
   void Genera();

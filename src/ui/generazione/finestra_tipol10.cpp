@@ -1,6 +1,7 @@
 #include <ui/generazione/finestra_tipol10.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/barra_a_capo.h>
 #include <ui/comune/modello_classe.h>
 #include <ui/comune/piede_scelta.h>
 #include <ui/comune/testo_qt.h>
@@ -33,19 +34,20 @@ constexpr int LarghezzaNumero = 70;
 // A drawing tool; one that stays chosen can be pressed down.
 struct Strumento {
   int indice;
+  const char* icona;
   const char* testo;
   const char* spiegazione;
   bool resta;
 };
 
 constexpr std::array<Strumento, 7> Strumenti = {{
-    {0, "Nuovo Punto", "Un punto nuovo dov'è il punto più vicino", true},
-    {5, "Punto Medio", "Un punto a metà fra due punti", true},
-    {6, "Bilatera", "Un punto fra due punti", true},
-    {3, "Inizia Contorno", "Dimentica il contorno disegnato finora", false},
-    {1, "Contorno Rosso", "Un contorno nuovo (RC), punto dopo punto", true},
-    {2, "Contorno Nero", "Un contorno della mappa (NC), punto dopo punto", true},
-    {4, "Contorno in Righe", "Il contorno disegnato diventa righe della proposta", false},
+    {0, "nuovo_punto", "Nuovo Punto", "Un punto nuovo dov'è il punto più vicino", true},
+    {5, "punto_medio", "Punto Medio", "Un punto a metà fra due punti", true},
+    {6, "bilatera", "Bilatera", "Un punto fra due punti", true},
+    {3, "contorno_nuovo", "Inizia Contorno", "Dimentica il contorno disegnato finora", false},
+    {1, "contorno_rosso", "Contorno Rosso", "Un contorno nuovo (RC), punto dopo punto", true},
+    {2, "contorno_nero", "Contorno Nero", "Un contorno della mappa (NC), punto dopo punto", true},
+    {4, "contorno_righe", "Contorno in Righe", "Il contorno disegnato diventa righe della proposta", false},
 }};
 
 QLabel* Titolo(const QString& testo, QWidget* padre) {
@@ -88,27 +90,28 @@ QWidget* FinestraTipol10::CreaDisegno() {
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->setSpacing(6);
   colonna->addWidget(Titolo(QStringLiteral("Disegno Proposta"), riquadro));
-  colonna->addLayout(CreaStrumenti());
+  colonna->addWidget(CreaStrumenti());
   colonna->addWidget(disegno_, 1);
   return riquadro;
 }
 
 // A tool pressed down is let go by a press on it again.
-QLayout* FinestraTipol10::CreaStrumenti() {
-  auto* riga = new QHBoxLayout;
-  riga->setSpacing(2);
+QWidget* FinestraTipol10::CreaStrumenti() {
+  auto* barra = new BarraACapo(this);
   strumenti_->setExclusive(false);
   for (const Strumento& strumento : Strumenti) {
-    auto* bottone = new QToolButton(this);
+    auto* bottone = new QToolButton(barra);
+    bottone->setIcon(Icona(QString::fromLatin1(strumento.icona)));
+    bottone->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    bottone->setAutoRaise(true);
     bottone->setText(QString::fromUtf8(strumento.testo));
     bottone->setToolTip(QString::fromUtf8(strumento.spiegazione));
     bottone->setCheckable(strumento.resta);
     strumenti_->addButton(bottone, strumento.indice);
-    riga->addWidget(bottone);
+    barra->Aggiungi(bottone);
   }
   connect(strumenti_, &QButtonGroup::idClicked, this, &FinestraTipol10::Scegli);
-  riga->addStretch(1);
-  return riga;
+  return barra;
 }
 
 QWidget* FinestraTipol10::CreaProposta() {

@@ -28,7 +28,7 @@ protected:
 private:
   [[nodiscard]] QWidget* CreaDisegno();
   [[nodiscard]] QWidget* CreaProposta();
-  [[nodiscard]] QLayout* CreaStrumenti();
+  [[nodiscard]] QWidget* CreaStrumenti();
   [[nodiscard]] QLayout* CreaNumeri();
   [[nodiscard]] QLayout* CreaPiede();
   void Premi(int indice);

@@ -1,13 +1,13 @@
 #include <ui/pregeo/finestra_configura_pregeo.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/barra_a_capo.h>
 #include <ui/comune/casella_testo.h>
 #include <ui/comune/testo_qt.h>
 
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -36,10 +36,8 @@ FinestraConfiguraPregeo::FinestraConfiguraPregeo(FormConfiguraPregeo& modello, Q
   casella_->setFocus();
 }
 
-QToolBar* FinestraConfiguraPregeo::CreaBarra() {
-  auto* barra = new QToolBar(this);
-  barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  barra->setIconSize(QSize(20, 20));
+BarraACapo* FinestraConfiguraPregeo::CreaBarra() {
+  auto* barra = new BarraACapo(this);
   const auto aggiungi = [&](const char* icona, const QString& testo, const QString& spiega, auto&& azione) {
     QAction* voce = barra->addAction(Icona(QString::fromLatin1(icona)), testo, this, azione);
     voce->setToolTip(spiega);
@@ -50,13 +48,11 @@ QToolBar* FinestraConfiguraPregeo::CreaBarra() {
   })->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
   aggiungi("ricarica", QStringLiteral("Ricarica"),
            QStringLiteral("Legge di nuovo PREGEO.INI: le modifiche non salvate si perdono"), [this] { Ricarica(); });
-  barra->addSeparator();
+  barra->Separa();
   aggiungi("collegamento", QStringLiteral("Crea Collegamenti"),
            QStringLiteral("Collegamenti a Pregeo sul desktop e nel menu dei programmi"),
            [this] { modello_.CreaCollegamenti(); });
-  auto* vuoto = new QWidget(barra);
-  vuoto->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  barra->addWidget(vuoto);
+  barra->Allarga();
   aggiungi("chiudi", QStringLiteral("Chiudi"), QStringLiteral("Chiude senza salvare (Esc)"), [this] { Chiudi(); });
   return barra;
 }

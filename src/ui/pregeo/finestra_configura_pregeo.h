@@ -6,9 +6,10 @@
 #include <QDialog>
 
 class QLabel;
-class QToolBar;
 
 namespace lirmeto::ui {
+
+class BarraACapo;
 
 class CasellaTesto;
 
@@ -19,7 +20,7 @@ public:
   explicit FinestraConfiguraPregeo(FormConfiguraPregeo& modello, QWidget* padre = nullptr);
 
 private:
-  [[nodiscard]] QToolBar* CreaBarra();
+  [[nodiscard]] BarraACapo* CreaBarra();
   [[nodiscard]] QWidget* CreaPiede();
   void Salva();
   void Ricarica();

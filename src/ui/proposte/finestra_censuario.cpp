@@ -1,6 +1,7 @@
 #include <ui/proposte/finestra_censuario.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/barra_a_capo.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/libretto/riga_di_stato.h>
 #include <ui/proposte/parti_censuario.h>
@@ -9,7 +10,6 @@
 
 #include <QHBoxLayout>
 #include <QListView>
-#include <QToolBar>
 #include <QVBoxLayout>
 
 namespace lirmeto::ui {

@@ -1,6 +1,7 @@
 #include <ui/proposte/finestra_edm.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/barra_a_capo.h>
 #include <ui/comune/colonna_elenco.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_pannello.h>
@@ -18,7 +19,6 @@
 #include <QListView>
 #include <QListWidget>
 #include <QSignalBlocker>
-#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -64,11 +64,11 @@ FinestraEdm::FinestraEdm(KR_EDM& modello, QWidget* padre)
       evidenza_(new EvidenzaParticella(disegno_->Superficie())) {
   setObjectName(QString::fromLatin1(NomeForm));
   disegno_->NascondiCaricamento();
-  auto* barra = new QToolBar(this);
+  auto* barra = new BarraACapo(this);
   for (const int indice : Proposte) {
     QToolButton* bottone = CreaPulsante(PulsanteDi(indice), barra, [this](int premuto) { Premi(premuto); });
     bottone->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    barra->addWidget(bottone);
+    barra->Aggiungi(bottone);
     bottoni_.emplace_back(bottone, indice);
   }
   auto* piano = new QHBoxLayout;
@@ -89,8 +89,6 @@ FinestraEdm::FinestraEdm(KR_EDM& modello, QWidget* padre)
 
 QWidget* FinestraEdm::CreaElenchi() {
   auto* dentro = new QWidget(this);
-  constexpr int larghezza = 300;
-  dentro->setFixedWidth(larghezza);
   auto* colonna = new QVBoxLayout(dentro);
   colonna->setContentsMargins(0, 0, 0, 0);
   list1_->setObjectName(QStringLiteral("List1"));
@@ -102,7 +100,9 @@ QWidget* FinestraEdm::CreaElenchi() {
   file1_->setUniformItemSizes(true);
   file1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   colonna->addWidget(file1_, 3);
-  colonna->addWidget(Bottoni(Archivio, 2));
+  QWidget* bottoni = Bottoni(Archivio, 2);
+  colonna->addWidget(bottoni);
+  dentro->setFixedWidth(bottoni->sizeHint().width());
   connect(list1_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* voce) {
     modello_.ClicList1(static_cast<std::size_t>(list1_->row(voce)));
     Mostra();

@@ -1,5 +1,6 @@
 #include <ui/proposte/finestra_proposta.h>
 
+#include <ui/comune/tema.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_pannello.h>
 #include <ui/disegno/grafica_superficie.h>
@@ -20,6 +21,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 
 namespace lirmeto::ui {
@@ -68,7 +70,7 @@ void FinestraProposta::Componi() {
   piano->setContentsMargins(0, 0, 0, 0);
   piano->setSpacing(10);
   QWidget* scelte = CreaScelte();
-  scelte->setFixedWidth(LarghezzaScelte);
+  scelte->setFixedWidth(std::max(LarghezzaScelte, scelte->minimumSizeHint().width()));
   piano->addWidget(scelte);
   piano->addWidget(CreaGriglia(), 5);
   if (disegno_ != nullptr) piano->addWidget(disegno_, 3);
@@ -257,7 +259,7 @@ void FinestraProposta::MostraSomma() {
   somma_->setText(QStringLiteral("Somma delle aree <b>%1</b> mq &nbsp;·&nbsp; area catastale <b>%2</b> mq "
                                  "&nbsp;·&nbsp; differenza <b style='color:%4'>%3</b> mq")
                       .arg(mq(modello_.SommaAree()), mq(modello_.SommaAree() - differenza), mq(differenza),
-                           differenza == 0 ? QStringLiteral("#2E7D32") : QStringLiteral("#B32A1E")));
+                           ColoreTema(differenza == 0 ? Tono::TestoGiusto : Tono::TestoErrore).name()));
 }
 
 } // namespace lirmeto::ui

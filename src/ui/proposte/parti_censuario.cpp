@@ -1,6 +1,7 @@
 #include <ui/proposte/parti_censuario.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/barra_a_capo.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_superficie.h>
 #include <ui/verifiche/segni.h>
@@ -11,7 +12,6 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -49,13 +49,13 @@ QToolButton* CreaPulsante(const PulsanteForm& pulsante, QWidget* padre, const st
   return bottone;
 }
 
-QToolBar* CreaPulsantiera(std::span<const PulsanteForm> pulsanti, QWidget* padre,
-                          const std::function<void(int)>& premi) {
-  auto* barra = new QToolBar(padre);
+BarraACapo* CreaPulsantiera(std::span<const PulsanteForm> pulsanti, QWidget* padre,
+                            const std::function<void(int)>& premi) {
+  auto* barra = new BarraACapo(padre);
   for (const PulsanteForm& pulsante : pulsanti) {
     QToolButton* bottone = CreaPulsante(pulsante, barra, premi);
     bottone->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    barra->addWidget(bottone);
+    barra->Aggiungi(bottone);
   }
   return barra;
 }
@@ -186,7 +186,7 @@ void EvidenzaParticella::paintEvent(QPaintEvent* /*evento*/) {
   constexpr double spessore = 5;
   QPainter pittore(this);
   pittore.setRenderHint(QPainter::Antialiasing);
-  pittore.setPen(QPen(QColor(0xF0, 0x8A, 0x24, 0xB0), spessore, Qt::SolidLine, Qt::RoundCap));
+  pittore.setPen(QPen(ColoreTema(Tono::Particella), spessore, Qt::SolidLine, Qt::RoundCap));
   for (const LineaGrafica& lato : lati_)
     pittore.drawLine(superficie_.Posto(lato.X1, lato.Y1), superficie_.Posto(lato.X2, lato.Y2));
 }

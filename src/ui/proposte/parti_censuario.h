@@ -17,10 +17,11 @@
 
 class QLabel;
 class QListView;
-class QToolBar;
 class QToolButton;
 
 namespace lirmeto::ui {
+
+class BarraACapo;
 
 class GraficaSuperficie;
 
@@ -29,8 +30,8 @@ class GraficaSuperficie;
                                         const std::function<void(int)>& premi);
 
 // The buttons in a row, pictures over their captions.
-[[nodiscard]] QToolBar* CreaPulsantiera(std::span<const PulsanteForm> pulsanti, QWidget* padre,
-                                        const std::function<void(int)>& premi);
+[[nodiscard]] BarraACapo* CreaPulsantiera(std::span<const PulsanteForm> pulsanti, QWidget* padre,
+                                          const std::function<void(int)>& premi);
 
 // Census rows under a title that tells how many they are.
 class ElencoCensuario : public QWidget {

@@ -1,6 +1,7 @@
 #include <ui/supporto/finestra_editor.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/barra_a_capo.h>
 #include <ui/comune/barra_ricerca.h>
 #include <ui/comune/casella_testo.h>
 #include <ui/comune/testo_qt.h>
@@ -15,7 +16,6 @@
 #include <QLocale>
 #include <QShortcut>
 #include <QTextBlock>
-#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -63,10 +63,8 @@ FinestraEditor::FinestraEditor(KR_EditorGen& modello, QWidget* padre)
   casella_->setFocus();
 }
 
-QToolBar* FinestraEditor::CreaBarra() {
-  auto* barra = new QToolBar(this);
-  barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  barra->setIconSize(QSize(20, 20));
+BarraACapo* FinestraEditor::CreaBarra() {
+  auto* barra = new BarraACapo(this);
   const auto aggiungi = [&](const char* icona, const QString& testo, const QKeySequence& tasti, auto&& azione) {
     QAction* voce = barra->addAction(Icona(QString::fromLatin1(icona)), testo, this, azione);
     voce->setShortcut(tasti);
@@ -75,24 +73,22 @@ QToolBar* FinestraEditor::CreaBarra() {
   };
   aggiungi("salva", QStringLiteral("Salva"), QKeySequence(Qt::CTRL | Qt::Key_S), [this] { Salva(); });
   if (!modello_.DelLibretto()) aggiungi("incolla", QStringLiteral("Incolla"), {}, [this] { casella_->paste(); });
-  barra->addSeparator();
+  barra->Separa();
   aggiungi("maiuscolo", QStringLiteral("MAIUSCOLO"), QKeySequence(Qt::CTRL | Qt::Key_U),
            [this] { casella_->SelezioneInMaiuscolo(); });
   aggiungi("minuscolo", QStringLiteral("minuscolo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_U),
            [this] { casella_->SelezioneInMinuscolo(); });
-  barra->addSeparator();
+  barra->Separa();
   AggiungiDimensioni(*barra);
-  barra->addSeparator();
+  barra->Separa();
   aggiungi("cerca", QStringLiteral("Cerca"), QKeySequence(Qt::CTRL | Qt::Key_F), [this] { ricerca_->Apri(); });
-  auto* vuoto = new QWidget(barra);
-  vuoto->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  barra->addWidget(vuoto);
+  barra->Allarga();
   aggiungi("chiudi", QStringLiteral("Chiudi"), {}, [this] { Chiudi(); });
   return barra;
 }
 
-void FinestraEditor::AggiungiDimensioni(QToolBar& barra) {
-  barra.addWidget(new QLabel(QStringLiteral("  Carattere "), &barra));
+void FinestraEditor::AggiungiDimensioni(BarraACapo& barra) {
+  barra.Aggiungi(new QLabel(QStringLiteral("  Carattere "), &barra));
   for (const int punti : Dimensioni) {
     QAction* voce = barra.addAction(QString::number(punti), this, [this, punti] { casella_->CambiaDimensione(punti); });
     voce->setToolTip(QStringLiteral("Carattere da %1 punti").arg(punti));

@@ -7,9 +7,10 @@
 #include <QDialog>
 
 class QLabel;
-class QToolBar;
 
 namespace lirmeto::ui {
+
+class BarraACapo;
 
 class BarraRicerca;
 class CasellaTesto;
@@ -26,8 +27,8 @@ protected:
   void reject() override;
 
 private:
-  [[nodiscard]] QToolBar* CreaBarra();
-  void AggiungiDimensioni(QToolBar& barra);
+  [[nodiscard]] BarraACapo* CreaBarra();
+  void AggiungiDimensioni(BarraACapo& barra);
   void CreaRicerca();
   void Salva();
   void Chiudi();

@@ -1,6 +1,7 @@
 #include <ui/supporto/finestra_stampa_generale.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/barra_a_capo.h>
 #include <ui/comune/modello_classe.h>
 #include <ui/comune/testo_qt.h>
 
@@ -17,7 +18,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QToolBar>
 #include <QVBoxLayout>
 
 #include <array>
@@ -75,10 +75,8 @@ QMenuBar* FinestraStampaGenerale::CreaMenu() {
   return barra;
 }
 
-QToolBar* FinestraStampaGenerale::CreaBarra() {
-  auto* barra = new QToolBar(this);
-  barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  barra->setIconSize(QSize(20, 20));
+BarraACapo* FinestraStampaGenerale::CreaBarra() {
+  auto* barra = new BarraACapo(this);
   const auto aggiungi = [&](const char* icona, const QString& testo, int comando, const QKeySequence& tasti) {
     QAction* voce =
         barra->addAction(Icona(QString::fromLatin1(icona)), testo, this, [this, comando] { Esegui(comando); });
@@ -89,12 +87,10 @@ QToolBar* FinestraStampaGenerale::CreaBarra() {
   aggiungi("stampa", QStringLiteral("Stampa"), Form::StampaLista, QKeySequence(Qt::CTRL | Qt::Key_P));
   aggiungi("scegli_stampante", QStringLiteral("Stampante"), Form::ScegliStampante, {});
   aggiungi("carattere", QStringLiteral("Carattere"), Form::ScegliCarattere, {});
-  barra->addSeparator();
+  barra->Separa();
   aggiungi("copia", QStringLiteral("Copia"), Form::CopiaLista, QKeySequence(Qt::CTRL | Qt::Key_C));
   aggiungi("modifica", QStringLiteral("Modifica"), Form::ModificaLista, QKeySequence(Qt::Key_F2));
-  auto* vuoto = new QWidget(barra);
-  vuoto->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  barra->addWidget(vuoto);
+  barra->Allarga();
   aggiungi("chiudi", QStringLiteral("Chiudi"), Form::ChiudiForm, {});
   return barra;
 }

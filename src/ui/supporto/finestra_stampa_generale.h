@@ -11,10 +11,11 @@ class QLabel;
 class QListView;
 class QListWidget;
 class QMenuBar;
-class QToolBar;
 class QVBoxLayout;
 
 namespace lirmeto::ui {
+
+class BarraACapo;
 
 class ModelloClasse;
 
@@ -31,7 +32,7 @@ protected:
 
 private:
   [[nodiscard]] QMenuBar* CreaMenu();
-  [[nodiscard]] QToolBar* CreaBarra();
+  [[nodiscard]] BarraACapo* CreaBarra();
   [[nodiscard]] QWidget* CreaElenco();
   [[nodiscard]] QWidget* CreaColonna();
   [[nodiscard]] QGroupBox* CreaCarta();

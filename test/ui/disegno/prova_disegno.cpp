@@ -1,5 +1,6 @@
 #include <ui/tavolo.h>
 
+#include <ui/comune/barra_a_capo.h>
 #include <ui/disegno/finestra_disegno.h>
 #include <ui/disegno/grafica_pannello.h>
 #include <ui/disegno/grafica_superficie.h>
@@ -12,7 +13,6 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QSvgRenderer>
-#include <QToolBar>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
@@ -61,7 +61,7 @@ struct Disegno : testing::Test {
     QApplication::sendEvent(superficie, &evento);
   }
   void Premi(const QString& testo) {
-    for (QAction* azione : finestra->findChild<QToolBar*>()->actions())
+    for (QAction* azione : finestra->findChild<ui::BarraACapo*>()->actions())
       if (azione->text() == testo) return azione->trigger();
     qFatal("no such button");
   }

@@ -1,5 +1,6 @@
 #include <ui/tavolo.h>
 
+#include <ui/comune/barra_a_capo.h>
 #include <ui/disegno/grafica_superficie.h>
 #include <ui/fiduciali/finestra_elco_pf.h>
 #include <ui/fiduciali/finestra_elco_pf_grafica.h>
@@ -16,7 +17,6 @@
 #include <QListView>
 #include <QPushButton>
 #include <QTableView>
-#include <QToolBar>
 
 #include <gtest/gtest.h>
 
@@ -54,7 +54,7 @@ struct Piano : testing::Test {
     superficie = &finestra->Superficie();
   }
   void Premi(const QString& testo) {
-    for (QToolBar* barra : finestra->findChildren<QToolBar*>())
+    for (ui::BarraACapo* barra : finestra->findChildren<ui::BarraACapo*>())
       for (QAction* azione : barra->actions())
         if (azione->text() == testo) return azione->trigger();
     qFatal("no such button");
@@ -183,7 +183,7 @@ TEST(FinestreElcoPf, DalloStrumentoAllaTabellaAlPianoESiChiudonoTutte) {
       EXPECT_TRUE(tavolo.banco.appunti.testo.starts_with(ui::DaQString(cella(1)) + "\t\t\t500\t"))
           << tavolo.banco.appunti.testo;
       NellaProssimaFinestra([&](QWidget& piano) {
-        for (QAction* azione : piano.findChild<QToolBar*>()->actions())
+        for (QAction* azione : piano.findChild<ui::BarraACapo*>()->actions())
           if (azione->data() == 7) return azione->trigger();
       });
       const QPoint riga = tabella->visualRect(tabella->model()->index(0, 0)).center();

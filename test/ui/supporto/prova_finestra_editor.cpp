@@ -1,10 +1,10 @@
 #include <ui/tavolo.h>
 
+#include <ui/comune/barra_a_capo.h>
 #include <ui/comune/casella_testo.h>
 #include <ui/supporto/finestra_editor.h>
 
 #include <QLabel>
-#include <QToolBar>
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ namespace lirmeto::prova {
 namespace {
 
 void Premi(QWidget& finestra, const QString& testo) {
-  for (QAction* azione : finestra.findChild<QToolBar*>()->actions())
+  for (QAction* azione : finestra.findChild<ui::BarraACapo*>()->actions())
     if (azione->text() == testo) return azione->trigger();
   qFatal("no such button");
 }
