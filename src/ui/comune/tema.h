@@ -55,8 +55,6 @@ enum class Tono : std::uint8_t {
   CellaGialla,
   CellaRossa,
   TestoErrore,
-  TestoDubbio,
-  TestoNota,
   TestoGiusto,
   SegnoErrore, // signs beside a row
   SegnoDubbio,
