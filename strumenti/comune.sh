@@ -52,7 +52,7 @@ compila() {
   local preset=$1 registro="$RADICE/build/$1.log" inizio=$SECONDS
   shift
   mkdir -p "$RADICE/build"
-  if [ -f "$RADICE/build/$preset/build.ninja" ]; then
+  if [ -f "$RADICE/build/$preset/build.ninja" ] || [ -f "$RADICE/build/windows/$preset/build.ninja" ]; then
     dice "Compilo ciò che è cambiato ($preset)"
   else
     dice "Compilo ($preset): la prima volta può durare alcuni minuti"

@@ -46,7 +46,7 @@
 #include <generazione/polilinee_dxf.h>
 #include <piattaforma/disco_dischi.h>
 #include <piattaforma/orologi.h>
-#include <piattaforma/processi_linux.h>
+#include <piattaforma/processi_ospite.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -427,14 +427,14 @@ int FotografaTipologie(const std::filesystem::path& dischi, const QString& uscit
                        const QString& dxf) {
   Sessione sessione;
   DiscoDischi disco(dischi);
-  ProcessiLinux processi(disco);
+  const auto processi = ProcessiDellaMacchina(disco);
   DialoghiMuti dialoghi;
   NessunaFinestra finestre;
   ImpostazioniVuote impostazioni;
   AppuntiPropri appunti;
   OrologioDiSistema orologio;
-  Ambiente ambiente{sessione, disco, dialoghi, finestre, processi, impostazioni, appunti, orologio};
-  processi.CreaCartelleDiSistema();
+  Ambiente ambiente{sessione, disco, dialoghi, finestre, *processi, impostazioni, appunti, orologio};
+  processi->CreaCartelleDiSistema();
   KR_LibrettoOriginale modello(ambiente);
   if (!modello.Avvia(ui::DaQString(file))) return 1;
   return Fotografo(modello, ambiente, QDir(uscita)).Tipologie(ui::DaQString(dxf)) ? 0 : 1;
@@ -443,9 +443,9 @@ int FotografaTipologie(const std::filesystem::path& dischi, const QString& uscit
 int Fotografa(const std::filesystem::path& dischi, const QString& uscita, const QString& file, const QString& genere) {
   Sessione sessione;
   DiscoDischi discoVero(dischi);
-  ProcessiLinux processiVeri(discoVero);
+  const auto processiVeri = ProcessiDellaMacchina(discoVero);
   DiscoInLettura disco(discoVero);
-  ProcessiFermi processi(processiVeri);
+  ProcessiFermi processi(*processiVeri);
   DialoghiMuti dialoghi;
   NessunaFinestra finestre;
   ImpostazioniVuote impostazioni;

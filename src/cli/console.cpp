@@ -4,7 +4,7 @@
 #include <base/numeri.h>
 #include <base/testo.h>
 
-#include <unistd.h>
+#include <piattaforma/canali.h>
 
 namespace lirmeto {
 
@@ -24,7 +24,7 @@ std::string RigaMessaggio(std::string_view titolo, std::string_view testo) {
 }
 
 DialoghiConsole::DialoghiConsole(std::FILE* canale, std::vector<Risposta> risposte)
-    : canale_(canale), terminale_(::isatty(::fileno(canale)) != 0), risposte_(std::move(risposte)) {}
+    : canale_(canale), terminale_(Terminale(canale)), risposte_(std::move(risposte)) {}
 
 void DialoghiConsole::Messaggio(std::string_view testo, std::string_view titolo, Gravita /*gravita*/) {
   CancellaAvanzamento();

@@ -13,7 +13,7 @@
 #include <piattaforma/disco_dischi.h>
 #include <piattaforma/file_ospite.h>
 #include <piattaforma/orologi.h>
-#include <piattaforma/processi_linux.h>
+#include <piattaforma/processi_ospite.h>
 #include <piattaforma/trova_dischi.h>
 
 #include <algorithm>
@@ -37,11 +37,10 @@ bool Stampa(std::FILE* canale, std::string_view byte) {
 // Why a file cannot be opened, Windows-1252; empty when it can.
 std::string MotivoIllegibile(const fs::path& file) {
   const std::string nome = DaUtf8(file.string());
-  std::error_code guasto;
-  const fs::file_status stato = fs::status(file, guasto);
-  if (!fs::exists(stato)) return "Il file " + nome + " non esiste.";
-  if (fs::is_directory(stato)) return nome + std::string(" è una cartella, non un file."_w);
-  if (!fs::is_regular_file(stato)) return nome + std::string(" non è un file che si possa leggere."_w);
+  const GenereFile genere = GenereOspite(file);
+  if (genere == GenereFile::Niente) return "Il file " + nome + " non esiste.";
+  if (genere == GenereFile::Cartella) return nome + std::string(" è una cartella, non un file."_w);
+  if (genere != GenereFile::Regolare) return nome + std::string(" non è un file che si possa leggere."_w);
   try {
     static_cast<void>(LeggiFileOspite(file, 1));
     static_cast<void>(PercorsoDaOspite(file));
@@ -87,7 +86,8 @@ std::vector<std::string> ArgomentiPerIlComando(const Opzioni& opzioni) {
 class Giro {
 public:
   Giro(const Opzioni& opzioni, std::FILE* errori)
-      : disco_(TrovaDischi(opzioni.dischi)), processi_(disco_), dialoghi_(errori, opzioni.risposte) {
+      : disco_(TrovaDischi(opzioni.dischi)), processi_(ProcessiDellaMacchina(disco_)),
+        dialoghi_(errori, opzioni.risposte) {
     if (opzioni.oggi)
       orologio_ = std::make_unique<OrologioFisso>(*opzioni.oggi);
     else
@@ -116,7 +116,7 @@ public:
 
 private:
   Ambiente DammiAmbiente() {
-    return {sessione_, disco_, dialoghi_, finestre_, processi_, impostazioni_, appunti_, *orologio_};
+    return {sessione_, disco_, dialoghi_, finestre_, *processi_, impostazioni_, appunti_, *orologio_};
   }
 
   // A routine that traps its own errors has told of them already. A cancelled dialog is no error.
@@ -126,7 +126,7 @@ private:
 
   Sessione sessione_;
   DiscoDischi disco_;
-  ProcessiLinux processi_;
+  std::unique_ptr<ProcessiOspite> processi_;
   DialoghiConsole dialoghi_;
   FinestreAssenti finestre_;
   ImpostazioniDiUnGiro impostazioni_;

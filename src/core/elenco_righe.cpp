@@ -95,8 +95,8 @@ std::size_t ElencoRighe::TogliSe(std::size_t primo, const std::function<bool(std
       selezionate_[nuovo++] = selezionate_[i];
   }
   selezionate_.resize(nuovo);
-  Indice(indice_ - (std::lower_bound(tolte.begin(), tolte.end(), static_cast<std::size_t>(std::max(indice_, 0L))) -
-                    tolte.begin()));
+  const auto sopra = std::lower_bound(tolte.begin(), tolte.end(), static_cast<std::size_t>(std::max(indice_, 0L)));
+  Indice(indice_ - static_cast<long>(sopra - tolte.begin()));
   ++versione_;
   ++versioneSelezione_;
   return tolte.size();

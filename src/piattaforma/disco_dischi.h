@@ -11,10 +11,14 @@
 namespace lirmeto {
 
 // A Disco over a folder that has one subfolder per drive letter: "c", "C", or "c:" as a Wine prefix names them. "Z:" is
-// always the host's root. Host names are UTF-8; a name that Windows-1252 cannot say, or that holds "\" or ":", does not
-// exist here. Nothing is remembered between two calls: other programs work on the same folders.
+// always the host's own, on Linux its root. A name that Windows-1252 cannot say, or that holds "\" or ":", does not exist
+// here. Nothing is remembered between two calls: other programs work on the same folders.
 //   legal:   "C:\pregeo\x.dat", "c:/pregeo//x.dat", "Z:\home\ada\x.dat", "C:" (the drive's root)
 //   illegal: "pregeo\x.dat", "\pregeo", "C:x.dat", "C:\a\..\b", "C:\a:b" (error 52)
+//
+// On Windows no folder at all means the drives as they are. There a share is legal too, "\\server\share\x.dat", and beside a
+// folder of drives the host's own ones are "\\?\D:\x.dat"; illegal are the names that Windows keeps for devices ("NUL",
+// "com1.txt") and the characters < > " | ? *. Blanks and points that end a name count for nothing.
 class DiscoDischi final : public Disco {
 public:
   explicit DiscoDischi(std::filesystem::path dischi) : dischi_(std::move(dischi)) {}
@@ -40,8 +44,8 @@ private:
   std::filesystem::path dischi_;
 };
 
-// A path of the host, made absolute, as "Z:\...". Throws Errore 52 when a component cannot be said: not in
-// Windows-1252, or with "\" or ":" inside.
+// A path of the host, made absolute, as the logic says it: "Z:\..." on Linux, as it is on Windows, or "\\?\D:\..." beside a
+// folder of drives. Throws Errore 52 when a component cannot be said: not in Windows-1252, or with "\" or ":" inside.
 [[nodiscard]] std::string PercorsoDaOspite(const std::filesystem::path& ospite);
 
 } // namespace lirmeto

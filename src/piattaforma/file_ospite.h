@@ -1,13 +1,23 @@
 #pragma once
-// Reading and writing whole files of the host, with the classic error numbers.
+// Files of the host, with the classic error numbers. Links are followed where nothing else is said.
+
+#include <base/data.h>
 
 #include <cstddef>
 #include <filesystem>
 #include <limits>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lirmeto {
+
+// What stands at a path; a pipe or a device is Altro.
+enum class GenereFile { Niente, Regolare, Cartella, Altro };
+[[nodiscard]] GenereFile GenereOspite(const std::filesystem::path& file);
+
+// Whether something stands there, be it a link that leads nowhere.
+[[nodiscard]] bool EsisteVoce(const std::filesystem::path& voce);
 
 inline constexpr std::size_t FileIntero = std::numeric_limits<std::size_t>::max();
 
@@ -20,5 +30,17 @@ inline constexpr std::size_t FileIntero = std::numeric_limits<std::size_t>::max(
 // copy of the old content kept until the new one is known good. Errors: 61 no room; 70 not allowed; 75 a folder, or no
 // write permission for anybody; 76 its folder is not there.
 void ScriviFileOspite(const std::filesystem::path& file, std::string_view contenuto);
+
+// When it was last written, local time. Error 53 not there.
+[[nodiscard]] Istante ModificatoOspite(const std::filesystem::path& file);
+
+// A new folder in one that is there. Errors: 70, 76.
+void CreaCartellaOspite(const std::filesystem::path& cartella);
+
+// A file or a link, not what it leads to. Errors: 53, 70, 75 a folder or read-only.
+void EliminaOspite(const std::filesystem::path& file);
+
+// Names of the regular files of a folder, UTF-8; none when it is not there. Error 70: it may not be read.
+[[nodiscard]] std::vector<std::string> FileDellaCartella(const std::filesystem::path& cartella);
 
 } // namespace lirmeto

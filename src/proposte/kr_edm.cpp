@@ -137,7 +137,7 @@ void KR_EDM::ClicList1(std::size_t voce) {
   if (voce >= List1.size()) return;
   const std::string nome = NomeDi(List1[voce]);
   const auto posto = std::ranges::find_if(File1, [&](const std::string& file) { return Maiuscolo(file) == nome; });
-  if (posto != File1.end()) ClicFile1(posto - File1.begin());
+  if (posto != File1.end()) ClicFile1(static_cast<long>(posto - File1.begin()));
 }
 
 void KR_EDM::ClicFile1(long voce) {

@@ -13,14 +13,13 @@
 #include <applicazione/avvio.h>
 #include <core/cartelle.h>
 #include <core/mostra_errore.h>
+#include <piattaforma/canali.h>
 #include <piattaforma/orologi.h>
-#include <piattaforma/processi_linux.h>
+#include <piattaforma/processi_ospite.h>
 #include <piattaforma/trova_dischi.h>
 
 #include <QApplication>
 #include <QCommandLineParser>
-
-#include <csignal>
 
 namespace {
 
@@ -72,16 +71,16 @@ int Lavora(const Opzioni& opzioni) {
   QApplication::setQuitOnLastWindowClosed(false);
   Sessione sessione;
   DiscoDischi disco(TrovaDischi(opzioni.dischi));
-  ProcessiLinux processi(disco);
+  const auto processi = ProcessiDellaMacchina(disco);
   ui::DialoghiQt dialoghi(ui::PercorsiDi(disco));
   ui::FinestreQt finestre;
   ui::ImpostazioniQt impostazioni;
   ui::AppuntiQt appunti;
   OrologioDiSistema orologio;
-  Ambiente ambiente{sessione, disco, dialoghi, finestre, processi, impostazioni, appunti, orologio};
+  Ambiente ambiente{sessione, disco, dialoghi, finestre, *processi, impostazioni, appunti, orologio};
   finestre.Usa(ambiente);
 
-  (void)Intrappola(ambiente, [&] { processi.CreaCartelleDiSistema(); });
+  (void)Intrappola(ambiente, [&] { processi->CreaCartelleDiSistema(); });
   if (opzioni.disegno) return MostraDisegno(ambiente, *opzioni.disegno);
   KR_LibrettoOriginale modello(ambiente);
   const auto percorso = ui::PercorsoDetto(ambiente);
@@ -96,7 +95,7 @@ int Lavora(const Opzioni& opzioni) {
 } // namespace
 
 int main(int argc, char** argv) {
-  std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an error to tell and not a death
+  PreparaCanali();
   QApplication applicazione(argc, argv);
   QApplication::setApplicationName(QStringLiteral("lirmeto"));
   QApplication::setApplicationVersion(QString::fromUtf8(NumeroMaggiore) + u'.' + QString::fromUtf8(NumeroRevisione));

@@ -23,7 +23,8 @@ class ProvaCli : public testing::Test {
 protected:
   ProvaCli();
 
-  // With the test's drives and the date 21-11-2024; `canaleUscita` stands in for standard output, none closes it.
+  // With the test's drives and the date 21-11-2024. Where a system has them, `canaleUscita` stands in for standard output;
+  // none closes it.
   [[nodiscard]] Esito Lancia(std::vector<std::string> parole) const;
   [[nodiscard]] Esito Lancia(std::vector<std::string> parole, std::optional<int> canaleUscita) const;
 

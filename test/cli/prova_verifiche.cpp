@@ -47,7 +47,8 @@ TEST_F(ProvaCli, VerificaPiuFileConIlRiepilogo) {
   const std::string a = Metti("a.dat", Buono);
   const auto esito = Lancia({"verifica", a, Metti("b.dat", ConErrore()), Metti("x.emp", Estratto)});
   EXPECT_EQ(esito.codice, 4);
-  EXPECT_EQ(esito.uscita.find("file\tZ:\\"), 0U);
+  EXPECT_EQ(esito.uscita.find("file\t"), 0U);
+  EXPECT_NE(esito.uscita.find(":\\"), std::string::npos) << "with its drive";
   const std::string riepilogo = esito.uscita.substr(esito.uscita.find("riepilogo"));
   EXPECT_NE(riepilogo.find("a.dat\t0\t0\t1\n"), std::string::npos) << riepilogo;
   EXPECT_NE(riepilogo.find("b.dat\t1\t0\t2\n"), std::string::npos) << riepilogo;

@@ -1,10 +1,10 @@
 #pragma once
 // A folder of one test, gone with it.
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -13,9 +13,10 @@ namespace lirmeto::prova {
 class CartellaProvvisoria {
 public:
   CartellaProvvisoria() {
-    std::string modello = (std::filesystem::temp_directory_path() / "lirmeto.XXXXXX").string();
-    if (::mkdtemp(modello.data()) == nullptr) throw std::filesystem::filesystem_error("mkdtemp", modello, {});
-    radice_ = std::filesystem::canonical(modello);
+    std::random_device caso;
+    do radice_ = std::filesystem::temp_directory_path() / ("lirmeto." + std::to_string(caso()));
+    while (!std::filesystem::create_directory(radice_));
+    radice_ = std::filesystem::canonical(radice_);
   }
   CartellaProvvisoria(const CartellaProvvisoria&) = delete;
   CartellaProvvisoria& operator=(const CartellaProvvisoria&) = delete;

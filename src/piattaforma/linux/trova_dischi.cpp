@@ -1,5 +1,6 @@
 #include <piattaforma/cartelle_utente.h>
 #include <piattaforma/disco_dischi.h>
+#include <piattaforma/linux/cartelle_xdg.h>
 #include <piattaforma/trova_dischi.h>
 
 #include <system_error>
@@ -16,21 +17,16 @@ std::optional<fs::path> DischiDiWine() {
   return dispositivi;
 }
 
-// What cannot be made here is missed later, by name, by whoever looks for it.
-fs::path DischiUtente() {
-  fs::path dischi = CartellaDati() / "lirmeto" / "dischi";
-  std::error_code ignorato;
-  fs::create_directories(dischi / "c", ignorato);
-  return dischi;
-}
-
 } // namespace
 
 fs::path TrovaDischi(const std::optional<fs::path>& opzione) {
   if (opzione) return *opzione;
   if (const auto ambiente = VariabileAmbiente("LIRMETO_DISCHI")) return *ambiente;
   if (const auto wine = DischiDiWine()) return *wine;
-  return DischiUtente();
+  fs::path dischi = CartellaDati() / "lirmeto" / "dischi";
+  std::error_code ignorato; // what cannot be made here is missed later, by name, by whoever looks for it
+  fs::create_directories(dischi / "c", ignorato);
+  return dischi;
 }
 
 } // namespace lirmeto

@@ -1,6 +1,5 @@
 #include <piattaforma/cartella_provvisoria.h>
-#include <piattaforma/orologi.h>
-#include <piattaforma/processi_linux.h>
+#include <piattaforma/linux/processi_linux.h>
 
 #include <base/errore.h>
 #include <base/testo.h>
@@ -8,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <ctime>
 #include <spawn.h>
 #include <string>
 #include <sys/stat.h>
@@ -187,28 +185,6 @@ TEST_F(ProvaProcessi, CreaSoloLeCartelleCheMancano) {
   EXPECT_EQ(windows, "C:\\WINDOWS");
   EXPECT_EQ(programmi, "C:\\Program Files (x86)");
   EXPECT_EQ(documenti.substr(0, 9), "C:\\users\\");
-}
-
-TEST(ProvaComponenteSicuro, NonEsceDallaCartella) {
-  EXPECT_EQ(ComponenteSicuro("ada.rossi"), "ada.rossi");
-  EXPECT_EQ(ComponenteSicuro("DOM\\ada/x:y"), "DOM_ada_x_y");
-  EXPECT_EQ(ComponenteSicuro(".."), "utente");
-  EXPECT_EQ(ComponenteSicuro(""), "utente");
-  EXPECT_EQ(ComponenteSicuro("nicol\xC3\xB2\n"), std::string("nicolò_"_w));
-}
-
-TEST(ProvaOrologi, OggiEIlGiornoLocale) {
-  const OrologioDiSistema orologio;
-  const auto giorno = [] {
-    const std::time_t ora = std::time(nullptr);
-    const std::tm* tempo = std::localtime(&ora);
-    return Data{tempo->tm_year + 1900, tempo->tm_mon + 1, tempo->tm_mday};
-  };
-  const Data prima = giorno();
-  const Data letta = orologio.Oggi();
-  EXPECT_LE(prima, letta);
-  EXPECT_LE(letta, giorno());
-  EXPECT_EQ(OrologioFisso(Data{2022, 2, 28}).Oggi(), (Data{2022, 2, 28}));
 }
 
 } // namespace lirmeto::prova

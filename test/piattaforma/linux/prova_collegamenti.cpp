@@ -1,7 +1,6 @@
 #include <piattaforma/cartella_provvisoria.h>
-#include <piattaforma/collegamenti_desktop.h>
-#include <piattaforma/processi_linux.h>
-#include <piattaforma/versione_eseguibile.h>
+#include <piattaforma/linux/collegamenti_desktop.h>
+#include <piattaforma/linux/processi_linux.h>
 
 #include <base/errore.h>
 
@@ -87,19 +86,6 @@ TEST(ProvaCartellaDesktop, ComeLaDiceIlFile) {
       {"XDG_DESKTOP_DIR=\"relativa\"\nXDG_DESKTOP_DIR=\"", "/c/Desktop"},
   };
   for (const auto& [testo, cartella] : casi) EXPECT_EQ(CartellaDesktop(testo, "/c"), cartella) << testo;
-}
-
-TEST(ProvaVersioneEseguibile, DallaRisorsa) {
-  std::string chiave;
-  for (const char lettera : std::string_view("VS_VERSION_INFO")) chiave += {lettera, '\0'};
-  const std::string numeri("\xBD\x04\xEF\xFE\0\0\1\0\6\0\x0A\0\3\0\0\x01", 16);
-  const std::string vuoto(4, '\0');
-  EXPECT_EQ(VersioneDaEseguibile("MZ" + chiave + vuoto + numeri + "coda"), "10.6.256.3");
-  EXPECT_EQ(VersioneDaEseguibile(chiave + "xxxxxxx" + numeri), "") << "too far from its key";
-  EXPECT_EQ(VersioneDaEseguibile(chiave + chiave + vuoto + numeri), "10.6.256.3");
-  for (std::size_t lungo = 0; lungo < numeri.size(); ++lungo)
-    EXPECT_EQ(VersioneDaEseguibile(chiave + vuoto + numeri.substr(0, lungo)), "");
-  EXPECT_EQ(VersioneDaEseguibile("MZ" + numeri), "");
 }
 
 } // namespace lirmeto::prova

@@ -1,8 +1,6 @@
-#include <piattaforma/collegamenti_desktop.h>
-#include <piattaforma/errori_ospite.h>
-#include <piattaforma/estrazione.h>
-#include <piattaforma/processi_linux.h>
-#include <piattaforma/versione_eseguibile.h>
+#include <piattaforma/linux/collegamenti_desktop.h>
+#include <piattaforma/linux/errori_ospite.h>
+#include <piattaforma/linux/processi_linux.h>
 
 #include <base/errore.h>
 #include <base/testo.h>
@@ -32,7 +30,7 @@ namespace {
 
 std::string NomeUtente() {
   const passwd* utente = ::getpwuid(::geteuid());
-  return ComponenteSicuro(utente != nullptr ? utente->pw_name : "");
+  return utente != nullptr ? utente->pw_name : "";
 }
 
 // Attributes and actions of a start, released whatever happens.
@@ -103,18 +101,6 @@ std::vector<std::string> AmbienteConDischi(const fs::path& dischi) {
   std::error_code ignorato;
   ambiente.push_back(variabile + fs::absolute(dischi, ignorato).string());
   return ambiente;
-}
-
-constexpr std::string_view EstensioneProgramma = ".exe";
-
-// The executable, "NAME" standing in for a "NAME.exe" that is not there.
-fs::path TrovaProgramma(const DiscoDischi& disco, std::string_view programma) {
-  if (!disco.Esiste(programma) && FinisceConSenzaCaso(programma, EstensioneProgramma))
-    programma.remove_suffix(EstensioneProgramma.size());
-  fs::path ospite = disco.PercorsoOspite(programma);
-  std::error_code guasto;
-  if (!fs::is_regular_file(ospite, guasto)) throw Errore(errore::FileNonTrovato);
-  return fs::absolute(ospite);
 }
 
 void ControllaAvvio(int esito) {
@@ -215,34 +201,23 @@ long NumeroProcesso(const fs::path& cartella) {
 
 } // namespace
 
-std::string ComponenteSicuro(std::string_view utf8) {
-  std::string nome = DaUtf8(utf8);
-  for (char& lettera : nome)
-    if (static_cast<unsigned char>(lettera) < ' ' || std::strchr("\\/:*?\"<>|", lettera) != nullptr) lettera = '_';
-  return nome.find_first_not_of('.') == nome.npos ? "utente" : nome;
+std::unique_ptr<ProcessiOspite> ProcessiDellaMacchina(DiscoDischi& disco) {
+  return std::make_unique<ProcessiLinux>(disco);
 }
 
 CartelleDiSistema ProcessiLinux::Cartelle() {
-  const std::string casa = "C:\\users\\" + NomeUtente();
-  return {casa + "\\Documents", "C:\\WINDOWS", casa + "\\Temp", "C:\\Program Files (x86)"};
+  return CartelleSottoC(NomeUtente());
 }
 
 void ProcessiLinux::CreaCartelleDiSistema() {
-  const CartelleDiSistema cartelle = Cartelle();
-  const std::string casa = "C:\\users\\" + NomeUtente();
-  for (const std::string& cartella :
-       {std::string("C:\\users"), casa, cartelle.documenti, cartelle.temporanea, cartelle.windows, cartelle.programmi})
-    if (!disco_.EsisteCartella(cartella)) disco_.CreaCartella(cartella);
+  CreaCartelleMancanti(disco_, Cartelle());
 }
 
 int ProcessiLinux::AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti,
                                  const std::function<bool()>& attende) {
   const fs::path ospite = TrovaProgramma(disco_, programma);
   std::vector<std::string> parole{ospite.string()};
-  for (const std::string& argomento : argomenti) {
-    if (argomento.find('\0') != argomento.npos) throw Errore(errore::ArgomentoNonValido);
-    parole.push_back(AUtf8(argomento));
-  }
+  for (std::string& parola : ParoleDelProgramma(argomenti)) parole.push_back(std::move(parola));
   Avvio avvio;
   avvio.Cartella(ospite.parent_path());
   ControllaAvvio(avvio.Inizia(std::move(parole), AmbienteConDischi(disco_.Dischi()), false));
@@ -313,10 +288,6 @@ int ProcessiLinux::Termina(long processo) {
   return ::kill(static_cast<pid_t>(processo), SIGTERM) == 0 ? 0 : errno;
 }
 
-std::unique_ptr<ArchivioAperto> ProcessiLinux::ApriArchivio(std::string byte) {
-  return ApriArchivioZip(std::move(byte));
-}
-
 void ProcessiLinux::MostraDesktop() {
   Avvio avvio;
   avvio.Muto();
@@ -328,10 +299,6 @@ void ProcessiLinux::CreaCollegamento(const Collegamento& collegamento) {
   std::error_code ignorato;
   ScriviCollegamento(
       {collegamento.posto, AUtf8(collegamento.nome), programma, fs::absolute(disco_.Dischi(), ignorato)});
-}
-
-std::string ProcessiLinux::VersioneFile(std::string_view percorso) {
-  return VersioneDaEseguibile(disco_.Leggi(percorso));
 }
 
 } // namespace lirmeto

@@ -1,4 +1,4 @@
-#include <piattaforma/errori_ospite.h>
+#include <piattaforma/linux/errori_ospite.h>
 
 #include <cerrno>
 

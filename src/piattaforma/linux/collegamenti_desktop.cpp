@@ -1,9 +1,10 @@
-#include <piattaforma/collegamenti_desktop.h>
+#include <piattaforma/linux/collegamenti_desktop.h>
 
 #include <piattaforma/cartelle_utente.h>
-#include <piattaforma/errori_ospite.h>
 #include <piattaforma/file_ospite.h>
-#include <piattaforma/processi_linux.h>
+#include <piattaforma/linux/cartelle_xdg.h>
+#include <piattaforma/linux/errori_ospite.h>
+#include <piattaforma/processi_ospite.h>
 
 #include <base/testo.h>
 

@@ -1,4 +1,5 @@
 #include <piattaforma/cartelle_utente.h>
+#include <piattaforma/linux/cartelle_xdg.h>
 
 #include <cstdlib>
 #include <pwd.h>

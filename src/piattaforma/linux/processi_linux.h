@@ -1,27 +1,23 @@
 #pragma once
 // Processes and special folders on a Linux host.
 
-#include <piattaforma/disco_dischi.h>
+#include <piattaforma/processi_ospite.h>
 
-#include <base/macchina.h>
-
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace lirmeto {
 
-class ProcessiLinux final : public Processi {
+class ProcessiLinux final : public ProcessiOspite {
 public:
-  explicit ProcessiLinux(DiscoDischi& disco) : disco_(disco) {}
+  explicit ProcessiLinux(DiscoDischi& disco) : ProcessiOspite(disco) {}
 
   // Folders of the user under C:, whether they are there or not: C:\users\NAME\Documents, C:\users\NAME\Temp,
   // C:\WINDOWS, C:\Program Files (x86).
   [[nodiscard]] CartelleDiSistema Cartelle() override;
 
-  // Creates those of them that are missing. Errors as Disco::CreaCartella.
-  void CreaCartelleDiSistema();
+  void CreaCartelleDiSistema() override;
 
   // The program finds the same drives through LIRMETO_DISCHI.
   int AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti,
@@ -38,8 +34,6 @@ public:
   [[nodiscard]] long QuestoProcesso() const override;
   [[nodiscard]] int Termina(long processo) override;
 
-  [[nodiscard]] std::unique_ptr<ArchivioAperto> ApriArchivio(std::string byte) override;
-
   // Through the window manager's own control program; nothing where that is not installed.
   void MostraDesktop() override;
 
@@ -47,17 +41,11 @@ public:
   // finds the same drives through LIRMETO_DISCHI.
   void CreaCollegamento(const Collegamento& collegamento) override;
 
-  [[nodiscard]] std::string VersioneFile(std::string_view percorso) override;
-
 private:
   void RaccogliFiniti();
   void ApriDalDesktop(const std::string& cosa, const std::string& nome);
 
-  DiscoDischi& disco_;
   std::vector<int> lasciati_; // programs started and not waited for: their ends are collected at the next start
 };
-
-// A text made fit to be one component of a path: what cannot be becomes "_"; empty or dots only becomes "utente".
-[[nodiscard]] std::string ComponenteSicuro(std::string_view utf8);
 
 } // namespace lirmeto

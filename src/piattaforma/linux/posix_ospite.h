@@ -1,7 +1,7 @@
 #pragma once
 // What reading and writing files of the host share.
 
-#include <piattaforma/errori_ospite.h>
+#include <piattaforma/linux/errori_ospite.h>
 
 #include <cerrno>
 #include <filesystem>

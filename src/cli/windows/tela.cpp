@@ -1,0 +1,117 @@
+#include <cli/tela.h>
+
+#include <base/errore.h>
+#include <piattaforma/windows/win32.h>
+
+#include <numbers>
+
+#include <objidl.h>
+
+#include <gdiplus.h>
+
+namespace lirmeto {
+
+namespace {
+
+constexpr CLSID CodificaPng = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
+
+// The painting library, for as long as something of it lives.
+class Libreria {
+public:
+  Libreria() {
+    const Gdiplus::GdiplusStartupInput richiesta;
+    Gdiplus::GdiplusStartup(&gettone_, &richiesta, nullptr);
+  }
+  Libreria(const Libreria&) = delete;
+  Libreria& operator=(const Libreria&) = delete;
+  ~Libreria() { Gdiplus::GdiplusShutdown(gettone_); }
+
+private:
+  ULONG_PTR gettone_ = 0;
+};
+
+Gdiplus::Color Colore(const TintaClassica& tinta) {
+  return {static_cast<BYTE>(tinta.rosso), static_cast<BYTE>(tinta.verde), static_cast<BYTE>(tinta.blu)};
+}
+
+Gdiplus::REAL Reale(double valore) {
+  return static_cast<Gdiplus::REAL>(valore);
+}
+
+// The library counts dashes in widths of the pen.
+void Prepara(Gdiplus::Pen& disegno, const Penna& penna) {
+  const auto estremo = penna.Continua() ? Gdiplus::LineCapSquare : Gdiplus::LineCapFlat;
+  disegno.SetLineCap(estremo, estremo, Gdiplus::DashCapFlat);
+  if (penna.Continua()) return;
+  const Gdiplus::REAL tratti[] = {Reale(penna.tratti[0] / penna.larga), Reale(penna.tratti[1] / penna.larga)};
+  disegno.SetDashPattern(tratti, 2);
+  disegno.SetDashOffset(Reale(penna.saltati / penna.larga));
+}
+
+std::string Contenuto(IStream* flusso) {
+  HGLOBAL memoria = nullptr;
+  STATSTG dati{};
+  if (FAILED(::GetHGlobalFromStream(flusso, &memoria)) || FAILED(flusso->Stat(&dati, STATFLAG_NONAME)))
+    throw Errore(errore::MemoriaEsaurita);
+  const auto* byte = static_cast<const char*>(::GlobalLock(memoria));
+  std::string contenuto(byte, static_cast<std::size_t>(dati.cbSize.QuadPart));
+  ::GlobalUnlock(memoria);
+  return contenuto;
+}
+
+} // namespace
+
+struct Tela::Dentro {
+  Dentro(int larga, int alta) : figura(larga, alta, PixelFormat24bppRGB), disegno(&figura) {}
+
+  Libreria libreria; // first: the others live in it
+  Gdiplus::Bitmap figura;
+  Gdiplus::Graphics disegno;
+};
+
+Tela::Tela(int larga, int alta, const TintaClassica& fondo) : dentro_(std::make_unique<Dentro>(larga, alta)) {
+  if (dentro_->figura.GetLastStatus() != Gdiplus::Ok) throw Errore(errore::MemoriaEsaurita);
+  dentro_->disegno.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+  dentro_->disegno.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
+  dentro_->disegno.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
+  dentro_->disegno.Clear(Colore(fondo));
+}
+
+Tela::~Tela() = default;
+
+void Tela::Linea(const Segmento& segmento, const Penna& penna) {
+  Gdiplus::Pen disegno(Colore(penna.tinta), Reale(penna.larga));
+  Prepara(disegno, penna);
+  dentro_->disegno.DrawLine(&disegno, Reale(segmento.x1), Reale(segmento.y1), Reale(segmento.x2), Reale(segmento.y2));
+}
+
+void Tela::Cerchio(double x, double y, double raggio, const Penna& penna) {
+  Gdiplus::Pen disegno(Colore(penna.tinta), Reale(penna.larga));
+  Prepara(disegno, penna);
+  dentro_->disegno.DrawEllipse(&disegno, Reale(x - raggio), Reale(y - raggio), Reale(2 * raggio), Reale(2 * raggio));
+}
+
+void Tela::Testo(const std::string& utf8, const PostoTesto& posto, const CarattereTela& carattere) {
+  constexpr double gradiPerMezzoGiro = 180;
+  const std::wstring testo = Largo(utf8);
+  const Gdiplus::FontFamily detta(Largo(carattere.famiglia).c_str());
+  const Gdiplus::FontFamily* famiglia = detta.IsAvailable() ? &detta : Gdiplus::FontFamily::GenericSansSerif();
+  const Gdiplus::Font font(famiglia, Reale(carattere.pixel), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
+  const Gdiplus::SolidBrush pennello(Colore(carattere.tinta));
+  dentro_->disegno.TranslateTransform(Reale(posto.x), Reale(posto.y));
+  dentro_->disegno.RotateTransform(Reale(posto.giro * gradiPerMezzoGiro / std::numbers::pi));
+  dentro_->disegno.DrawString(testo.c_str(), static_cast<INT>(testo.size()), &font, Gdiplus::PointF(0, 0),
+                              Gdiplus::StringFormat::GenericTypographic(), &pennello);
+  dentro_->disegno.ResetTransform();
+}
+
+std::string Tela::Png() {
+  IStream* flusso = nullptr;
+  if (FAILED(::CreateStreamOnHGlobal(nullptr, TRUE, &flusso))) throw Errore(errore::MemoriaEsaurita);
+  const auto rilascia = [](IStream* aperto) { aperto->Release(); };
+  const std::unique_ptr<IStream, decltype(rilascia)> chiude(flusso, rilascia);
+  if (dentro_->figura.Save(flusso, &CodificaPng, nullptr) != Gdiplus::Ok) throw Errore(errore::MemoriaEsaurita);
+  return Contenuto(flusso);
+}
+
+} // namespace lirmeto

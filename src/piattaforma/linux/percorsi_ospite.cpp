@@ -1,0 +1,75 @@
+#include <piattaforma/disco_dischi.h>
+#include <piattaforma/file_ospite.h>
+#include <piattaforma/linux/errori_ospite.h>
+#include <piattaforma/percorsi_ospite.h>
+
+#include <base/testo.h>
+
+#include <algorithm>
+#include <system_error>
+
+namespace lirmeto {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Whether a host name is this name in some case. Nearly all names are ASCII and need no conversion.
+bool StessoNome(const std::string& utf8, std::string_view nome) {
+  const bool ascii = std::all_of(utf8.begin(), utf8.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  if (ascii) return UgualiSenzaCaso(utf8, nome);
+  const auto candidata = NomeDaOspite(utf8);
+  return candidata && UgualiSenzaCaso(*candidata, nome);
+}
+
+// The entry of a folder with this name: its exact spelling, else the first that differs in case alone, else the name as
+// given.
+fs::path Voce(const fs::path& cartella, std::string_view nome) {
+  fs::path esatta = cartella / AUtf8(nome);
+  if (EsisteVoce(esatta)) return esatta;
+  std::optional<std::string> trovata;
+  std::error_code guasto;
+  for (fs::directory_iterator i(cartella, guasto), fine; !guasto && i != fine; i.increment(guasto)) {
+    const std::string utf8 = i->path().filename().string();
+    if (StessoNome(utf8, nome) && (!trovata || utf8 < *trovata)) trovata = utf8;
+  }
+  return trovata ? cartella / *trovata : esatta;
+}
+
+// "." and ".." of a host path are followed as the host follows them: ".." behind a link is not the folder before it.
+fs::path Assoluto(const fs::path& ospite) {
+  std::error_code guasto;
+  fs::path assoluto = fs::absolute(ospite, guasto);
+  if (guasto) LanciaErrno(guasto.value(), errore::PercorsoNonTrovato);
+  if (std::find(assoluto.begin(), assoluto.end(), fs::path("..")) == assoluto.end()) return assoluto.lexically_normal();
+  fs::path risolto = fs::weakly_canonical(assoluto, guasto);
+  if (guasto) LanciaErrno(guasto.value(), errore::PercorsoNonTrovato);
+  return risolto;
+}
+
+} // namespace
+
+fs::path PercorsoSuOspite(const fs::path& dischi, std::string_view percorso) {
+  const PercorsoDiviso diviso = DividiPercorso(percorso);
+  fs::path ospite = diviso.lettera == 'Z' ? fs::path("/") : CartellaDisco(dischi, diviso.lettera);
+  for (const std::string_view componente : diviso.componenti) ospite = Voce(ospite, componente);
+  return ospite;
+}
+
+bool StessoPercorso(const fs::path& primo, const fs::path& secondo) {
+  return primo == secondo ||
+         (primo.parent_path() == secondo.parent_path() && !EsisteVoce(primo) && !EsisteVoce(secondo));
+}
+
+std::string PercorsoDaOspite(const fs::path& ospite) {
+  std::string percorso = "Z:";
+  for (const fs::path& parte : Assoluto(ospite).relative_path()) {
+    if (parte.empty()) continue; // behind a closing separator
+    const auto nome = NomeDaOspite(parte.string());
+    if (!nome) LanciaNome(DaUtf8(ospite.string()));
+    percorso += "\\" + *nome;
+  }
+  return percorso.size() == 2 ? "Z:\\" : percorso;
+}
+
+} // namespace lirmeto
