@@ -65,6 +65,7 @@ public:
     return 0;
   }
   void ApriDocumento(const std::string& /*percorso*/) override {}
+  void Avvia(const std::string& /*programma*/) override {}
   void ApriPagina(const std::string& /*indirizzo*/) override {}
   void ApriDocumentoCon(const std::string& /*programma*/, const std::string& /*percorso*/) override {}
   [[nodiscard]] std::vector<long> Elenca(std::string_view /*immagine*/) override { return {}; }
@@ -73,6 +74,7 @@ public:
   [[nodiscard]] std::unique_ptr<ArchivioAperto> ApriArchivio(std::string byte) override {
     return processi_.ApriArchivio(std::move(byte));
   }
+  void Pausa(int /*millisecondi*/) override {}
   void MostraDesktop() override {}
   void CreaCollegamento(const Collegamento& /*collegamento*/) override {}
   [[nodiscard]] std::string VersioneFile(std::string_view percorso) override {

@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::array ElencoPulsanti = {
     Pulsante{10, "Nuovo Libretto Vuoto", "Libretto", Comando::NuovoLibrettoVuoto},
-    Pulsante{9, "Apri Libretto da File", "Libretto", Comando::NessunaAzione},
-    Pulsante{21, "Apri Libretto da Pregeo", "Libretto", Comando::NessunaAzione},
+    Pulsante{9, "Apri Libretto da File", "Libretto", Comando::ApriDaFile},
+    Pulsante{21, "Apri Libretto da Pregeo", "Libretto", Comando::ApriDaPregeo},
     Pulsante{4, "Salva Libretto", "Libretto", Comando::SalvaLibretto},
     Pulsante{3, "Stampa Libretto", "Libretto", Comando::StampaLibretto},
     Pulsante{16, "Modifica Diretta del Libretto", "Righe", Comando::ModificaDiretta},
@@ -28,9 +28,9 @@ constexpr std::array ElencoPulsanti = {
     Pulsante{18, "Gestione Estratti di Mappa", "Mappa e Censuario", Comando::EstrattiDiMappa},
     Pulsante{17, "Compila Censuario/Archivio Particelle", "Mappa e Censuario", Comando::ModelloCensuario},
     Pulsante{1, "Importa da Libretto in Pregeo", "Pregeo", Comando::DaPregeo},
-    Pulsante{7, "Configura Provincia di Pregeo", "Pregeo", Comando::NessunaAzione},
+    Pulsante{7, "Configura Provincia di Pregeo", "Pregeo", Comando::ConfiguraPregeo},
     Pulsante{6, "Attiva Pregeo", "Pregeo", Comando::AttivaPregeo},
-    Pulsante{24, "Attiva Pregeo", "Pregeo", Comando::NessunaAzione},
+    Pulsante{24, "Attiva Pregeo", "Pregeo", Comando::ProgrammaPregeo},
     Pulsante{20, "Gondella Libretti", "Strumenti", Comando::GondellaLibretti},
     Pulsante{22, "", "Strumenti", Comando::NessunaAzione},
     Pulsante{23, "", "Strumenti", Comando::NessunaAzione},
@@ -51,14 +51,17 @@ constexpr std::string_view Aiuto = "Aiuto";
 
 constexpr std::array ElencoVoci = {
     VoceMenu{File, {}, "Nuovo Libretto", Comando::NuovoLibretto},
-    VoceMenu{File, {}, "Apri Libretto da Pregeo", Comando::NessunaAzione},
-    VoceMenu{File, {}, "Apri Libretto da File", Comando::NessunaAzione},
-    VoceMenu{File, {}, "Ripristina da Archivio Libretti", Comando::NessunaAzione},
+    VoceMenu{File, {}, "Apri Libretto da Pregeo", Comando::ApriDaPregeo},
+    VoceMenu{File, {}, "Apri Libretto da File", Comando::ApriDaFile},
+    VoceMenu{File, {}, "Libretti Recenti", Comando::LibrettiRecenti},
+    VoceMenu{File, {}, "Ripristina da Archivio Libretti", Comando::RipristinaDaArchivio},
     VoceMenu{File, {}, "Salva", Comando::SalvaLibretto},
     VoceMenu{File, {}, "Esporta Libretto", Comando::EsportaLibretto},
     VoceMenu{File, {}, "Stampa Libretto", Comando::StampaLibretto},
     VoceMenu{File, {}, "Seleziona Font", Comando::SelezionaFont},
+    VoceMenu{File, {}, "Attiva Pregeo", Comando::ProgrammaPregeo},
     VoceMenu{File, {}, "Kill Pregeo", Comando::KillPregeo},
+    VoceMenu{File, {}, "Termina Moduli Bloccati", Comando::TerminaBloccati},
     VoceMenu{File, {}, Separatore, Comando::NessunaAzione},
     VoceMenu{File, {}, "Chiudi", Comando::Chiudi},
 
@@ -71,7 +74,7 @@ constexpr std::array ElencoVoci = {
     VoceMenu{Modifica, {}, "Relazione Tecnica", Comando::RelazioneTecnica},
     VoceMenu{Modifica, {}, "Modello Censuario", Comando::ModelloCensuario},
     VoceMenu{Modifica, {}, "Importa Fiduciali da TAF", Comando::ImportaFiduciali},
-    VoceMenu{Modifica, {}, "Importa Fiduciali da Estratto", Comando::NessunaAzione},
+    VoceMenu{Modifica, {}, "Importa Fiduciali da Estratto", Comando::ImportaFiducialiEstratto},
     VoceMenu{Modifica, {}, "Incolla da Appunti", Comando::IncollaDaAppunti},
     VoceMenu{Modifica, Cambia, "Descrizione", Comando::AssegnaDescrizione},
     VoceMenu{Modifica, Cambia, "Seleziona Stazioni", Comando::SelezionaStazioni},
@@ -93,9 +96,10 @@ constexpr std::array ElencoVoci = {
 
     VoceMenu{Utilita, {}, "Archivia Libretti", Comando::ArchiviaLibretti},
     VoceMenu{Utilita, {}, "Grafica Pregeo > DXF", Comando::GraficaPregeo},
-    VoceMenu{Utilita, {}, "Ricarica da Storico", Comando::NessunaAzione},
+    VoceMenu{Utilita, {}, "Ricarica da Storico", Comando::RicaricaDaStorico},
     VoceMenu{Utilita, {}, "PF-VE", Comando::NessunaAzione},
     VoceMenu{Utilita, {}, "Crea Collegamenti Pregeo", Comando::CreaCollegamenti},
+    VoceMenu{Utilita, {}, "Configura Provincia di Pregeo", Comando::ConfiguraPregeo},
     VoceMenu{Utilita, {}, "Info Misurate PF", Comando::InfoMisuratePF},
     VoceMenu{Utilita, {}, Separatore, Comando::NessunaAzione},
     VoceMenu{Utilita, {}, "Guarda un Disegno", Comando::Disegno},
@@ -146,28 +150,35 @@ constexpr std::array ElencoVoci = {
     VoceMenu{Aiuto, {}, "Pagina Web", Comando::PaginaWeb},
 };
 
-// The tags that no command answers to do nothing.
 constexpr std::array ElencoStrumenti = {
-    Strumento{"Quota Media Comuni Italiani", "QUOTA_MEDIA"},
-    Strumento{"Archivio Tecnici", "tecnici"},
-    Strumento{"Configurazione di Pregeo", "CONFIGURA_PREGEO"},
-    Strumento{"Modulistica/Atti di Aggiornamento", "Modulistica"},
-    Strumento{"Esamina/Corregge Proposta di Aggiornamento", "ANTEPRIMA_PROPOSTA"},
-    Strumento{"Archivio Libretti Pregeo", "archivio_libretti"},
-    Strumento{"Gestione Grafica Archivio PF", "gestione_pf"},
-    Strumento{"Archivio Distanze Misurate", "GESTIONE_MISURATE"},
-    Strumento{"Cerca nei Libretti in Pregeo", "CERCA_NEI_LIBRETTI"},
-    Strumento{"Archivio Libretti di Backup", "STORICO_LIBRETTI"},
+    Strumento{"Quota Media Comuni Italiani", "QUOTA_MEDIA", Comando::QuotaMedia},
+    Strumento{"Archivio Tecnici", "tecnici", Comando::ArchivioTecnici},
+    Strumento{"Configurazione di Pregeo", "CONFIGURA_PREGEO", Comando::ConfiguraPregeo},
+    Strumento{"Modulistica/Atti di Aggiornamento", "Modulistica", Comando::Modulistica},
+    Strumento{"Esamina/Corregge Proposta di Aggiornamento", "ANTEPRIMA_PROPOSTA", Comando::AnteprimaProposta},
+    Strumento{"Archivio Libretti Pregeo", "archivio_libretti", Comando::ArchivioLibretti},
+    Strumento{"Gestione Grafica Archivio PF", "gestione_pf", Comando::GestionePf},
+    Strumento{"Archivio Distanze Misurate", "GESTIONE_MISURATE", Comando::ArchivioMisurate},
+    Strumento{"Cerca nei Libretti in Pregeo", "CERCA_NEI_LIBRETTI", Comando::CercaNeiLibretti},
+    Strumento{"Archivio Libretti di Backup", "STORICO_LIBRETTI", Comando::RipristinaDaArchivio},
 };
 
-constexpr std::array<std::pair<Comando, std::string_view>, 13> ElencoForm = {{
+constexpr std::array<std::pair<Comando, std::string_view>, 21> ElencoForm = {{
     {Comando::NuovoLibretto, forma::Intestazione},
     {Comando::NuovoLibrettoVuoto, forma::Intestazione},
     {Comando::ModelloCensuario, forma::ModelloCensuario},
     {Comando::ImportaFiduciali, forma::ImportaFiduciali},
+    {Comando::ImportaFiducialiEstratto, forma::ImportaFiducialiEstratto},
     {Comando::AssegnaDescrizione, forma::AssegnaDescrizione},
     {Comando::GraficaPregeo, forma::DaPregeo},
     {Comando::DaPregeo, forma::DaPregeo},
+    {Comando::ApriDaPregeo, forma::DaPregeo},
+    {Comando::ArchivioLibretti, forma::DaPregeo},
+    {Comando::CercaNeiLibretti, forma::CercaInPregeo},
+    {Comando::ConfiguraPregeo, forma::ConfiguraPregeo},
+    {Comando::GestionePf, forma::ElcoPf},
+    {Comando::ArchivioMisurate, forma::SelezionaMisurate},
+    {Comando::QuotaMedia, forma::QuoteMedie},
     {Comando::EstrattiDiMappa, forma::EstrattiDiMappa},
     {Comando::CompletaAutoallestito, forma::CompletaAutoallestito},
     {Comando::Disegno, forma::Disegno},
@@ -193,7 +204,9 @@ std::string_view DidascaliaDi(Comando comando) {
   const auto voce = std::find_if(ElencoVoci.begin(), ElencoVoci.end(), suo);
   if (voce != ElencoVoci.end()) return voce->didascalia;
   const auto pulsante = std::find_if(ElencoPulsanti.begin(), ElencoPulsanti.end(), suo);
-  return pulsante == ElencoPulsanti.end() ? std::string_view{} : pulsante->didascalia;
+  if (pulsante != ElencoPulsanti.end()) return pulsante->didascalia;
+  const auto strumento = std::find_if(ElencoStrumenti.begin(), ElencoStrumenti.end(), suo);
+  return strumento == ElencoStrumenti.end() ? std::string_view{} : strumento->didascalia;
 }
 
 std::string_view FormDi(Comando comando) {

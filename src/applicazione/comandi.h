@@ -10,14 +10,20 @@
 namespace lirmeto {
 
 enum class Comando {
-  NessunaAzione,      // present in the window and does nothing: its place is kept
+  NessunaAzione,      // nothing in the system stands behind it: its place is kept, shown as unavailable
   NonDisponibile,     // its work is still to come: shown disabled
   NuovoLibretto,      // needs the header form
   NuovoLibrettoVuoto, // the same from its button
+  ApriDaFile,
+  ApriDaPregeo,         // a libretto of Pregeo's archive
+  LibrettiRecenti,      // the entry that holds the last files
+  RipristinaDaArchivio, // a file of \Backup_Libretti
+  RicaricaDaStorico,    // a file of \Storico_Libretti
   SalvaLibretto,
   EsportaLibretto,
   SelezionaFont,
   KillPregeo,
+  TerminaBloccati, // other processes of this program
   Chiudi,
   ModificaDiretta,
   RelazioneTecnica, // the editor at its block
@@ -28,7 +34,9 @@ enum class Comando {
   IncollaDaAppunti,
   MostraDesktop,
   GondellaLibretti,
-  AttivaPregeo,
+  AttivaPregeo,    // the sibling program that does it
+  ProgrammaPregeo, // Pregeo itself
+  ConfiguraPregeo,
   UtilitaCatastali, // shows the tools panel
   CreaCollegamenti, // to Pregeo
   ArchiviaLibretti,
@@ -50,6 +58,7 @@ enum class Comando {
   DaElaborazionePregeo,
   ModelloCensuario,
   ImportaFiduciali,
+  ImportaFiducialiEstratto,
   AssegnaDescrizione,
   GraficaPregeo,
   EstrattiDiMappa,
@@ -96,6 +105,15 @@ enum class Comando {
   InfoMisuratePF, // the fiducial points of the libretto against the archives
   Configurazione, // as a report
   PaginaWeb,
+  // Tools of the panel.
+  QuotaMedia,
+  ArchivioTecnici,
+  Modulistica,
+  AnteprimaProposta,
+  ArchivioLibretti,
+  GestionePf,
+  ArchivioMisurate,
+  CercaNeiLibretti,
 };
 
 struct Pulsante {
@@ -117,14 +135,20 @@ struct VoceMenu {
 
 struct Strumento { // of the tools panel
   std::string_view didascalia;
-  std::string_view tag; // the tag command it gives
+  std::string_view tag; // under which sibling programs know it
+  Comando comando;
 };
 
 [[nodiscard]] std::span<const Pulsante> Pulsanti();
 [[nodiscard]] std::span<const VoceMenu> VociMenu();
 [[nodiscard]] std::span<const Strumento> Strumenti();
 
-// Caption of the first menu entry, else of the first button, that gives the command; empty when none does.
+// What an entry of this command does, in a sentence without a full stop: the one table of it, shown beside the entry
+// and printed in the guide.
+[[nodiscard]] std::string_view EffettoDi(Comando comando);
+
+// Caption of the first menu entry, else of the first button, else of the first tool, that gives the command; empty when
+// none does.
 [[nodiscard]] std::string_view DidascaliaDi(Comando comando);
 
 // Name of the form that a command opens; empty for one that opens none by name.

@@ -45,6 +45,12 @@ constexpr auto Comandi = std::to_array<std::pair<Comando, Routine>>({
     {Comando::AssegnaVrs, AssegnaVrs},
     {Comando::StampaLibretto, StampaLibretto},
     {Comando::RelazioneTecnica, ModificaRelazione},
+    {Comando::ArchiviaLibretti, ArchiviaLibretto},
+    {Comando::ArchivioMisurate, ScegliMisurate},
+    {Comando::ArchivioTecnici, ScegliTecnico},
+    {Comando::AnteprimaProposta, MostraProposta},
+    {Comando::Modulistica, ApriModulistica},
+    {Comando::ProgrammaPregeo, AvviaPregeo},
     {Comando::CopiaNegliAppunti, CopiaNegliAppunti},
     {Comando::Righe8DaExcel, ImportaRighe8DaExcel},
     {Comando::Righe8NomeAutoDaExcel, ImportaRighe8NomeAutoDaExcel},
@@ -66,33 +72,31 @@ bool EseguiDa(const std::array<std::pair<Comando, Routine>, N>& tabella, Comando
   return true;
 }
 
-// A form that leaves the rows alone. It may take a comune: the session keeps that of row 0.
+// A form that leaves the rows alone. It may take a comune, or read PREGEO.INI again: the session keeps what row 0 says.
 bool SoloConsulta(Comando comando) {
   return comando == Comando::Disegno || comando == Comando::CodiceFiscale || comando == Comando::Comuni ||
-         comando == Comando::ArchivioPossessori || comando == Comando::CompletaAutoallestito;
-}
-
-// Caption of the tool that gives a tag.
-std::string_view DidascaliaDiTag(std::string_view tag) {
-  const auto strumenti = Strumenti();
-  const auto suo =
-      std::find_if(strumenti.begin(), strumenti.end(), [tag](const Strumento& uno) { return uno.tag == tag; });
-  return suo == strumenti.end() ? tag : suo->didascalia;
+         comando == Comando::ArchivioPossessori || comando == Comando::CompletaAutoallestito ||
+         comando == Comando::GestionePf || comando == Comando::ConfiguraPregeo;
 }
 
 } // namespace
 
-// A command may have read PREGEO.INI again: the boxes show what it left.
+// A tool may have read PREGEO.INI or the archives again: boxes and checks follow.
 void KR_LibrettoOriginale::EseguiStrumento(std::string_view tag) {
+  const auto strumenti = Strumenti();
+  const auto suo =
+      std::find_if(strumenti.begin(), strumenti.end(), [tag](const Strumento& uno) { return uno.tag == tag; });
+  if (suo == strumenti.end()) return;
   ambiente_.sessione.ComandoTag = tag;
-  Comanda(DidascaliaDiTag(tag), [&] { EseguiComandoTag(ambiente_); });
+  Esegui(suo->comando);
   Verifiche.Dimentica();
   MostraSessione();
 }
 
 bool KR_LibrettoOriginale::Disponibile(Comando comando) const {
   const std::string_view form = FormDi(comando);
-  return form.empty() ? comando != Comando::NonDisponibile : ambiente_.finestre.Disponibile(form);
+  if (!form.empty()) return ambiente_.finestre.Disponibile(form);
+  return comando != Comando::NonDisponibile && comando != Comando::NessunaAzione;
 }
 
 bool KR_LibrettoOriginale::Attivo(Comando comando) const {
@@ -113,12 +117,12 @@ std::string KR_LibrettoOriginale::Didascalia(Comando comando) const {
 void KR_LibrettoOriginale::Esegui(Comando comando) {
   if (comando == Comando::Annulla) return Torna(&Storia::Annulla);
   if (comando == Comando::Ripeti) return Torna(&Storia::Ripeti);
-  if (comando == Comando::ArchiviaLibretti) return EseguiStrumento("Silvarca");
+  if (EseguiFile(comando)) return;
   if (comando == Comando::MostraRigheScartate) return MostraScartate();
   if (EseguiVerifiche(comando)) return;
   if (comando == Comando::EsportaLibretto || comando == Comando::SalvaLibretto) ContaErrori();
   Comanda(DidascaliaDi(comando), [&] {
-    if (EseguiDa(Selezioni, comando, ambiente_)) return Righe_Indice();
+    if (EseguiDa(Selezioni, comando, ambiente_)) return DiciSelezione(comando);
     if (const Tipologia* tipologia = TrovaTipologia(comando)) return EseguiTipologia(ambiente_, *tipologia);
     if (!EseguiDa(Comandi, comando, ambiente_) && !EseguiConForm(comando)) EseguiAltri(comando);
   });
@@ -127,11 +131,16 @@ void KR_LibrettoOriginale::Esegui(Comando comando) {
 // Runs a command and keeps what it did to the rows. The notice of dropped rows stays until the rows change again.
 void KR_LibrettoOriginale::Comanda(std::string_view nome, const std::function<void()>& comando) {
   Sessione& sessione = ambiente_.sessione;
+  Esito.clear();
+  PrimaNuova.reset();
+  const Scelta scelta = SceltaAttuale();
   Prova([&] { storia_.Prepara(sessione); });
   ListaRighe scartatePrima = std::exchange(sessione.RigheScartate, {});
   Prova(comando);
   bool cambiate = false;
   Prova([&] { cambiate = storia_.Registra(sessione, nome); });
+  DiciCambiamento(nome, cambiate);
+  RimettiScelta(scelta, cambiate);
   if (!cambiate && sessione.RigheScartate.empty()) sessione.RigheScartate = std::move(scartatePrima);
   AvvisoScartate = AvvisoRigheScartate(sessione);
 }
@@ -158,6 +167,7 @@ bool KR_LibrettoOriginale::EseguiConForm(Comando comando) {
   Verifiche.Dimentica(); // a form may change the extract or install an archive
   if (SoloConsulta(comando)) {
     if (ApriForm(ambiente_, form)) DecoZeroNove(ambiente_);
+    MostraSessione();
     return true;
   }
   AggiornaLibrettoMisure(ambiente_);

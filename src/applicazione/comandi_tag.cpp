@@ -28,7 +28,10 @@ namespace lirmeto {
 namespace {
 
 void ApriFile(Ambiente& ambiente, const std::string& percorso) {
+  if (percorso.empty()) return;
   if (!EstensioneEstratto(percorso)) {
+    if (!ambiente.disco.Esiste(percorso))
+      return ambiente.dialoghi.Messaggio(percorso + std::string(FineRiga) + "NON trovato!");
     (void)Intrappola(ambiente, [&] { ApriLibretto(ambiente, percorso); });
     return;
   }
@@ -36,15 +39,18 @@ void ApriFile(Ambiente& ambiente, const std::string& percorso) {
   (void)Intrappola(ambiente, [&] { ApriForm(ambiente, forma::EstrattiDiMappa); });
 }
 
-DopoComando EseguiLinea(Ambiente& ambiente, std::string_view linea) {
+DopoComando EseguiComandoDi(Ambiente& ambiente, std::string_view linea) {
   Sessione& sessione = ambiente.sessione;
-  const std::string file(Parte(linea, '|', 0));
-  const std::string percorso =
-      file.empty() ? sessione.CartellaProgramma + "\\Nuovo.DAT" : PercorsoInCapitali(ambiente.disco, file);
-  ApriLibretto(ambiente, percorso);
   sessione.ParametroTag = Maiuscolo(Parte(linea, '|', 2));
   sessione.ComandoTag = sessione.UltimaTag = Maiuscolo(Parte(linea, '|', 1));
   return EseguiComandoTag(ambiente);
+}
+
+DopoComando EseguiLinea(Ambiente& ambiente, std::string_view linea) {
+  const std::string file(Parte(linea, '|', 0));
+  ApriLibretto(ambiente, file.empty() ? ambiente.sessione.CartellaProgramma + "\\Nuovo.DAT"
+                                      : PercorsoInCapitali(ambiente.disco, file));
+  return EseguiComandoDi(ambiente, linea);
 }
 
 // --- the commands
@@ -143,6 +149,12 @@ DopoComando ComandoTag1(Ambiente& ambiente) {
   DopoComando dopo = DopoComando::Finisce;
   (void)Intrappola(ambiente, [&] { dopo = EseguiLinea(ambiente, linea); });
   return dopo;
+}
+
+void EseguiLineaDiComando(Ambiente& ambiente, std::string_view linea) {
+  const std::string file(Parte(linea, '|', 0));
+  if (!file.empty()) ApriLibretto(ambiente, PercorsoInCapitali(ambiente.disco, file));
+  (void)EseguiComandoDi(ambiente, linea);
 }
 
 DopoComando EseguiComandoTag(Ambiente& ambiente) {

@@ -10,6 +10,8 @@
 
 #include <core/ambiente.h>
 
+#include <string_view>
+
 namespace lirmeto {
 
 enum class DopoComando { Finisce, FinestraPrincipale };
@@ -17,6 +19,9 @@ enum class DopoComando { Finisce, FinestraPrincipale };
 // What ComandoTag asks for, read as the command line. The answer is whether the main window comes up or the process
 // ends. Errors are reported here; one that stops a command ends the process all the same.
 [[nodiscard]] DopoComando ComandoTag1(Ambiente& ambiente);
+
+// One line "file|command|parameter" on the running session; a line that names no file runs on the open libretto.
+void EseguiLineaDiComando(Ambiente& ambiente, std::string_view linea);
 
 // Runs the command that ComandoTag names; any other text does nothing. One whose work is still to come says so.
 //   LIBRETTO_DA_DISEGNO, CONFIGURA_PREGEO, SELEZIONA_MISURATE, MISURATE_DA1_PF, INFO_MISURATE, GESTIONE_PF,

@@ -3,6 +3,8 @@
 #include <applicazione/autore.h>
 #include <applicazione/avvio.h>
 #include <applicazione/comandi_tag.h>
+#include <applicazione/consegna.h>
+#include <applicazione/libretti_recenti.h>
 #include <base/numeri.h>
 #include <base/percorsi.h>
 #include <base/testo.h>
@@ -17,7 +19,6 @@
 #include <core/riordino.h>
 #include <core/salvataggio.h>
 #include <core/zero_nove.h>
-#include <estratti/copia_estratto.h>
 #include <fiduciali/misurate.h>
 #include <pregeo/gondella.h>
 #include <pregeo/tecnico.h>
@@ -25,6 +26,7 @@
 #include <supporto/stampa_generale.h>
 
 #include <array>
+#include <utility>
 
 namespace lirmeto {
 
@@ -76,11 +78,6 @@ std::string TestoInformazioni() {
   return Unisci({frasi.begin(), frasi.end()}, FineRiga);
 }
 
-bool EstensioneLibretto(std::string_view percorso) {
-  return FinisceConSenzaCaso(percorso, ".TXT") || FinisceConSenzaCaso(percorso, ".DAT") ||
-         FinisceConSenzaCaso(percorso, Lxb);
-}
-
 } // namespace
 
 KR_LibrettoOriginale::KR_LibrettoOriginale(Ambiente& ambiente)
@@ -95,13 +92,7 @@ void KR_LibrettoOriginale::Prova(const std::function<void()>& comando) {
 bool KR_LibrettoOriginale::Avvia(const std::string& comandoAvvio) {
   PreparaCartelle(ambiente_);
   ScriviCartellaDocumenti(ambiente_);
-  if (ambiente_.processi.Elenca("Lirmeto.exe").size() > 1) {
-    ambiente_.dialoghi.Messaggio("Modulo già attivo!"_w);
-    // Ends every process of that name, this one too: the way of clearing an
-    // instance that hangs.
-    TerminaProcesso(ambiente_, "Lirmeto.exe");
-    return false;
-  }
+  if (!AltriModuli(ambiente_).empty() && !PrendeIlPosto(comandoAvvio)) return false;
   return Carica(comandoAvvio);
 }
 
@@ -114,19 +105,38 @@ bool KR_LibrettoOriginale::Carica(const std::string& comandoAvvio) {
     ambiente_.disco.Scrivi(sessione.CartellaProgramma + "\\VersioneLirmeto.TXT",
                            "Ver 6.00 " + std::string(NumeroMaggiore) + "." + std::string(NumeroRevisione) + "\r\n");
   });
-  sessione.ComandoTag = comandoAvvio;
-  if (comandoAvvio.empty())
-    sessione.ComandoTag = sessione.CartellaProgramma + "\\NUOVO.DAT"; // nobody reads it as a command
-  else if (ComandoTag1(ambiente_) == DopoComando::Finisce)
-    return false;
-  CaricaElenco();
+  (void)PrendiConsegne(ambiente_); // of starts before this one
+  DatiTecnico delFile;
+  if (!ApriDaComando(comandoAvvio, delFile)) return false;
+  CaricaElenco(delFile);
   // What a command or an .LXB brought in is on no disk yet.
   if (!Contiene(comandoAvvio, "|") && !FinisceConSenzaCaso(comandoAvvio, Lxb)) Prova([&] { RicordaIntatto(); });
   return true;
 }
 
+// Whether the window comes up. What a libretto's file tells of the surveyor holds over PREGEO.INI and his own file.
+bool KR_LibrettoOriginale::ApriDaComando(const std::string& comandoAvvio, DatiTecnico& delFile) {
+  Sessione& sessione = ambiente_.sessione;
+  Prova([&] { Recenti = LeggiRecenti(ambiente_.impostazioni); });
+  sessione.ComandoTag = comandoAvvio;
+  if (comandoAvvio.empty()) {
+    sessione.ComandoTag = sessione.CartellaProgramma + "\\NUOVO.DAT"; // nobody reads it as a command
+    return true;
+  }
+  if (Contiene(comandoAvvio, "|")) return ComandoTag1(ambiente_) != DopoComando::Finisce;
+  const DatiTecnico prima{std::exchange(sessione.CodiceFiscale, {}), std::exchange(sessione.NumeroIscrizione, {})};
+  const bool resta = ComandoTag1(ambiente_) != DopoComando::Finisce;
+  delFile = {sessione.CodiceFiscale, sessione.NumeroIscrizione};
+  if (delFile.codiceFiscale.empty()) sessione.CodiceFiscale = prima.codiceFiscale;
+  if (delFile.iscrizione.empty()) sessione.NumeroIscrizione = prima.iscrizione;
+  if (!sessione.NomeFileLibretto.empty()) {
+    RicordaRecente(PercorsoInCapitali(ambiente_.disco, Sostituisci(comandoAvvio, "\"", "")));
+  }
+  return resta;
+}
+
 // What follows once it is known that the window comes up.
-void KR_LibrettoOriginale::CaricaElenco() {
+void KR_LibrettoOriginale::CaricaElenco(const DatiTecnico& delFile) {
   Sessione& sessione = ambiente_.sessione;
   sessione.PuntoErrore = "1013";
   Prova([&] {
@@ -135,11 +145,14 @@ void KR_LibrettoOriginale::CaricaElenco() {
   TerminaPregeo(ambiente_);
   Prova([&] { DecoZeroNove(ambiente_); });
   Prova([&] { CaricaTecnico(ambiente_, sessione.Tecnico + ".PFS"); });
+  if (!delFile.codiceFiscale.empty()) sessione.CodiceFiscale = delFile.codiceFiscale;
+  if (!delFile.iscrizione.empty()) sessione.NumeroIscrizione = delFile.iscrizione;
   Prova([&] { CaricaLibrettoInList1(ambiente_); });
   sessione.PuntoErrore = "Decozero_136";
   Prova([&] { LeggiDitta(); });
   sessione.PuntoErrore = "Decozero_141";
   MostraSessione();
+  if (!sessione.NomeFileLibretto.empty()) Esito = EsitoApertura(sessione.NomeFileLibretto);
   LeggiPostiVerifiche();
   storia_.Ricomincia(sessione);
 }
@@ -198,14 +211,13 @@ void KR_LibrettoOriginale::PuntatoreSuPulsante(int indice) {
 void KR_LibrettoOriginale::EseguiAltri(Comando comando) {
   switch (comando) {
   case Comando::SalvaLibretto:
-    if (SalvaLibrettoMisure(ambiente_)) RicordaSalvato();
-    MostraSessione();
-    break;
+    return Salva();
   case Comando::EsportaLibretto:
-    EsportaLibrettoInFile(ambiente_);
-    break;
+    return Esporta();
   case Comando::SelezionaFont:
     return SelezionaCarattere();
+  case Comando::TerminaBloccati:
+    return TerminaBloccati();
   case Comando::Chiudi:
     Finita = true;
     break;
@@ -256,7 +268,11 @@ void KR_LibrettoOriginale::ModificaRiga() {
   subModificaDiretta(ambiente_);
 }
 
+// What stands beyond rows 0 and 9 is work that the user is asked about.
 void KR_LibrettoOriginale::IncollaDaAppunti() {
+  constexpr std::size_t righeFisse = 2;
+  const bool lavoro = ambiente_.sessione.List1.Quante() > righeFisse;
+  if (lavoro && !ConsenteDiSostituire(DidascaliaDi(Comando::IncollaDaAppunti))) return;
   ambiente_.sessione.Libretto = ambiente_.appunti.Testo();
   CaricaLibrettoInList1(ambiente_);
 }
@@ -306,33 +322,6 @@ void KR_LibrettoOriginale::TastoCancella() {
     ambiente_.sessione.List1.TogliSelezionate(righeFisse);
     AggiornaLibrettoMisure(ambiente_);
   });
-}
-
-void KR_LibrettoOriginale::Trascina(const std::string& percorso) {
-  const bool pdf = FinisceConSenzaCaso(percorso, ".PDF");
-  if (pdf || EstensioneLibretto(percorso)) return TrascinaLibretto(percorso);
-  if (EstensioneEstratto(percorso) && !FinisceConSenzaCaso(percorso, ".DXF")) return TrascinaEstratto(percorso);
-  ambiente_.dialoghi.Messaggio(FinisceConSenzaCaso(percorso, ".DXF") ? "Processo non attivo!"
-                                                                     : "Ammessi file di Testo: .TXT, .DAT, .LXB, .PDF");
-}
-
-void KR_LibrettoOriginale::TrascinaLibretto(const std::string& percorso) {
-  const Risposta risposta =
-      ambiente_.dialoghi.Chiedi("Sostituire il Libretto Esistente?", "Trascina Libretto", Bottoni::SiNo);
-  if (risposta != Risposta::Si) return;
-  Comanda("Trascina Libretto", [&] {
-    ApriLibretto(ambiente_, percorso);
-    CaricaLibrettoInList1(ambiente_);
-    ambiente_.sessione.PuntoErrore = FinisceConSenzaCaso(percorso, ".PDF") ? "Decozero_138" : "Decozero_137";
-    MostraSessione();
-    if (!FinisceConSenzaCaso(percorso, Lxb)) RicordaIntatto();
-  });
-}
-
-// Into the extracts folder, as the manager imports it; the extract becomes that of the libretto.
-void KR_LibrettoOriginale::TrascinaEstratto(const std::string& percorso) {
-  Comanda("Importa Estratto", [&] { ImportaFileInEstratti(ambiente_, percorso); });
-  Aggiornami();
 }
 
 void KR_LibrettoOriginale::CambiaIscrizione(std::string_view testo) {

@@ -39,6 +39,9 @@ public:
   std::string CasellaIscrizione;
   std::string CasellaCodiceFiscale;
   std::vector<Opzione> Opzioni;
+  std::string Esito;                // in the status line: what the last command did, and to how many rows
+  std::vector<std::string> Recenti; // paths of the files opened last
+  std::optional<std::size_t> PrimaNuova; // first row that the last command added
   std::string AvvisoScartate; // in the status line: rows that the last command dropped
   Carattere CarattereElenco;
   bool PannelloStrumenti = false; // the tools panel is visible
@@ -57,6 +60,11 @@ public:
   // program, a tag command, or empty. False: another instance was running, or a
   // tag command is over, and the process must end.
   bool Avvia(const std::string& comandoAvvio);
+
+  // Whether a second start has handed something over; asked from time to time, while a command runs too.
+  [[nodiscard]] bool ArrivateConsegne();
+  // Does what was handed over.
+  void EseguiConsegne();
 
   // The window comes back to the front.
   void Attivazione(bool minimizzata);
@@ -84,6 +92,8 @@ public:
   void TastoInvio(std::size_t riga);
   void TastoCancella();
   void Trascina(const std::string& percorso);
+  // One of the files opened last, by its place among them.
+  void ApriRecente(std::size_t indice);
 
   // Brings findings and picture up to the rows. Whether the findings are others than before.
   bool AggiornaVerifiche();
@@ -110,7 +120,12 @@ public:
 
 private:
   [[nodiscard]] bool Carica(const std::string& comandoAvvio);
-  void CaricaElenco();
+  struct DatiTecnico { // what a libretto's file tells of him; empty: nothing
+    std::string codiceFiscale;
+    std::string iscrizione;
+  };
+  [[nodiscard]] bool ApriDaComando(const std::string& comandoAvvio, DatiTecnico& delFile);
+  void CaricaElenco(const DatiTecnico& delFile);
   void MostraSessione();
   void LeggiDitta();
   void SelezionaCarattere();
@@ -134,15 +149,39 @@ private:
   void MostraRiordino();
   void ApriIntestazione();
   void ModificaRiga();
-  void TrascinaLibretto(const std::string& percorso);
-  void TrascinaEstratto(const std::string& percorso);
+  [[nodiscard]] bool EseguiFile(Comando comando);
+  [[nodiscard]] std::string CartellaLibretto() const;
+  void ScegliEApri(std::string_view titolo, const std::string& cartella);
+  void DiciAssente(const std::string& percorso);
+  void RicordaRecente(const std::string& percorso);
+  void PrendiFile(std::string_view comando, const std::string& percorso);
+  [[nodiscard]] bool ConsenteDiSostituire(std::string_view titolo);
+  void PrendiLibretto(std::string_view comando, const std::string& percorso);
+  void PrendiEstratto(const std::string& percorso);
+  [[nodiscard]] std::string EsitoApertura(const std::string& percorso) const;
+  [[nodiscard]] bool PrendeIlPosto(const std::string& comando);
+  void EseguiConsegnata(const std::string& linea);
+  void TerminaBloccati();
+  void Salva();
+  void Esporta();
   void Prova(const std::function<void()>& comando);
   void Comanda(std::string_view nome, const std::function<void()>& comando);
+  struct Scelta { // the rows that the user has chosen, before a command
+    std::vector<std::size_t> selezionate;
+    long indice = -1;
+    unsigned long versione = 0;
+    std::string file; // whose rows they are
+  };
+  [[nodiscard]] Scelta SceltaAttuale() const;
+  void RimettiScelta(const Scelta& prima, bool cambiate);
+  void DiciCambiamento(std::string_view nome, bool cambiate);
+  void DiciSelezione(Comando comando);
   void Torna(void (Storia::*passo)(Sessione&));
 
   Ambiente& ambiente_;
   Storia storia_;
   std::optional<std::uint64_t> salvato_; // what stands on the disk, as its number; none when that is not known
+  std::vector<std::string> consegne_;    // command lines handed over and not yet run
   long rigaAccesa_ = -1;                 // of the picture
 };
 

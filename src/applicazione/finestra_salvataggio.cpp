@@ -38,6 +38,20 @@ void KR_LibrettoOriginale::RicordaSalvato() {
   if (!ambiente_.sessione.NomeFileLibretto.empty()) salvato_ = ImprontaLibretto(ambiente_.sessione);
 }
 
+void KR_LibrettoOriginale::Salva() {
+  const bool senzaNome = ambiente_.sessione.NomeFileLibretto.empty();
+  if (senzaNome) return Esporta();
+  const bool salvato = SalvaLibrettoMisure(ambiente_);
+  if (salvato) RicordaSalvato();
+  MostraSessione();
+  if (salvato) Esito = FattoARighe("Salvat", ambiente_.sessione.List1.Quante()) + " in " + EtichettaFile;
+}
+
+void KR_LibrettoOriginale::Esporta() {
+  const std::string dove = EsportaLibrettoInFile(ambiente_);
+  if (!dove.empty()) Esito = FattoARighe("Esportat", ambiente_.sessione.List1.Quante()) + " in " + dove;
+}
+
 bool KR_LibrettoOriginale::DaSalvare() const {
   return salvato_ != ImprontaElenco(ambiente_.sessione);
 }

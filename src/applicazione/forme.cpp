@@ -3,8 +3,10 @@
 #include <applicazione/tipologie.h>
 #include <estratti/completa_autoallestito.h>
 #include <estratti/estratti_di_mappa.h>
+#include <estratti/kr_estratto.h>
 #include <fiduciali/elco_pf.h>
 #include <fiduciali/importa_fiduciali.h>
+#include <fiduciali/quote_medie.h>
 #include <fiduciali/seleziona_misurate.h>
 #include <generazione/libretto_da_disegno.h>
 #include <generazione/tipologia.h>
@@ -55,9 +57,25 @@ void ApriCompletaAutoallestito(Ambiente& ambiente) {
   ambiente.finestre.MostraModale(form);
 }
 
-void ApriDaPregeo(Ambiente& ambiente) {
+void MostraDaPregeo(Ambiente& ambiente, bool conRicerca) {
   DisegnoDellUtente disegno(ambiente);
   KR_Dapregeo form(ambiente, disegno);
+  form.ConRicerca = conRicerca;
+  form.AlCaricamento();
+  ambiente.finestre.MostraModale(form);
+}
+
+void ApriDaPregeo(Ambiente& ambiente) {
+  MostraDaPregeo(ambiente, false);
+}
+
+void CercaInPregeo(Ambiente& ambiente) {
+  MostraDaPregeo(ambiente, true);
+}
+
+void ApriImportaDaEstratto(Ambiente& ambiente) {
+  if (!EstrattoAssociatoPresente(ambiente)) return;
+  FormImportaFiduciali form(ambiente, FonteFiduciali::Estratto);
   form.AlCaricamento();
   ambiente.finestre.MostraModale(form);
 }
@@ -78,10 +96,13 @@ constexpr std::array ElencoForme = {
     Forma{forma::Comuni8, &Apri<KR_Comuni8>},
     Forma{forma::ArchivioPossessori, &Apri<ArchivioPossessori>},
     Forma{forma::ImportaFiduciali, &Apri<FormImportaFiduciali>},
+    Forma{forma::ImportaFiducialiEstratto, &ApriImportaDaEstratto},
     Forma{forma::AssegnaDescrizione, &Apri<AssegnaDescrizione>},
     Forma{forma::EstrattiDiMappa, &ApriEstrattiDiMappa},
     Forma{forma::CompletaAutoallestito, &ApriCompletaAutoallestito},
     Forma{forma::DaPregeo, &ApriDaPregeo},
+    Forma{forma::CercaInPregeo, &CercaInPregeo},
+    Forma{forma::QuoteMedie, &Apri<QuoteMedie>},
     Forma{forma::EstrattoProvvisorio, &ApriEstrattoProvvisorio},
     Forma{forma::SelezionaMisurate, &Apri<KR_SelezionaMisurate>},
     Forma{forma::ModelloCensuario, &Apri<KR_EDM>},

@@ -22,6 +22,9 @@ inline constexpr std::string_view CodFis = "KR_CodFis";
 inline constexpr std::string_view Comuni8 = "KR_Comuni8";
 inline constexpr std::string_view ArchivioPossessori = "ArchivioPossessori";
 inline constexpr std::string_view ElcoPf = "KR_ElcoPf";
+inline constexpr std::string_view ImportaFiducialiEstratto = "FormImportaFiduciali.Estratto";
+inline constexpr std::string_view CercaInPregeo = "KR_Dapregeo.Cerca";
+inline constexpr std::string_view QuoteMedie = "QuoteMedie";
 inline constexpr std::string_view SelezionaMisurate = "KR_SelezionaMisurate";
 } // namespace forma
 

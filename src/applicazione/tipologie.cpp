@@ -72,14 +72,6 @@ bool Mostra(Ambiente& ambiente) {
   return Confermata(ambiente);
 }
 
-bool HaEstratto(Ambiente& ambiente) {
-  const std::string& nome = ambiente.sessione.EstrattoAssociato;
-  if (!nome.empty() && ambiente.disco.Esiste(PercorsoEstratto(ambiente.sessione, nome))) return true;
-  ambiente.dialoghi.Messaggio(nome.empty() ? std::string("Nessun Estratto di Mappa associato al Libretto!")
-                                           : "Estratto di Mappa non trovato: " + nome);
-  return false;
-}
-
 bool ScegliMappali(Ambiente& ambiente, const Tipologia& tipologia) {
   if (!Mostra<SelezionaMappali>(ambiente)) return false;
   Sessione& sessione = ambiente.sessione;
@@ -105,7 +97,7 @@ bool ComponiNelLibretto(Ambiente& ambiente, const Tipologia& tipologia) {
   Sessione& sessione = ambiente.sessione;
   const bool conEstratto = tipologia.codice != TipologiaSenzaEstratto;
   if (conEstratto) {
-    if (!HaEstratto(ambiente)) return false;
+    if (!EstrattoAssociatoPresente(ambiente)) return false;
     CambiaCampoNove(ambiente, CampoTipologia, tipologia.codice);
     if (!ScegliMappali(ambiente, tipologia)) return false;
   }

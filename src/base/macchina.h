@@ -62,6 +62,10 @@ public:
   // bytes. A folder that is not there has none.
   [[nodiscard]] virtual std::vector<std::string> Elenca(std::string_view cartella,
                                                         std::string_view estensione) const = 0;
+  // From now on, until told otherwise, folders that are looked into are remembered, so that many new names in one
+  // folder do not have it read for each of them. For a command that writes many files: what other programs do meanwhile
+  // is not seen. A disk that has nothing to remember does nothing.
+  virtual void RicordaCartelle(bool /*si*/) {}
 };
 
 // The shell's special folders, as paths without a closing backslash.
@@ -135,6 +139,10 @@ public:
   // 53 not there, 75 no program opens it.
   virtual void ApriDocumento(const std::string& percorso) = 0;
 
+  // Starts a program without a document, in the program's own folder, and does not wait for its end. It is found as in
+  // AvviaEAttendi. Errors: 53 not there, 70.
+  virtual void Avvia(const std::string& programma) = 0;
+
   // Opens a page of the web in the user's browser, and does not wait for its end. Error 75: no program opens it.
   virtual void ApriPagina(const std::string& indirizzo) = 0;
 
@@ -153,6 +161,9 @@ public:
 
   // A ZIP archive, given as its bytes, as the shell sees it: as a folder. Error 62 when they are cut short or are none.
   [[nodiscard]] virtual std::unique_ptr<ArchivioAperto> ApriArchivio(std::string byte) = 0;
+
+  // Waits so many milliseconds.
+  virtual void Pausa(int millisecondi) = 0;
 
   // Asks the shell to clear the desktop of windows.
   virtual void MostraDesktop() = 0;

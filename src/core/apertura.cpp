@@ -1,6 +1,7 @@
 #include <core/apertura.h>
 
 #include <base/avanzamento.h>
+#include <base/errore.h>
 #include <base/numeri.h>
 #include <base/percorsi.h>
 #include <base/testo.h>
@@ -24,6 +25,8 @@ namespace lirmeto {
 //   a file that cannot be read        Libretto, list and file name stay as they were, so that a later save does not
 //                                     write the old rows over the file that failed
 //   a folder given as a file          error 75
+//   a file that is no libretto        has no row of a kind, a number from 0 to 9 before the first bar, or has bytes that
+//                                     are zero: error 5, and nothing of it is taken; a drawing (.LXC) has its own reader
 
 namespace {
 
@@ -75,6 +78,21 @@ FileLetto LeggiFileLibretto(std::string testo) {
   testo.resize(scritti);
   letto.libretto = std::move(testo);
   return letto;
+}
+
+// A digit alone before the first bar.
+bool RigaDiUnLibretto(std::string_view riga) {
+  const std::string_view numero = Taglia(riga.substr(0, riga.find('|')));
+  return numero.size() == 1 && numero.front() >= '0' && numero.front() <= '9' && Contiene(riga, "|");
+}
+
+void ControllaLibretto(std::string_view percorso, std::string_view testo) {
+  if (FinisceConSenzaCaso(percorso, ".LXC")) return;
+  const bool zeri = testo.find('\0') != std::string_view::npos;
+  const auto righe = RigheDi(testo);
+  if (!zeri && std::any_of(righe.begin(), righe.end(), RigaDiUnLibretto)) return;
+  throw Errore(errore::ArgomentoNonValido, std::string("Il file non è un libretto: "_w) + std::string(percorso) + "\r\n" +
+                                               (zeri ? "Contiene byte a zero" : "Nessuna riga ha un genere da 0 a 9"));
 }
 
 void MettiInSessione(FileLetto&& letto, Sessione& sessione) {
@@ -135,8 +153,11 @@ void CaricaLibrettoDaFile(Ambiente& ambiente) {
   Sessione& sessione = ambiente.sessione;
   const PercorsiApertura percorsi = PercorsiDa(ambiente.disco, sessione.NomeFileLibretto);
   const std::string sostitute = percorsi.lxb.empty() ? std::string{} : CaricaFileIntero(ambiente, percorsi.lxb);
-  if (ambiente.disco.Esiste(percorsi.libretto))
-    MettiInSessione(LeggiFileLibretto(CaricaFileIntero(ambiente, percorsi.libretto)), sessione);
+  if (ambiente.disco.Esiste(percorsi.libretto)) {
+    std::string testo = CaricaFileIntero(ambiente, percorsi.libretto);
+    ControllaLibretto(percorsi.libretto, testo);
+    MettiInSessione(LeggiFileLibretto(std::move(testo)), sessione);
+  }
   sessione.NomeFileLibretto = percorsi.libretto;
   if (!sostitute.empty()) UnisciLxb(ambiente, sostitute);
 }

@@ -41,7 +41,7 @@ struct SezionePdf {
 // Reads NomeFileLibretto into Libretto, Ditta, EstrattoAssociato,
 // CodiceFiscale, NumeroIscrizione; the list is not touched. An .LXB gives new
 // measuring rows to the .DAT of the same name, and NomeFileLibretto stays at
-// the .DAT. A file that is not there leaves Libretto as it was. After an error
+// the .DAT. A file that is not there leaves Libretto as it was. Error 5 for one that is no libretto. After an error
 // the session is as it was.
 void CaricaLibrettoDaFile(Ambiente& ambiente);
 

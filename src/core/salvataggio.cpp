@@ -7,6 +7,7 @@
 #include <core/mostra_errore.h>
 #include <core/riga.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -188,17 +189,45 @@ std::string TestoDaSalvare(std::string&& libretto, const Sessione& sessione) {
   return DimezzaFineRiga(std::move(testo)) + fine;
 }
 
-bool EsportaLibrettoInFile(Ambiente& ambiente) {
-  return Intrappola(ambiente, [&] {
-    const std::string scelto = ambiente.dialoghi.ScegliFileDaSalvare({"Esporta Libretto", "c:\\", "zzz.dat", {}});
+std::string EsportaLibrettoInFile(Ambiente& ambiente) {
+  std::string scritto;
+  (void)Intrappola(ambiente, [&] {
+    const std::string& aperto = ambiente.sessione.NomeFileLibretto;
+    const std::string nome(NomeDaPercorso(aperto));
+    const std::string cartella = aperto.substr(0, aperto.size() - nome.size());
+    const std::string scelto = ambiente.dialoghi.ScegliFileDaSalvare(
+        {"Esporta Libretto", cartella.empty() ? "c:\\" : cartella, nome.empty() ? "zzz.dat" : nome, {}});
     if (Taglia(scelto).empty()) return;
     ambiente.disco.Scrivi(scelto, DimezzaFineRiga(ambiente.sessione.Libretto));
+    scritto = scelto;
   });
+  return scritto;
+}
+
+std::string QuanteRighe(std::size_t quante) {
+  return TestoIntero(static_cast<long long>(quante)) + (quante == 1 ? " riga" : " righe");
+}
+
+std::string FattoARighe(std::string_view participio, std::size_t quante) {
+  return std::string(participio) + (quante == 1 ? "a " : "e ") + QuanteRighe(quante);
+}
+
+std::string AvvisoSistemate(const Sessione& sessione) {
+  ElencoRighe elenco = sessione.List1;
+  const std::size_t ripetute = elenco.TogliRipetute();
+  const auto& righe = elenco.Righe();
+  const auto note = static_cast<std::size_t>(std::count_if(righe.begin(), righe.end(), DaPulire));
+  std::string avviso;
+  if (ripetute > 0)
+    avviso = FattoARighe("tolt", ripetute) + (ripetute == 1 ? " uguale" : " uguali") + " alla precedente";
+  if (note > 0)
+    avviso += (avviso.empty() ? "" : ", ") + FattoARighe("sistemat", note) + " con note da completare";
+  return avviso;
 }
 
 bool SalvaLibrettoMisure(Ambiente& ambiente) {
   ambiente.sessione.PuntoErrore = "SalvaLibrettoMisure";
-  if (ambiente.sessione.NomeFileLibretto.empty()) return EsportaLibrettoInFile(ambiente);
+  if (ambiente.sessione.NomeFileLibretto.empty()) return !EsportaLibrettoInFile(ambiente).empty();
   return ProvaASalvare(ambiente);
 }
 

@@ -42,8 +42,17 @@ bool SalvaLibrettoMisure(Ambiente& ambiente);
 // The same of what a save of Libretto writes.
 [[nodiscard]] std::uint64_t ImprontaLibretto(const Sessione& sessione);
 
-// Asks for a file and writes Libretto there, without tag rows; NomeFileLibretto
-// does not change. A cancel is silent.
-bool EsportaLibrettoInFile(Ambiente& ambiente);
+// Asks for a file, folder and name of the libretto being proposed, and writes Libretto there, without tag rows;
+// NomeFileLibretto does not change. A cancel is silent. The answer is the path written, empty for none.
+std::string EsportaLibrettoInFile(Ambiente& ambiente);
+
+// "1 riga", "173 righe".
+[[nodiscard]] std::string QuanteRighe(std::size_t quante);
+// "aggiunta 1 riga", "aggiunte 173 righe" for "aggiunt".
+[[nodiscard]] std::string FattoARighe(std::string_view participio, std::size_t quante);
+
+// What AggiornaLibrettoMisure will do to the rows as they stand, as a clause of a sentence: "tolte 2 righe ripetute,
+// sistemate 3 note"; empty when nothing is to be mended.
+[[nodiscard]] std::string AvvisoSistemate(const Sessione& sessione);
 
 } // namespace lirmeto

@@ -107,6 +107,16 @@ bool Storia::Registra(const Sessione& sessione, std::string_view nome) {
   return righe || ditta;
 }
 
+Storia::Differenza Storia::Ultima(const Sessione& sessione) const {
+  if (fatti_.empty()) return {};
+  const Passo& passo = fatti_.back();
+  Differenza differenza{passo.inizio, passo.quante, passo.altre.righe.size(), 0};
+  if (differenza.nuove != differenza.vecchie) return differenza;
+  for (std::size_t i = 0; i < passo.quante; ++i)
+    if (passo.altre.righe[i] != sessione.List1.Riga(passo.inizio + i)) ++differenza.diverse;
+  return differenza;
+}
+
 Storia::Passo Storia::Confronta(const Sessione& sessione) const {
   const ListaRighe& ora = sessione.List1.Righe();
   const std::size_t comuni = std::min(righe_.size(), ora.size());

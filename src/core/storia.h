@@ -23,6 +23,15 @@ public:
   // After a command: keeps what it changed as a step of this name. Whether it changed anything.
   bool Registra(const Sessione& sessione, std::string_view nome);
 
+  // What the last step did to the rows: where, how many rows stand there now, and how many stood there before.
+  struct Differenza {
+    std::size_t inizio = 0;
+    std::size_t nuove = 0;
+    std::size_t vecchie = 0;
+    std::size_t diverse = 0; // where as many stand as before
+  };
+  [[nodiscard]] Differenza Ultima(const Sessione& sessione) const;
+
   [[nodiscard]] bool PuoAnnullare() const { return !fatti_.empty(); }
   [[nodiscard]] bool PuoRipetere() const { return !annullati_.empty(); }
   // Name of the step that would be taken back or done again; empty when there is none.

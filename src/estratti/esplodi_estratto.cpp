@@ -232,6 +232,14 @@ std::string PercorsoEstratto(const Sessione& sessione, std::string_view nome) {
   return CartellaEstratti(sessione) + "\\" + ComponenteFile(nome);
 }
 
+bool EstrattoAssociatoPresente(Ambiente& ambiente) {
+  const std::string& nome = ambiente.sessione.EstrattoAssociato;
+  if (!nome.empty() && ambiente.disco.Esiste(PercorsoEstratto(ambiente.sessione, nome))) return true;
+  ambiente.dialoghi.Messaggio(nome.empty() ? std::string("Nessun Estratto di Mappa associato al Libretto!")
+                                           : "Estratto di Mappa non trovato: " + nome);
+  return false;
+}
+
 bool EsplodiEstratto(Ambiente& ambiente, KR_Estratto& estratto, std::string_view nome) {
   ambiente.sessione.PuntoErrore = "EsplodiEstratto";
   bool letto = false;

@@ -66,6 +66,9 @@ struct KR_Estratto {
 // Path of an extract: a name without "\" lies in Pregeo's folder. Throws Errore 52 for a name that is none.
 [[nodiscard]] std::string PercorsoEstratto(const Sessione& sessione, std::string_view nome);
 
+// Whether the libretto's extract is there; what is missing is told.
+[[nodiscard]] bool EstrattoAssociatoPresente(Ambiente& ambiente);
+
 // Reads an extract into its lists, behind what they hold, and into the session's strings. An error ends it with the
 // report: 9 for a row 0 of fewer than seven fields, an empty file, a row 7 or 8 that lacks a field that is read, a
 // continuation of a free line with nothing before it. A file that is not there is no error and leaves the lists empty.

@@ -7,6 +7,8 @@
 #include <base/errore.h>
 #include <base/testo.h>
 
+#include <chrono>
+#include <thread>
 #include <utility>
 
 namespace lirmeto {
@@ -19,6 +21,10 @@ std::unique_ptr<ArchivioAperto> ProcessiOspite::ApriArchivio(std::string byte) {
 
 std::string ProcessiOspite::VersioneFile(std::string_view percorso) {
   return VersioneDaEseguibile(disco_.Leggi(percorso));
+}
+
+void ProcessiOspite::Pausa(int millisecondi) {
+  std::this_thread::sleep_for(std::chrono::milliseconds(millisecondi));
 }
 
 fs::path TrovaProgramma(const DiscoDischi& disco, std::string_view programma) {

@@ -20,6 +20,7 @@ public:
 
   [[nodiscard]] std::unique_ptr<ArchivioAperto> ApriArchivio(std::string byte) final;
   [[nodiscard]] std::string VersioneFile(std::string_view percorso) final;
+  void Pausa(int millisecondi) final;
 
 protected:
   explicit ProcessiOspite(DiscoDischi& disco) : disco_(disco) {}

@@ -105,7 +105,7 @@ void KR_Dapregeo::AlCaricamento() {
   estrattoPrima_ = ambiente_.sessione.EstrattoAssociato;
   Grafica1.KR_Clear();
   Prova("CaricaPregeo800", &KR_Dapregeo::CaricaPregeo800);
-  Titolo = ambiente_.sessione.NomeFileLibretto;
+  Titolo = ConRicerca ? "Cerca nei Libretti in Pregeo" : ambiente_.sessione.NomeFileLibretto;
   CambiaRiga(0);
 }
 
@@ -126,6 +126,13 @@ void KR_Dapregeo::CambiaRiga(std::size_t riga) {
   Riga = riga;
   Svuota();
   Prova("MostraListaPregeo", &KR_Dapregeo::MostraListaPregeo);
+}
+
+bool KR_Dapregeo::Trovata(std::size_t riga) const {
+  const std::string cercato = Maiuscolo(Taglia(Cercato));
+  const RigaArchivio& celle = MSFlexGrid1.at(riga);
+  return std::any_of(celle.begin(), celle.end(),
+                     [&cercato](const std::string& cella) { return Contiene(Maiuscolo(cella), cercato); });
 }
 
 void KR_Dapregeo::Svuota() {

@@ -42,6 +42,8 @@ public:
   ListaRighe List2;                      // the libretto
   Grafica Grafica1;
   std::optional<std::size_t> Riga; // of the archive, the one that is shown
+  bool ConRicerca = false;         // the form is there to look for a libretto: it has a box for a text
+  std::string Cercato;             // the text
   bool Chiusa = false;
   std::optional<PosizioneForm> PostoSalvato; // where the form stood last
 
@@ -53,6 +55,9 @@ public:
   // Another row of the archive is shown; one that is not there changes nothing. Errors are reported, and what was shown
   // is taken away: it was another libretto.
   void CambiaRiga(std::size_t riga);
+
+  // Whether a row of the archive has the text looked for in one of its cells, in any case.
+  [[nodiscard]] bool Trovata(std::size_t riga) const;
 
   // The drawing again, as the display flags now have it loaded.
   void Ricarica() { Prova("Ricarica", &KR_Dapregeo::Disegna); }

@@ -66,6 +66,12 @@ void AvvisaPregeoAssente(Dialoghi& dialoghi) {
                      "Pregeo Assente", Gravita::Critico);
 }
 
+void ScriviRigheIni(Ambiente& ambiente) {
+  const std::string percorso = PercorsoPregeoIni(ambiente.sessione);
+  const std::string originale = ambiente.disco.Esiste(percorso) ? ambiente.disco.Leggi(percorso) : std::string{};
+  ambiente.disco.Scrivi(percorso, TestoIni(ambiente.sessione.RighePregeoIni, originale));
+}
+
 } // namespace
 
 void SistemaDatiPregeoIni(Sessione& sessione) {
@@ -106,9 +112,19 @@ void SalvaPregeoIni(Ambiente& ambiente) {
   Sessione& sessione = ambiente.sessione;
   if (sessione.RighePregeoIni.empty()) return; // no installation was found: nothing to write back
   ScriviDatiPregeoIni(sessione);
-  const std::string percorso = PercorsoPregeoIni(sessione);
-  const std::string originale = ambiente.disco.Esiste(percorso) ? ambiente.disco.Leggi(percorso) : std::string{};
-  ambiente.disco.Scrivi(percorso, TestoIni(sessione.RighePregeoIni, originale));
+  ScriviRigheIni(ambiente);
+}
+
+bool SalvaMisurateInPregeoIni(Ambiente& ambiente) {
+  Sessione& sessione = ambiente.sessione;
+  bool trovata = false;
+  for (std::string& riga : sessione.RighePregeoIni) {
+    if (!Contiene(Maiuscolo(riga), "FILE_DISTANZETAF")) continue;
+    riga = RigaIniConValore(riga, sessione.MisurateAssociate);
+    trovata = true;
+  }
+  if (trovata) ScriviRigheIni(ambiente);
+  return trovata;
 }
 
 void AggiornaConfigurazionePregeo(Ambiente& ambiente) {

@@ -21,6 +21,10 @@ void ScriviDatiPregeoIni(Sessione& sessione);
 // ScriviDatiPregeoIni, then the file: its bytes stay but for the values that changed, its line ends as they were.
 void SalvaPregeoIni(Ambiente& ambiente);
 
+// MisurateAssociate alone into the file and RighePregeoIni, all other values as they stand there. False when no line of
+// PREGEO.INI has the key FILE_DISTANZETAF, and nothing is written.
+[[nodiscard]] bool SalvaMisurateInPregeoIni(Ambiente& ambiente);
+
 // Takes the header of the open libretto as the defaults of Pregeo: province codes from the tables, then
 // SalvaPregeoIni. A session without a name gets surname and name from the surveyor's text.
 void AggiornaConfigurazionePregeo(Ambiente& ambiente);

@@ -44,14 +44,14 @@ std::string TestoPfs(const Sessione& sessione) {
          Linea({sessione.Cognome}) + Linea({sessione.Nome}) + Linea({sessione.Recapito});
 }
 
+} // namespace
+
 std::string DataEOra(const Orologio& orologio) {
   const Data oggi = orologio.Oggi();
   const Ora adesso = orologio.Adesso();
   return Formatta(oggi.anno, "0000") + "-" + Formatta(oggi.mese, "00") + "-" + Formatta(oggi.giorno, "00") + "_" +
          Formatta(adesso.ore, "00") + "-" + Formatta(adesso.minuti, "00") + "-" + Formatta(adesso.secondi, "00");
 }
-
-} // namespace
 
 void SalvaTecnico(Ambiente& ambiente) {
   Sessione& sessione = ambiente.sessione;

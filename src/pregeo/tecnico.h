@@ -20,4 +20,7 @@ void CaricaTecnico(Ambiente& ambiente, std::string_view nomeFile);
 // Copies Arch2Db to \pregeo\arch\BackupDB\ as NAME_yyyy-mm-dd_hh-mm-ss.db.
 void SalvaArch2(Ambiente& ambiente);
 
+// Now, as the names of dated copies have it: "2026-11-21_09-05-07".
+[[nodiscard]] std::string DataEOra(const Orologio& orologio);
+
 } // namespace lirmeto

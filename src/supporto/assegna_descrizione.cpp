@@ -12,10 +12,6 @@ namespace {
 
 constexpr std::string_view Titolo = "Cambia Descrizione";
 
-std::string QuanteRighe(std::size_t quante) {
-  return TestoIntero(static_cast<long long>(quante)) + (quante == 1 ? " riga" : " righe");
-}
-
 } // namespace
 
 void AssegnaDescrizione::AlCaricamento() {

@@ -9,6 +9,7 @@
 #include <ui/fiduciali/finestra_elco_pf_grafica.h>
 #include <ui/fiduciali/finestra_elco_pf_griglia.h>
 #include <ui/fiduciali/finestra_importa_fiduciali.h>
+#include <ui/fiduciali/finestra_quote_medie.h>
 #include <ui/fiduciali/finestra_seleziona_misurate.h>
 #include <ui/generazione/finestra_libretto_disegno.h>
 #include <ui/generazione/finestra_mappali.h>
@@ -92,6 +93,7 @@ constexpr std::array Mostratori = {
     Mostra<CompletaAutoallestito, FinestraCompleta>("CompletaAutoallestito"),
     Mostra<FormImportaFiduciali, FinestraImportaFiduciali>("FormImportaFiduciali"),
     Mostra<KR_SelezionaMisurate, FinestraSelezionaMisurate>("KR_SelezionaMisurate"),
+    Mostra<QuoteMedie, FinestraQuoteMedie>("QuoteMedie"),
     Mostra<KR_ElcoPf, FinestraElcoPf>("KR_ElcoPf"),
     Mostra<KR_ElcoPfGriglia, FinestraElcoPfGriglia>("KR_ElcoPfGriglia"),
     Mostra<KR_ElcoPFGrafica, FinestraElcoPfGrafica>("KR_ElcoPFGrafica"),

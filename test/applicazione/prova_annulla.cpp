@@ -166,6 +166,7 @@ TEST(Scartate, LAvvisoRestaFinoAlProssimoCambiamento) {
   EXPECT_EQ(sala.finestra.AvvisoScartate, "");
   sala.finestra.Esegui(Comando::Ripeti);
   EXPECT_EQ(sala.sessione.RigheScartate.size(), 2U);
+  sala.dialoghi.risposte = {Risposta::Si};
   sala.finestra.Esegui(Comando::IncollaDaAppunti);
   EXPECT_EQ(sala.finestra.AvvisoScartate, "");
 }

@@ -40,7 +40,7 @@ TEST_P(Riga, FaUnaCosaSola) {
   const CasoRiga& caso = GetParam();
   Banco banco;
   banco.disco.Metti("C:\\ATTO.DAT", Atto);
-  banco.disco.Metti("C:\\E.EMP", "x");
+  banco.disco.Metti("C:\\E.EMP", "8|x|");
   banco.disco.rotti["C:\\ROTTO.DAT"] = errore::AutorizzazioneNegata;
   banco.finestre.disponibili = {"FormConfiguraPregeo", "KR_SelezionaMisurate"};
   banco.sessione.ComandoTag = caso.riga;
@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         CasoRiga{"percorso", "\"c:\\atto.dat\"", Resta, "C:\\ATTO.DAT", "", ""},
         CasoRiga{"soloVirgolette", "\"\"", Resta, "", "", ""},
-        CasoRiga{"assente", "C:\\manca.dat", Resta, "C:\\MANCA.DAT", "", ""},
+        CasoRiga{"assente", "C:\\manca.dat", Resta, "", "", "+C:\\MANCA.DAT\r\nNON trovato!"},
         CasoRiga{"illeggibile", "C:\\rotto.dat", Resta, "", "", "+Rilevato errore"},
         CasoRiga{"estratto", "c:\\e.emp", Resta, "", "", "+Copia Estratto in Pregeo" + NonAncora},
         CasoRiga{"estrattoAssente", "c:\\manca.png", Resta, "", "", "+Rilevato errore" + NonAncora},
@@ -235,9 +235,10 @@ TEST(Avvio, UnComandoNonPreparaLaFinestra) {
   EXPECT_EQ(banco.Righe().size(), 2U);
 }
 
-TEST(Strumenti, LaTagPassaDalloSmistamentoELeCaselleSeguono) {
+TEST(Strumenti, LaTagRestaELeCaselleSeguono) {
   Banco banco;
-  banco.finestre.disponibili = {"FormConfiguraPregeo", "KR_ElcoPf"};
+  banco.finestre.disponibili = {"FormConfiguraPregeo", "KR_ElcoPf", "KR_Dapregeo.Cerca", "KR_Dapregeo", "QuoteMedie"};
+  banco.dialoghi.fileScelto = "*";
   KR_LibrettoOriginale finestra(banco.ambiente);
   finestra.Avvia("");
   for (const auto& strumento : Strumenti()) {
@@ -248,8 +249,8 @@ TEST(Strumenti, LaTagPassaDalloSmistamentoELeCaselleSeguono) {
   }
   finestra.Esegui(Comando::ArchiviaLibretti);
   EXPECT_EQ(banco.sessione.ComandoTag, "Silvarca");
-  EXPECT_EQ(banco.finestre.aperte, (std::vector<std::string>{"FormConfiguraPregeo", "KR_ElcoPf"}));
-  EXPECT_TRUE(banco.dialoghi.detti.empty());
+  EXPECT_EQ(banco.finestre.aperte, (std::vector<std::string>{"QuoteMedie", "FormConfiguraPregeo", "KR_Dapregeo",
+                                                             "KR_ElcoPf", "KR_Dapregeo.Cerca"}));
 }
 
 // A wrong index is either that of a neighbour or one that no button had.
@@ -272,6 +273,7 @@ TEST(Pulsanti, OgnunoHaIlSuoIndice) {
 TEST(Forme, OgnunaSiApreColSuoModelloCaricato) {
   Banco banco;
   banco.sessione.EstrattoAssociato = "A.EMP";
+  banco.disco.Metti("C:\\PREGEO\\ESTRATTI\\A.EMP", "0|1|\r\n");
   for (const Forma& form : Forme()) {
     bool mostrata = false;
     banco.finestre.utente = [&](Modello& modello) {

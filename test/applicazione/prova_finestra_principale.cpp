@@ -61,14 +61,6 @@ TEST(Avvio, SenzaPregeoESenzaLibretto) {
                                  "9|20|10|20|1070|10.00-G,STDA 2.08|18|TIPO SENZA GEOMETRIA|"}));
 }
 
-TEST(Avvio, UnSecondoAvvioLiTerminaTutti) {
-  Sala sala;
-  sala.processi.vivi["Lirmeto.exe"] = {5, 1};
-  EXPECT_FALSE(sala.finestra.Avvia(""));
-  EXPECT_EQ(sala.dialoghi.UltimoTesto(), "Modulo già attivo!"_w);
-  EXPECT_EQ(sala.processi.terminati, (std::vector<long>{5, 1}));
-}
-
 TEST(Avvio, UnFileIllegginileNonDiventaIlLibretto) {
   Sala sala;
   sala.disco.rotti["C:\\ACT.DAT"] = errore::AutorizzazioneNegata;
@@ -162,6 +154,7 @@ TEST(Comandi, IncollaRiordinaESalva) {
   Sala sala;
   sala.finestra.Avvia("C:\\ACT.DAT");
   sala.appunti.testo = Testo({"8|2|2|2|", Zero, "6|a|b|", Nove, "1|1|1.5|N|"}) + "8|dopo l'ultima fine riga|";
+  sala.dialoghi.risposte = {Risposta::Si};
   sala.finestra.Esegui(Comando::IncollaDaAppunti);
   EXPECT_EQ(sala.Righe().size(),
             7U); // rows 0 and 9 are put before what is not theirs
@@ -235,7 +228,7 @@ TEST(Comandi, OpzioniFormEConfigurazione) {
   sala.finestra.Avvia("C:\\ACT.DAT");
   sala.finestra.Esegui(Comando::NessunaOpzione);
   EXPECT_FALSE(sala.finestra.Opzioni[4].spuntata);
-  EXPECT_TRUE(sala.impostazioni.valori.empty());
+  EXPECT_FALSE(sala.impostazioni.valori.contains("LIBRETTO_AUTOMATICO/Riordino Righe"));
   sala.finestra.Esegui(Comando::TutteLeOpzioni);
   EXPECT_TRUE(sala.finestra.Opzioni[4].spuntata);
   EXPECT_EQ(sala.impostazioni.valori["LIBRETTO_AUTOMATICO/Riordino Righe"], "1");

@@ -111,6 +111,7 @@ public:
   std::function<std::unique_ptr<ArchivioAperto>(std::string)> apriArchivio; // none: no archive can be read
   // What a program does that is started and waited for.
   std::function<void(const std::string& programma, const std::vector<std::string>& argomenti)> quandoAvvia;
+  std::function<void()> quandoAspetta; // what the others do meanwhile
 
   [[nodiscard]] CartelleDiSistema Cartelle() override {
     return {"C:\\users\\prova\\Documents", "C:\\WINDOWS", "C:\\users\\prova\\Temp", "C:\\Program Files (x86)"};
@@ -127,6 +128,10 @@ public:
     Guastati(percorso);
     aperti.push_back(percorso);
   }
+  void Avvia(const std::string& programma) override {
+    Guastati(programma);
+    avviati.push_back("lascia " + programma);
+  }
   void ApriPagina(const std::string& indirizzo) override { aperti.push_back(indirizzo); }
   void ApriDocumentoCon(const std::string& programma, const std::string& percorso) override {
     Guastati(programma);
@@ -141,6 +146,9 @@ public:
   [[nodiscard]] std::unique_ptr<ArchivioAperto> ApriArchivio(std::string byte) override {
     if (!apriArchivio) throw Errore(errore::OltreLaFine);
     return apriArchivio(std::move(byte));
+  }
+  void Pausa(int /*millisecondi*/) override {
+    if (quandoAspetta) quandoAspetta();
   }
   void MostraDesktop() override { avviati.emplace_back("desktop"); }
   void CreaCollegamento(const Collegamento& collegamento) override;

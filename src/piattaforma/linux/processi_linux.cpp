@@ -264,6 +264,16 @@ void ProcessiLinux::ApriDocumentoCon(const std::string& programma, const std::st
   lasciati_.push_back(avvio.Figlio());
 }
 
+void ProcessiLinux::Avvia(const std::string& programma) {
+  RaccogliFiniti();
+  const fs::path eseguibile = TrovaProgramma(disco_, programma);
+  Avvio avvio;
+  avvio.Muto();
+  avvio.Cartella(eseguibile.parent_path());
+  ControllaAvvio(avvio.Inizia({eseguibile.string()}, AmbienteConDischi(disco_.Dischi()), false));
+  lasciati_.push_back(avvio.Figlio());
+}
+
 std::vector<long> ProcessiLinux::Elenca(std::string_view immagine) {
   std::vector<long> processi;
   std::error_code guasto;

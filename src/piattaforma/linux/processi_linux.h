@@ -25,6 +25,7 @@ public:
 
   // Through the desktop's own opener, xdg-open. One that says within a second that it could not is error 75.
   void ApriDocumento(const std::string& percorso) override;
+  void Avvia(const std::string& programma) override;
   void ApriPagina(const std::string& indirizzo) override;
   void ApriDocumentoCon(const std::string& programma, const std::string& percorso) override;
 

@@ -62,7 +62,7 @@ struct Avviato {
 };
 
 // `cartella` is where it works.
-Avviato Avvia(const fs::path& programma, const std::vector<std::string>& argomenti, const fs::path& cartella) {
+Avviato Lancia(const fs::path& programma, const std::vector<std::string>& argomenti, const fs::path& cartella) {
   std::vector<std::wstring> parole{programma.native()};
   for (const std::string& argomento : argomenti) parole.push_back(Largo(argomento));
   std::wstring riga = RigaDiParole(parole);
@@ -171,12 +171,17 @@ void ProcessiWindows::CreaCartelleDiSistema() {
 int ProcessiWindows::AvviaEAttendi(const std::string& programma, const std::vector<std::string>& argomenti,
                                    const std::function<bool()>& attende) {
   const fs::path ospite = TrovaProgramma(disco_, programma);
-  return AttendiFine(Avvia(ospite, ParoleDelProgramma(argomenti), ospite.parent_path()), attende);
+  return AttendiFine(Lancia(ospite, ParoleDelProgramma(argomenti), ospite.parent_path()), attende);
 }
 
 void ProcessiWindows::ApriDocumento(const std::string& percorso) {
   if (!disco_.Esiste(percorso)) throw Errore(errore::FileNonTrovato);
   ApriConLaShell(disco_.PercorsoOspite(percorso), percorso);
+}
+
+void ProcessiWindows::Avvia(const std::string& programma) {
+  const fs::path eseguibile = TrovaProgramma(disco_, programma);
+  (void)Lancia(eseguibile, {}, eseguibile.parent_path());
 }
 
 void ProcessiWindows::ApriPagina(const std::string& indirizzo) {
@@ -187,7 +192,7 @@ void ProcessiWindows::ApriDocumentoCon(const std::string& programma, const std::
   const fs::path eseguibile = TrovaProgramma(disco_, programma);
   if (!disco_.Esiste(percorso)) throw Errore(errore::FileNonTrovato);
   const fs::path ospite = disco_.PercorsoOspite(percorso);
-  (void)Avvia(eseguibile, {Stretto(ospite.filename().native())}, ospite.parent_path());
+  (void)Lancia(eseguibile, {Stretto(ospite.filename().native())}, ospite.parent_path());
 }
 
 std::vector<long> ProcessiWindows::Elenca(std::string_view immagine) {

@@ -20,6 +20,7 @@ public:
                     const std::function<bool()>& attende) override;
 
   void ApriDocumento(const std::string& percorso) override;
+  void Avvia(const std::string& programma) override;
   void ApriPagina(const std::string& indirizzo) override;
   void ApriDocumentoCon(const std::string& programma, const std::string& percorso) override;
 

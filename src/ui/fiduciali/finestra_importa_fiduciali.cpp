@@ -26,7 +26,9 @@ void Riempi(QListWidget& elenco, const std::vector<std::string>& righe) {
 FinestraImportaFiduciali::FinestraImportaFiduciali(FormImportaFiduciali& modello, QWidget* padre)
     : QDialog(padre), modello_(modello), libretto_(new QListWidget(this)), taf_(new QListWidget(this)),
       quote_(new QCheckBox(QStringLiteral("Aggiungi Righe Quota"), this)), conto_(new QLabel(this)) {
-  setWindowTitle(QStringLiteral("Importa Fiduciali da TAF"));
+  setWindowTitle(modello_.DaEstratto() ? QStringLiteral("Importa Fiduciali da Estratto")
+                                       : QStringLiteral("Importa Fiduciali da TAF"));
+  quote_->setVisible(!modello_.DaEstratto()); // an extract tells no heights
   quote_->setChecked(modello_.AggiungiRigheQuota);
   auto* sotto = new QHBoxLayout;
   sotto->addWidget(quote_);
@@ -51,7 +53,8 @@ QHBoxLayout* FinestraImportaFiduciali::CreaElenchi() {
   auto* elenchi = new QHBoxLayout;
   elenchi->setSpacing(12);
   elenchi->addWidget(ColonnaElenco(QStringLiteral("Pieffe Trovati nel Libretto"), *libretto_), 2);
-  elenchi->addWidget(ColonnaElenco(QStringLiteral("Pieffe Trovati in Taf"), *taf_), 5);
+  elenchi->addWidget(ColonnaElenco(modello_.DaEstratto() ? QStringLiteral("Pieffe dell'Estratto")
+                                                  : QStringLiteral("Pieffe Trovati in Taf"), *taf_), 5);
   taf_->setUniformItemSizes(false); // rows of every length: the longest is what can be scrolled to
   taf_->setTextElideMode(Qt::ElideNone);
   return elenchi;
@@ -60,10 +63,11 @@ QHBoxLayout* FinestraImportaFiduciali::CreaElenchi() {
 QHBoxLayout* FinestraImportaFiduciali::CreaPiede() {
   const PiedeScelta piede = CreaPiedeScelta(QStringLiteral("Sostituisci Righe 8"), *this);
   piede.conferma->setToolTip(
-      QStringLiteral("Tutte le righe 8 del libretto, anche quelle di altri punti, lasciano il posto a quelle trovate "
-                     "in TAF. «Annulla» del menu Modifica Libretto le rimette."));
+      QStringLiteral("Le righe 8 dei punti trovati lasciano il posto a quelle dell'elenco a destra; le altre restano. "
+                     "«Annulla» del menu Modifica Libretto rimette quelle di prima."));
   auto* importa = new QPushButton(Icona(QStringLiteral("importa")), QStringLiteral("Importa TAF e Misurate"), this);
   importa->setObjectName(QStringLiteral("Importa"));
+  importa->setVisible(!modello_.DaEstratto());
   importa->setAutoDefault(false);
   piede.riga->insertWidget(0, importa);
   connect(piede.conferma, &QPushButton::clicked, this, [this] {
@@ -80,7 +84,10 @@ QHBoxLayout* FinestraImportaFiduciali::CreaPiede() {
 void FinestraImportaFiduciali::Mostra() {
   Riempi(*libretto_, modello_.List1);
   Riempi(*taf_, modello_.List2);
-  conto_->setText(QStringLiteral("In TAF %1 di %2").arg(modello_.PuntiInTaf).arg(modello_.List1.size()));
+  conto_->setText(QStringLiteral("In %1 %2 di %3")
+                      .arg(modello_.DaEstratto() ? QStringLiteral("Estratto") : QStringLiteral("TAF"))
+                      .arg(modello_.PuntiInTaf)
+                      .arg(modello_.List1.size()));
 }
 
 } // namespace lirmeto::ui

@@ -17,6 +17,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QShortcut>
@@ -50,7 +51,7 @@ FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDa
       posizione_(new QLabel(this)), verifiche_(new ElencoVerifiche(modello.Verifiche, this)),
       rilievo_(new PannelloRilievo(modello.Rilievo, this)), accanto_(new QSplitter(Qt::Horizontal, this)),
       sopra_(new QSplitter(Qt::Vertical, this)), conta_(new QToolButton(this)), ritardo_(new QTimer(this)),
-      scartate_(new QToolButton(this)) {
+      scartate_(new QToolButton(this)), esito_(new QLabel(this)), consegne_(new QTimer(this)) {
   setObjectName(QStringLiteral("KR_LibrettoOriginale"));
   RiempiMenu(*menuBar(), Disponibile(), [this](Comando comando) { Comanda(comando); });
   auto* piano = new QSplitter(Qt::Horizontal, this);
@@ -84,8 +85,22 @@ FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDa
     modello_.PuntatoreSuPulsante(indice);
     MostraStrumenti();
   });
+  CollegaConsegne();
   Mostra();
   righe_->setFocus();
+}
+
+// What a second start hands over is taken at once, while a dialog is open too, and done when the window is free.
+void FinestraPrincipale::CollegaConsegne() {
+  constexpr int ogni = 500; // milliseconds
+  connect(consegne_, &QTimer::timeout, this, [this] {
+    if (chiusa_ || !modello_.ArrivateConsegne() || occupata_) return;
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    Fa([this] { modello_.EseguiConsegne(); });
+  });
+  consegne_->start(ogni);
 }
 
 QWidget* FinestraPrincipale::CreaCentro() {
@@ -146,13 +161,17 @@ QWidget* FinestraPrincipale::CreaPiede() {
   scartate_->setToolTip(QStringLiteral("Mostra l'elenco delle righe scartate"));
   scartate_->setFocusPolicy(Qt::TabFocus);
   connect(scartate_, &QToolButton::clicked, this, [this] { Comanda(Comando::MostraRigheScartate); });
+  esito_->setObjectName(QStringLiteral("Esito"));
+  esito_->setTextFormat(Qt::PlainText);
+  esito_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   conta_->setObjectName(QStringLiteral("ContaVerifiche"));
   conta_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   conta_->setToolTip(QStringLiteral("Mostra o nasconde l'elenco delle segnalazioni (Ctrl+F8)"));
   conta_->setAutoRaise(true);
   conta_->setFocusPolicy(Qt::TabFocus);
   connect(conta_, &QToolButton::clicked, this, [this] { Comanda(Comando::MostraVerifiche); });
-  riga->addWidget(spiegazione_, 1);
+  riga->addWidget(spiegazione_, 3);
+  riga->addWidget(esito_, 2);
   riga->addWidget(conta_);
   riga->addWidget(scartate_);
   return piede;
@@ -265,6 +284,7 @@ void FinestraPrincipale::Fa(const std::function<void()>& azione) {
     azione();
   }
   Mostra();
+  if (modello_.PrimaNuova) righe_->PortaInVista(*std::exchange(modello_.PrimaNuova, std::nullopt));
   ChiudiSeFinita();
 }
 
@@ -294,7 +314,21 @@ void FinestraPrincipale::Mostra() {
   if (righe_->font() != carattere) righe_->setFont(carattere);
   MostraElenco();
   MostraStoria();
+  MostraEsito();
   MostraVerifiche();
+}
+
+// What the last command did; the files opened last.
+void FinestraPrincipale::MostraEsito() {
+  esito_->setText(AQString(modello_.Esito));
+  esito_->setToolTip(esito_->text());
+  esito_->setVisible(!modello_.Esito.empty());
+  if (recenti_ == modello_.Recenti) return;
+  recenti_ = modello_.Recenti;
+  RiempiRecenti(*menuBar()->findChild<QMenu*>(QString::fromLatin1(MenuRecenti)), recenti_, [this](std::size_t quale) {
+    // The command fills the menu anew: its entry must have gone from the stack by then.
+    QTimer::singleShot(0, this, [this, quale] { Fa([&] { modello_.ApriRecente(quale); }); });
+  });
 }
 
 // The entries that name the last command, and the notice of the last reorder.

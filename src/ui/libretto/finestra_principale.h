@@ -53,12 +53,14 @@ private:
   void CollegaElenco();
   void CollegaRicerca();
   void CollegaVerifiche();
+  void CollegaConsegne();
   void CreaScorciatoie();
   void Comanda(Comando comando);
   void Fa(const std::function<void()>& azione);
   void Lascia(const QString& percorsoOspite);
   void MostraElenco();
   void MostraStoria();
+  void MostraEsito();
   void MostraStrumenti();
   void MostraSpiegazione();
   void AggiornaVerifiche();
@@ -90,6 +92,9 @@ private:
   QToolButton* conta_;               // how many findings there are; shows and hides their list
   QTimer* ritardo_;                  // the checks follow when the event loop is free
   QToolButton* scartate_;            // notice of the rows that a reorder dropped; lists them
+  QLabel* esito_;                    // what the last command did
+  QTimer* consegne_;                 // looks for what a second start hands over
+  std::vector<std::string> recenti_; // as the menu shows them
   std::vector<std::size_t> trovate_; // rows that hold the text looked for
   std::optional<unsigned long> versioneTrovate_;
   bool occupata_ = false; // a command is running

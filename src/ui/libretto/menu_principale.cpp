@@ -31,16 +31,20 @@ public:
   void Aggiungi(const VoceMenu& voce) {
     QMenu* menu = Menu(AQString(voce.menu));
     if (!voce.sottomenu.empty()) menu = Sottomenu(*menu, AQString(voce.sottomenu));
+    if (voce.comando == Comando::LibrettiRecenti) {
+      QMenu* recenti = Sottomenu(*menu, AQString(voce.didascalia));
+      recenti->setObjectName(QString::fromLatin1(MenuRecenti));
+      recenti->menuAction()->setToolTip(AQString(EffettoDi(voce.comando)));
+      return;
+    }
     if (voce.didascalia == Separatore) {
       menu->addSeparator();
       return;
     }
     QAction* azione = menu->addAction(ConMnemonica(AQString(voce.didascalia), prese_[menu]));
     azione->setData(static_cast<int>(voce.comando));
-    if (!disponibile_(voce.comando)) {
-      azione->setEnabled(false);
-      azione->setToolTip(AQString(NonAncoraDisponibile));
-    }
+    azione->setToolTip(AQString(EffettoDi(voce.comando)));
+    azione->setEnabled(disponibile_(voce.comando));
     if (!usate_.contains(voce.comando)) azione->setShortcut(Scorciatoia(voce.comando));
     usate_.insert(voce.comando);
     QObject::connect(azione, &QAction::triggered, &barra_,
@@ -79,6 +83,10 @@ QKeySequence Scorciatoia(Comando comando) {
   switch (comando) {
   case Comando::NuovoLibretto:
     return QKeySequence(Qt::CTRL | Qt::Key_N);
+  case Comando::ApriDaFile:
+    return QKeySequence(Qt::CTRL | Qt::Key_O);
+  case Comando::StampaLibretto:
+    return QKeySequence(Qt::CTRL | Qt::Key_P);
   case Comando::SalvaLibretto:
     return QKeySequence(Qt::CTRL | Qt::Key_S);
   case Comando::EsportaLibretto:
@@ -115,6 +123,17 @@ QAction* VoceDi(const QMenuBar& barra, Comando comando) {
     for (QAction* voce : menu->menu()->actions())
       if (!voce->data().isNull() && voce->data().toInt() == static_cast<int>(comando)) return voce;
   return nullptr;
+}
+
+// Numbered, the first nine by a mnemonic: a path may hold any character, "&" too.
+void RiempiRecenti(QMenu& menu, const std::vector<std::string>& recenti, const std::function<void(std::size_t)>& apri) {
+  menu.clear();
+  for (std::size_t i = 0; i < recenti.size(); ++i) {
+    const QString percorso = AQString(recenti[i]).replace(u'&', QStringLiteral("&&"));
+    QAction* azione = menu.addAction(QStringLiteral("&%1 %2").arg(i + 1).arg(percorso));
+    QObject::connect(azione, &QAction::triggered, &menu, [apri, i] { apri(i); });
+  }
+  menu.setEnabled(!recenti.empty());
 }
 
 void RiempiMenu(QMenuBar& barra, const ComandoDisponibile& disponibile, const EseguiComando& esegui) {

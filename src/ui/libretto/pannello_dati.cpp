@@ -111,20 +111,8 @@ void PannelloDati::AggiungiOpzioni(QVBoxLayout& colonna) {
   opzioni_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   opzioni_->setUniformItemSizes(true);
   colonna.addWidget(opzioni_);
-  const auto aggiungi = [this](const QString& testo, Comando comando) {
-    auto* voce = new QAction(testo, opzioni_);
-    connect(voce, &QAction::triggered, this, [this, comando] {
-      modello_.Esegui(comando);
-      Mostra();
-    });
-    opzioni_->addAction(voce);
-  };
-  opzioni_->setContextMenuPolicy(Qt::ActionsContextMenu);
-  aggiungi(QStringLiteral("Spunta tutte"), Comando::TutteLeOpzioni);
-  aggiungi(QStringLiteral("Togli tutte"), Comando::NessunaOpzione);
-  connect(opzioni_, &QListWidget::itemChanged, this, [this](QListWidgetItem* voce) {
-    modello_.Opzioni.at(static_cast<std::size_t>(opzioni_->row(voce))).spuntata = voce->checkState() == Qt::Checked;
-  });
+  opzioni_->setEnabled(false); // nothing in the system stands behind them
+  opzioni_->setToolTip(AQString(EffettoDi(Comando::NessunaAzione)));
 }
 
 // What was typed goes in upper case into the model, and the box shows the same letters.

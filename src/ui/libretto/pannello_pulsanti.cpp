@@ -78,9 +78,9 @@ QToolButton* PannelloPulsanti::CreaBottone(const Pulsante& pulsante) {
   bottone->setSizePolicy(figura ? QSizePolicy::Fixed : QSizePolicy::Expanding, QSizePolicy::Fixed);
   bottone->setProperty(Indice, pulsante.indice);
   const QString tasti = Scorciatoia(pulsante.comando).toString(QKeySequence::NativeText);
-  if (!tasti.isEmpty()) bottone->setToolTip(QStringLiteral("%1 (%2)").arg(bottone->text(), tasti));
+  const QString effetto = AQString(EffettoDi(pulsante.comando));
+  bottone->setToolTip(tasti.isEmpty() ? effetto : QStringLiteral("%1 (%2)").arg(effetto, tasti));
   bottone->setEnabled(disponibile_(pulsante.comando));
-  if (!bottone->isEnabled()) bottone->setToolTip(AQString(NonAncoraDisponibile));
   bottone->installEventFilter(this);
   const Comando comando = pulsante.comando;
   connect(bottone, &QToolButton::clicked, this, [this, comando] { emit Premuto(comando); });

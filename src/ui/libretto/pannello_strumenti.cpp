@@ -22,6 +22,7 @@ PannelloStrumenti::PannelloStrumenti(QWidget* padre) : QFrame(padre) {
     auto* bottone = new QPushButton(this);
     bottone->setText(AQString(strumento.didascalia));
     bottone->setObjectName(AQString(strumento.tag));
+    bottone->setToolTip(AQString(EffettoDi(strumento.comando)));
     bottone->setFlat(true);
     bottone->setFocusPolicy(Qt::NoFocus);
     connect(bottone, &QPushButton::clicked, this, [this, tag = strumento.tag] { emit Premuto(tag); });

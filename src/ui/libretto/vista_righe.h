@@ -41,6 +41,9 @@ public:
   // Makes the row the only selected one and brings it into view.
   void VaiA(std::size_t riga);
 
+  // Brings the row into view and leaves the selection alone.
+  void PortaInVista(std::size_t riga) { MostraRiga(static_cast<long>(riga)); }
+
   [[nodiscard]] std::optional<std::size_t> RigaAlPunto(const QPoint& punto) const;
   [[nodiscard]] QRect RettangoloRiga(std::size_t riga) const; // of the viewport; may lie outside it
 

@@ -7,6 +7,7 @@
 #include <ui/disegno/grafica_pannello.h>
 
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -87,6 +88,7 @@ FinestraDapregeo::FinestraDapregeo(KR_Dapregeo& modello, QWidget* padre)
   for (QSplitter* uno : {sotto, piano}) uno->setChildrenCollapsible(false);
   auto* colonna = new QVBoxLayout(this);
   colonna->setContentsMargins(10, 10, 10, 10);
+  if (modello_.ConRicerca) colonna->addWidget(CreaRicerca());
   colonna->addWidget(piano, 1);
   colonna->addLayout(CreaPiede());
   MostraArchivio();
@@ -100,6 +102,20 @@ FinestraDapregeo::FinestraDapregeo(KR_Dapregeo& modello, QWidget* padre)
   connect(disegno_, &GraficaPannello::FineRichiesta, this, &QDialog::reject);
   AdattaAlloSchermo(*this, Larghezza, Altezza);
   RimettiAlPosto(*this, modello_.PostoSalvato);
+}
+
+// Rows of the archive that lack the text are hidden.
+QWidget* FinestraDapregeo::CreaRicerca() {
+  auto* cerca = new QLineEdit(this);
+  cerca->setObjectName(QStringLiteral("Cercato"));
+  cerca->setPlaceholderText(QStringLiteral("Cerca: anno, protocollo, tecnico, comune, foglio, stato"));
+  cerca->setClearButtonEnabled(true);
+  connect(cerca, &QLineEdit::textChanged, this, [this](const QString& testo) {
+    modello_.Cercato = DaQString(testo);
+    for (int riga = 0; riga < archivio_->rowCount(); ++riga)
+      archivio_->setRowHidden(riga, !modello_.Trovata(static_cast<std::size_t>(riga)));
+  });
+  return cerca;
 }
 
 QWidget* FinestraDapregeo::CreaLibretto() {

@@ -122,14 +122,13 @@ TEST(FinestraPrincipale, IlPannelloDegliStrumentiSegueIlPuntatore) {
   EXPECT_FALSE(strumenti->isVisible());
 }
 
-TEST(FinestraPrincipale, LeOpzioniSonoSpuntateESiTolgono) {
+TEST(FinestraPrincipale, LeOpzioniSonoSpenteELoDicono) {
   Tavolo tavolo;
   auto& opzioni = Figlio<QListWidget>(tavolo, "Opzioni");
   ASSERT_EQ(opzioni.count(), 9);
   EXPECT_EQ(opzioni.item(0)->text(), QStringLiteral("Avvisa Protocollo NON Numerico"));
-  opzioni.item(3)->setCheckState(Qt::Unchecked);
-  EXPECT_FALSE(tavolo.modello.Opzioni[3].spuntata);
-  EXPECT_TRUE(tavolo.modello.Opzioni[2].spuntata);
+  EXPECT_FALSE(opzioni.isEnabled());
+  EXPECT_EQ(opzioni.toolTip(), ui::AQString(EffettoDi(Comando::NessunaAzione)));
 }
 
 // --- boxes

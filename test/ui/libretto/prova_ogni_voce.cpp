@@ -1,10 +1,12 @@
 #include <ui/tavolo.h>
 
+#include <ui/libretto/menu_principale.h>
 #include <ui/libretto/pannello_pulsanti.h>
 
 #include <QAction>
 #include <QDialog>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
@@ -80,10 +82,12 @@ std::string Differenza(const Stato& prima, const Stato& dopo, const std::vector<
 }
 
 // What an entry of a fresh window does; `usa` finds it there and uses it, or says that it is disabled.
-std::string Effetto(const std::function<bool(Tavolo&)>& usa) {
+std::string Effetto(const std::function<bool(Tavolo&)>& usa, bool estratto = false) {
   Tavolo tavolo;
   tavolo.banco.appunti.testo = "A\t1,5\t2\r\n";
   tavolo.banco.dialoghi.fileScelto = "C:\\ESPORTATO.DAT";
+  tavolo.banco.sessione.EstrattoAssociato = estratto ? "E.EMP" : "";
+  tavolo.banco.disco.Metti("C:\\PREGEO\\ESTRATTI\\E.EMP", "0|1|\r\n8|PF01/0010/G224|1|2|\r\n");
   tavolo.banco.dialoghi.carattereScelto = {14, "Liberation Mono", true, false};
   tavolo.banco.processi.vivi["pregeo.exe"] = {77};
   tavolo.Clicca(3);
@@ -116,14 +120,20 @@ const std::string ApreIlBanco =
     "finestra Archivio Particelle - G224-0010  Libretto: LIBRETTO.DAT Estratto: , selezione, "
     "programma C:\\users\\prova\\Documents\\LIRMETO\\Trasvea.exe, messaggio";
 
-// An entry that stands in neither table does nothing, and is not meant to.
+// An entry that is shown as unavailable says so. Nothing is alive that does nothing.
 using Effetti = std::map<std::string, std::string>;
 
 TEST(OgniVoce, DelMenuFaCioCheDice) {
   const Effetti attesi = {
       {"Nuovo Libretto", "finestra Intestazione del Libretto - Righe 0 e 9, file"}, // cancelled: the rows are back
+      {"Apri Libretto da Pregeo", ArchivioVuoto},
+      {"Apri Libretto da File", "messaggio"},
+      {"1 C:\\LIBRETTO.DAT", "messaggio"}, // the question, answered no
+      {"Ripristina da Archivio Libretti", "messaggio"},
       {"Salva", "file"},
       {"Esporta Libretto", "file, messaggio"},
+      {"Attiva Pregeo", "programma lascia C:\\pregeo\\exe\\Pregeo.EXE"},
+      {"Termina Moduli Bloccati", "messaggio"},
       {"Seleziona Font", "file"},
       {"Kill Pregeo", "processi"},
       {"Chiudi", "chiusa"},
@@ -135,8 +145,9 @@ TEST(OgniVoce, DelMenuFaCioCheDice) {
       {"Relazione Tecnica", "finestra Edit Libretto Misure"},
       {"Riordino Righe", "selezione"},
       {"Modello Censuario", ApreIlBanco},
-      {"Importa Fiduciali da TAF", "finestra Importa Fiduciali da TAF, selezione"},
-      {"Incolla da Appunti", "righe, selezione"},
+      {"Importa Fiduciali da TAF", "finestra Importa Fiduciali da TAF"},
+      {"Importa Fiduciali da Estratto", "messaggio"},
+      {"Incolla da Appunti", "messaggio"},
       {"Descrizione", "finestra Cambia Descrizione, selezione"},
       {"Seleziona Stazioni", "selezione"},
       {"Seleziona Squadri", "selezione"},
@@ -149,7 +160,11 @@ TEST(OgniVoce, DelMenuFaCioCheDice) {
       {"Righe 8 Nome Auto (N, E)", "righe, selezione"},
       {"Righe Complete", "righe, selezione"},
       {"Gondella", "programma C:\\Program Files (x86)\\Gondella\\GondellaLibretti.exe"},
+      {"Archivia Libretti", "file, messaggio"},
       {"Grafica Pregeo > DXF", ArchivioVuoto},
+      {"Ricarica da Storico", "messaggio"},
+      {"PF-VE", "spenta"},
+      {"Configura Provincia di Pregeo", "finestra Versione Pregeo.EXE = 10.6.0.3"},
       {"Crea Collegamenti Pregeo", "collegamenti, messaggio"},
       {"Info Misurate PF", "messaggio"},
       {"Guarda un Disegno", "finestra Disegno"},
@@ -172,7 +187,7 @@ TEST(OgniVoce, DelMenuFaCioCheDice) {
     const auto atteso = attesi.find(titolo);
     const bool tipologia = titolo.ends_with(')') && !attesi.contains(titolo); // without an extract it says so
     EXPECT_EQ(Effetto([i](Tavolo& tavolo) { return Usa(*Voci(tavolo)[i]); }), tipologia                ? "messaggio"
-                                                                              : atteso == attesi.end() ? "niente"
+                                                                              : atteso == attesi.end() ? "non prevista"
                                                                                                        : atteso->second)
         << titolo;
   }
@@ -182,6 +197,12 @@ TEST(OgniVoce, DeiPulsantiFaCioCheDice) {
   const std::map<int, std::string> attesi = {
       {1, ArchivioVuoto},
       {3, "finestra Stampa Generale"},
+      {7, "finestra Versione Pregeo.EXE = 10.6.0.3"},
+      {9, "messaggio"},
+      {21, ArchivioVuoto},
+      {22, "spenta"},
+      {23, "spenta"},
+      {24, "programma lascia C:\\pregeo\\exe\\Pregeo.EXE"},
       {4, "file"},
       {5, "messaggio"},
       {6, "programma C:\\Program Files (x86)\\Gondella\\Dervola.exe"},
@@ -206,8 +227,40 @@ TEST(OgniVoce, DeiPulsantiFaCioCheDice) {
       QTest::mouseClick(bottone, Qt::LeftButton);
       return bottone->isEnabled();
     };
-    EXPECT_EQ(Effetto(usa), atteso == attesi.end() ? "niente" : atteso->second) << pulsante.indice;
+    EXPECT_EQ(Effetto(usa), atteso == attesi.end() ? "non previsto" : atteso->second) << pulsante.indice;
   }
+}
+
+TEST(OgniVoce, DegliStrumentiFaCioCheDice) {
+  const Effetti attesi = {
+      {"QUOTA_MEDIA", "finestra Quota Media Comuni Italiani, messaggio"}, // no table is there
+      {"tecnici", "messaggio"},
+      {"CONFIGURA_PREGEO", "finestra Versione Pregeo.EXE = 10.6.0.3"},
+      {"Modulistica", "documento C:\\fiducial\\MODULISTICA"},
+      {"ANTEPRIMA_PROPOSTA", "messaggio"},
+      {"archivio_libretti", ArchivioVuoto},
+      {"gestione_pf", "finestra Gestione Grafica Archivio PF"},
+      {"GESTIONE_MISURATE", "finestra Seleziona archivio"},
+      {"CERCA_NEI_LIBRETTI", Sostituisci(ArchivioVuoto, "C:\\LIBRETTO.DAT", "Cerca nei Libretti in Pregeo")},
+      {"STORICO_LIBRETTI", "messaggio"},
+  };
+  for (const Strumento& strumento : Strumenti()) {
+    const std::string tag(strumento.tag);
+    const auto usa = [&](Tavolo& tavolo) {
+      auto& bottone = Figlio<QPushButton>(tavolo, tag.c_str());
+      bottone.click();
+      return bottone.isEnabled();
+    };
+    EXPECT_EQ(Effetto(usa), attesi.contains(tag) ? attesi.at(tag) : "non previsto") << tag;
+  }
+}
+
+// With an extract the entries that need one open their windows.
+TEST(OgniVoce, ConUnEstratto) {
+  const auto fiduciali = [](Tavolo& tavolo) {
+    return Usa(*ui::VoceDi(*tavolo.finestra->menuBar(), Comando::ImportaFiducialiEstratto));
+  };
+  EXPECT_EQ(Effetto(fiduciali, true), "finestra Importa Fiduciali da Estratto");
 }
 
 } // namespace

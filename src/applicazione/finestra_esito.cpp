@@ -1,0 +1,66 @@
+// What the main window says of the last command, and the rows that stay chosen when it is over.
+
+#include <applicazione/finestra_principale.h>
+
+#include <core/salvataggio.h>
+
+#include <algorithm>
+
+namespace lirmeto {
+
+namespace {
+
+std::string Frase(const Storia::Differenza& quante) {
+  if (quante.nuove > quante.vecchie) return FattoARighe("aggiunt", quante.nuove - quante.vecchie);
+  if (quante.nuove < quante.vecchie) return FattoARighe("tolt", quante.vecchie - quante.nuove);
+  return FattoARighe("cambiat", quante.diverse);
+}
+
+} // namespace
+
+// A command that told its own outcome has the last word.
+void KR_LibrettoOriginale::DiciCambiamento(std::string_view nome, bool cambiate) {
+  if (!cambiate || !Esito.empty()) return;
+  const Storia::Differenza quante = storia_.Ultima(ambiente_.sessione);
+  if (quante.nuove > quante.vecchie) PrimaNuova = quante.inizio;
+  Esito = std::string(nome) + ": " + Frase(quante);
+}
+
+void KR_LibrettoOriginale::DiciSelezione(Comando comando) {
+  Righe_Indice();
+  Esito = std::string(DidascaliaDi(comando)) + ": " +
+          FattoARighe("selezionat", ambiente_.sessione.List1.QuanteSelezionate());
+}
+
+KR_LibrettoOriginale::Scelta KR_LibrettoOriginale::SceltaAttuale() const {
+  const ElencoRighe& elenco = ambiente_.sessione.List1;
+  Scelta scelta{{}, elenco.Indice(), elenco.Versione(), ambiente_.sessione.NomeFileLibretto};
+  for (std::size_t i = 0; i < elenco.Quante(); ++i)
+    if (elenco.Selezionata(i)) scelta.selezionate.push_back(i);
+  return scelta;
+}
+
+// A list that was only filled again has the selection it had; where rows changed the row under the cursor stays chosen,
+// at the place that it has now.
+void KR_LibrettoOriginale::RimettiScelta(const Scelta& prima, bool cambiate) {
+  ElencoRighe& elenco = ambiente_.sessione.List1;
+  const bool perduta = elenco.Versione() != prima.versione && elenco.Indice() < 0 &&
+                       prima.file == ambiente_.sessione.NomeFileLibretto;
+  if (!perduta || elenco.QuanteSelezionate() > 0) return;
+  if (!cambiate) {
+    for (const std::size_t riga : prima.selezionate)
+      if (riga < elenco.Quante()) elenco.Seleziona(riga, true);
+    if (prima.indice < static_cast<long>(elenco.Quante())) elenco.Indice(prima.indice);
+    return;
+  }
+  if (prima.indice < 0 || elenco.Vuoto()) return;
+  const Storia::Differenza quante = storia_.Ultima(ambiente_.sessione);
+  long riga = prima.indice;
+  if (riga >= static_cast<long>(quante.inizio + quante.vecchie))
+    riga += static_cast<long>(quante.nuove) - static_cast<long>(quante.vecchie);
+  riga = std::clamp(riga, 0L, static_cast<long>(elenco.Quante()) - 1);
+  elenco.Seleziona(static_cast<std::size_t>(riga), true);
+  elenco.Indice(riga);
+}
+
+} // namespace lirmeto
