@@ -12,6 +12,7 @@
 #include <core/apri_form.h>
 #include <core/carattere.h>
 #include <core/cartelle.h>
+#include <core/comandi_righe.h>
 #include <core/lettura.h>
 #include <core/mostra_errore.h>
 #include <core/programmi.h>
@@ -261,6 +262,8 @@ void KR_LibrettoOriginale::MostraRiordino() {
   FormRiordinoRighe form(ambiente_);
   form.AlCaricamento();
   ambiente_.finestre.MostraModale(form);
+  MostraSessione(); // the header form may have been opened from there
+  Righe_Indice();
 }
 
 void KR_LibrettoOriginale::ModificaRiga() {
@@ -314,14 +317,7 @@ void KR_LibrettoOriginale::TastoInvio(std::size_t riga) {
 }
 
 void KR_LibrettoOriginale::TastoCancella() {
-  constexpr std::size_t righeFisse = 2; // rows 0 and 9 always stay
-  Comanda("Elimina Righe", [&] {
-    if (ambiente_.dialoghi.Chiedi("Eliminare le Righe selezionate?", "Elimina righe dal Libretto", Bottoni::SiNo) !=
-        Risposta::Si)
-      return;
-    ambiente_.sessione.List1.TogliSelezionate(righeFisse);
-    AggiornaLibrettoMisure(ambiente_);
-  });
+  Comanda("Elimina Righe", [&] { EliminaRigheSelezionate(ambiente_); });
 }
 
 void KR_LibrettoOriginale::CambiaIscrizione(std::string_view testo) {

@@ -26,6 +26,7 @@ namespace lirmeto {
 
 namespace {
 
+constexpr std::size_t RigheFisse = 2; // rows 0 and 9 always stay
 constexpr std::size_t QuintaRiga = 4; // index
 constexpr std::size_t CampoNota = 6;
 constexpr std::string_view MarcaVrs = "[VRS]";
@@ -130,6 +131,19 @@ void Seleziona_Contorni(Ambiente& ambiente) {
 void InvertiSelezione(Ambiente& ambiente) {
   ElencoRighe& elenco = ambiente.sessione.List1;
   for (std::size_t i = 0; i < elenco.Quante(); ++i) elenco.Seleziona(i, !elenco.Selezionata(i));
+}
+
+void EliminaRigheSelezionate(Ambiente& ambiente) {
+  ElencoRighe& elenco = ambiente.sessione.List1;
+  const std::vector<std::size_t> quali = elenco.Selezionate(RigheFisse);
+  if (quali.empty()) return;
+  const std::string cosa = quali.size() == 1 ? std::string(elenco.Riga(quali.front()))
+                                             : TestoIntero(static_cast<long long>(quali.size())) + " righe";
+  const Risposta risposta = ambiente.dialoghi.Chiedi("Eliminare le Righe selezionate?" + std::string(FineRiga) + cosa,
+                                                     "Elimina righe dal Libretto", Bottoni::SiNo);
+  if (risposta != Risposta::Si) return;
+  elenco.TogliSelezionate(RigheFisse);
+  AggiornaLibrettoMisure(ambiente);
 }
 
 void CopiaNegliAppunti(Ambiente& ambiente) {

@@ -21,6 +21,10 @@ void Seleziona_Squadri(Ambiente& ambiente);       // kinds 4 and 5
 void Seleziona_Contorni(Ambiente& ambiente);      // kind 7
 void InvertiSelezione(Ambiente& ambiente);
 
+// Asks, telling which row or how many, and removes the selected rows; the first two always stay. Without any other
+// there is no question.
+void EliminaRigheSelezionate(Ambiente& ambiente);
+
 // The rows of the list to the clipboard and to \temp\TagUno.tag, each with its line end.
 void CopiaNegliAppunti(Ambiente& ambiente);
 

@@ -70,6 +70,13 @@ std::size_t ElencoRighe::QuanteSelezionate() const {
   return static_cast<std::size_t>(std::count(selezionate_.begin(), selezionate_.end(), true));
 }
 
+std::vector<std::size_t> ElencoRighe::Selezionate(std::size_t primo) const {
+  std::vector<std::size_t> quali;
+  for (std::size_t i = primo; i < selezionate_.size(); ++i)
+    if (selezionate_[i]) quali.push_back(i);
+  return quali;
+}
+
 std::size_t ElencoRighe::TogliSelezionate(std::size_t primo) {
   return TogliSe(primo, [this](std::size_t i) { return selezionate_[i]; });
 }

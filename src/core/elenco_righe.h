@@ -36,6 +36,8 @@ public:
   // Selects the rows that satisfy the test and no others.
   void SelezionaSe(const std::function<bool(std::string_view)>& vale);
   [[nodiscard]] std::size_t QuanteSelezionate() const;
+  // Places of the selected rows from `primo` on, in order.
+  [[nodiscard]] std::vector<std::size_t> Selezionate(std::size_t primo = 0) const;
 
   // Removes the selected rows from `primo` on; the answer is how many went.
   std::size_t TogliSelezionate(std::size_t primo);

@@ -1,12 +1,38 @@
 #include <core/riordino.h>
 
+#include <base/numeri.h>
+#include <base/testo.h>
 #include <core/apertura.h>
 #include <core/apri_form.h>
 #include <core/libretto_in_classi.h>
 
+#include <algorithm>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace lirmeto {
+
+namespace {
+
+using Conteggi = std::unordered_map<std::string_view, std::size_t>; // how many times a row
+
+// Adds what was deleted of a list: `restate` are rows of `tutte` in the same order.
+void ContaEliminate(const ListaRighe& tutte, const ListaRighe& restate, Conteggi& eliminate) {
+  auto prossima = restate.begin();
+  for (const auto riga : tutte) {
+    if (prossima != restate.end() && *prossima == riga)
+      ++prossima;
+    else
+      ++eliminate[riga];
+  }
+}
+
+std::string Quante(std::size_t righe) {
+  return TestoIntero(static_cast<long long>(righe)) + (righe == 1 ? " riga" : " righe");
+}
+
+} // namespace
 
 const std::array<FormRiordinoRighe::Classe, 13>& FormRiordinoRighe::Classi() {
   using C = ClasseRighe;
@@ -34,7 +60,12 @@ void FormRiordinoRighe::AlCaricamento() {
 }
 
 void FormRiordinoRighe::AllAttivazione() {
-  Righe = EsplodiLibretto(ambiente_);
+  divise_ = EsplodiLibretto(ambiente_);
+  Righe = divise_;
+  MostraTecnico();
+}
+
+void FormRiordinoRighe::MostraTecnico() {
   EtichettaIscrizione = "Numero Iscrizione Albo " + ambiente_.sessione.NumeroIscrizione;
   EtichettaCodiceFiscale = "Codice Fiscale " + ambiente_.sessione.CodiceFiscale;
 }
@@ -53,25 +84,60 @@ void FormRiordinoRighe::Chiudi() {
   Chiusa = true;
 }
 
-bool FormRiordinoRighe::Domanda(const Classe& classe) {
-  return ambiente_.dialoghi.Chiedi(classe.domanda, classe.titolo, Bottoni::SiNo) == Risposta::Si;
+// The question of the list, and what would go.
+bool FormRiordinoRighe::Domanda(const Classe& classe, std::string_view cosa) {
+  const std::string domanda = std::string(classe.domanda) + std::string(FineRiga) + std::string(cosa);
+  return ambiente_.dialoghi.Chiedi(domanda, classe.titolo, Bottoni::SiNo) == Risposta::Si;
 }
 
 void FormRiordinoRighe::EliminaClasse(std::size_t classe) {
   if (classe >= Classi().size() || Classi()[classe].domanda.empty()) return;
-  if (Domanda(Classi()[classe])) Righe[Classi()[classe].classe].clear();
+  ListaRighe& lista = Righe[Classi()[classe].classe];
+  if (Domanda(Classi()[classe], Quante(lista.size()))) lista.clear();
 }
 
 void FormRiordinoRighe::DoppioClick(std::size_t classe, std::size_t riga) {
-  if (classe >= Classi().size()) return;
+  if (classe >= Classi().size() || riga >= Righe[Classi()[classe].classe].size()) return;
   const ClasseRighe quale = Classi()[classe].classe;
-  ListaRighe& lista = Righe[quale];
-  if (riga >= lista.size()) return;
-  if (quale == ClasseRighe::Zero || quale == ClasseRighe::Nove || quale == ClasseRighe::Commento) {
-    ApriForm(ambiente_, "FormCatasto1TXT");
-  } else if (Domanda(Classi()[classe])) {
-    lista.Togli(riga);
+  const bool intestazione = quale == ClasseRighe::Zero || quale == ClasseRighe::Nove || quale == ClasseRighe::Commento;
+  intestazione ? ApriIntestazione() : TastoCancella(classe, riga);
+}
+
+void FormRiordinoRighe::TastoCancella(std::size_t classe, std::size_t riga) {
+  if (classe >= Classi().size() || Classi()[classe].domanda.empty()) return;
+  ListaRighe& lista = Righe[Classi()[classe].classe];
+  if (riga < lista.size() && Domanda(Classi()[classe], lista[riga])) lista.Togli(riga);
+}
+
+// The form's own outcome is not the reorder's.
+void FormRiordinoRighe::ApriIntestazione() {
+  const bool confermata = ApriForm(ambiente_, "FormCatasto1TXT") && ambiente_.sessione.EsitoForm > 0;
+  ambiente_.sessione.EsitoForm = EsitoAnnullato;
+  if (confermata) RiprendiDalLibretto();
+}
+
+// The form writes rows 0 and 9 and the comment into Libretto, where a comment of before may now belong to another class:
+// each list that is no longer the same comes anew, without the rows that were deleted from it here.
+void FormRiordinoRighe::RiprendiDalLibretto() {
+  RigheInClassi nuove = DividiInClassi(ambiente_.sessione.Libretto, ambiente_.dialoghi);
+  std::vector<ClasseRighe> cambiate;
+  Conteggi eliminate;
+  for (const Classe& classe : Classi()) {
+    if (nuove[classe.classe] == divise_[classe.classe]) continue;
+    ContaEliminate(divise_[classe.classe], Righe[classe.classe], eliminate);
+    cambiate.push_back(classe.classe);
   }
+  for (const ClasseRighe classe : cambiate) {
+    ListaRighe lista = nuove[classe];
+    lista.TogliSe([&](std::string_view riga) {
+      const auto trovata = eliminate.find(riga);
+      return trovata != eliminate.end() && trovata->second > 0 && trovata->second-- > 0;
+    });
+    Righe[classe] = std::move(lista);
+  }
+  Righe[ClasseRighe::Nessuna] = nuove[ClasseRighe::Nessuna];
+  divise_ = std::move(nuove);
+  MostraTecnico();
 }
 
 void subRiordinoRighe(Ambiente& ambiente) {

@@ -40,15 +40,21 @@ public:
   [[nodiscard]] static const std::array<Classe, 13>& Classi();
 
   // Delete button of a class: asks and empties the list. Double click on a row:
-  // asks and removes it; on rows 0, 9 and comments it opens the header form. An
-  // index that is not there does nothing.
+  // asks and removes it; on rows 0, 9 and comments it opens the header form, and
+  // what that confirmed is in the lists afterwards. The Delete key asks and removes
+  // the row wherever the list has a delete button. An index that is not there does nothing.
   void EliminaClasse(std::size_t classe);
   void DoppioClick(std::size_t classe, std::size_t riga);
+  void TastoCancella(std::size_t classe, std::size_t riga);
 
 private:
-  [[nodiscard]] bool Domanda(const Classe& classe);
+  [[nodiscard]] bool Domanda(const Classe& classe, std::string_view cosa);
+  void MostraTecnico();
+  void ApriIntestazione();
+  void RiprendiDalLibretto();
 
   Ambiente& ambiente_;
+  RigheInClassi divise_; // the lists as Libretto gave them last, nothing deleted yet
 };
 
 // The main window's command: reorder without showing the form, then list.

@@ -129,6 +129,38 @@ TEST(Annulla, LIntestazioneConfermata) {
   EXPECT_EQ(sala.sessione.Protocollo, "99");
 }
 
+// A header confirmed inside the reorder holds; what the dialog deleted, the comment too, stays deleted.
+TEST(Riordino, LIntestazioneConfermataDentroNonTornaQuellaDiPrima) {
+  Sala sala;
+  FinestreVere finestre;
+  Ambiente vero{sala.sessione, sala.disco,        sala.dialoghi, finestre,
+                sala.processi, sala.impostazioni, sala.appunti,  sala.orologio};
+  finestre.ambiente = &vero;
+  finestre.utente = [](Modello& modello) {
+    if (auto* intestazione = dynamic_cast<FormCatasto1TXT*>(&modello)) {
+      intestazione->Cambia(1, "99");
+      intestazione->Cambia(16, "777");
+      return intestazione->Premi(0);
+    }
+    auto& form = dynamic_cast<FormRiordinoRighe&>(modello);
+    form.AllAttivazione();
+    form.TastoCancella(2, 0); // the comment
+    form.TastoCancella(6, 1); // the sighting
+    form.TastoCancella(0, 0); // row 0 cannot go
+    form.DoppioClick(1, 0);
+    EXPECT_EQ(form.EtichettaIscrizione, "Numero Iscrizione Albo 777");
+    form.Conferma();
+  };
+  sala.dialoghi.risposte = {Risposta::Si};
+  KR_LibrettoOriginale finestra(vero);
+  finestra.Avvia("C:\\ACT.DAT");
+  finestra.Esegui(Comando::MostraRiordino);
+  EXPECT_EQ(Parte(sala.Righe()[0], '|', 2), "99");
+  EXPECT_EQ(sala.Righe().size(), 4U);
+  EXPECT_EQ(sala.Righe()[2], "1|1|1.5|N|");
+  EXPECT_EQ(finestra.CasellaIscrizione, "777");
+}
+
 TEST(Annulla, NonPerCioCheNonCambiaLeRighe) {
   Sala sala;
   sala.finestra.Avvia("C:\\ACT.DAT");

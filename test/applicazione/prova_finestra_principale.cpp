@@ -75,12 +75,19 @@ TEST(Elenco, CancellaSoloDopoLaDomandaEMaiLePrimeDue) {
   sala.finestra.Avvia("C:\\ACT.DAT");
   sala.sessione.List1.SelezionaIntervallo(0, 4, true);
   sala.finestra.TastoCancella();
-  EXPECT_EQ(sala.Domanda(), "Elimina righe dal Libretto/Eliminare le Righe selezionate?");
+  EXPECT_EQ(sala.Domanda(), "Elimina righe dal Libretto/Eliminare le Righe selezionate?\r\n3 righe");
   EXPECT_EQ(sala.Righe().size(), 6U);
   sala.dialoghi.risposte = {Risposta::Si};
   sala.finestra.TastoCancella();
   EXPECT_EQ(sala.Righe(), (Righe{Zero, Nove, "8|PF01/0010/G224|1|2|3|x|"}));
   EXPECT_EQ(sala.sessione.Libretto, Testo(sala.Righe()));
+  const std::size_t detti = sala.dialoghi.detti.size();
+  sala.sessione.List1.SelezionaIntervallo(0, 1, true); // nothing that could go: nothing to ask
+  sala.finestra.TastoCancella();
+  EXPECT_EQ(sala.dialoghi.detti.size(), detti);
+  sala.sessione.List1.Seleziona(2, true);
+  sala.finestra.TastoCancella();
+  EXPECT_EQ(sala.Domanda(), "Elimina righe dal Libretto/Eliminare le Righe selezionate?\r\n8|PF01/0010/G224|1|2|3|x|");
 }
 
 struct CasoTrascina {

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <random>
 
 namespace lirmeto {
@@ -272,13 +273,14 @@ TEST(FormRiordino, DomandeEBottoni) {
   form.EliminaClasse(stazioni); // the answer is No
   EXPECT_EQ(form.Righe[C::Stazioni].size(), 1U);
   EXPECT_EQ(banco.dialoghi.detti.back().titolo + "/" + banco.dialoghi.UltimoTesto(),
-            "Eliminazione Stazioni/Eliminare Stazioni-P.Battuti?");
+            "Eliminazione Stazioni/Eliminare Stazioni-P.Battuti?\r\n1 riga");
   form.EliminaClasse(0); // rows 0 have no delete button
   form.DoppioClick(stazioni, 5);
   form.DoppioClick(99, 0);
   EXPECT_EQ(banco.dialoghi.detti.size(), 1U);
   banco.dialoghi.risposte = {Risposta::Si};
   form.DoppioClick(stazioni, 0);
+  EXPECT_EQ(banco.dialoghi.UltimoTesto(), "Eliminare Stazioni-P.Battuti?\r\n1|1|1.5|N|");
   EXPECT_TRUE(form.Righe[C::Stazioni].empty());
   banco.finestre.disponibili = {"FormCatasto1TXT"};
   form.DoppioClick(0, 0);
@@ -289,6 +291,67 @@ TEST(FormRiordino, DomandeEBottoni) {
   EXPECT_TRUE(form.Chiusa);
   EXPECT_EQ(banco.Righe(), (Righe{Zero, Nove, "8|2|2|2|"}));
 }
+
+struct CasoIntestazione {
+  std::string nome;
+  C classe;     // of it the first row is deleted
+  Righe prima;  // behind rows 0 and 9
+  Righe dopo;   // what the header form leaves there
+  Righe attese; // what the confirm leaves there
+};
+
+class DopoLIntestazione : public testing::TestWithParam<CasoIntestazione> {};
+
+TEST_P(DopoLIntestazione, LeListeSonoQuelleNuoveSenzaLeEliminate) {
+  struct Intestazione : prova::FinestreDiProva {
+    std::function<void()> conferma;
+    void Apri(std::string_view /*nome*/) override { conferma(); }
+  };
+  const std::string altra = "0|01022024|99|G224|0010|1|BIANCHI ADA|GEOMETRA|PADOVA|";
+  const auto con = [](const std::string& zero, Righe righe) {
+    righe.insert(righe.begin(), {zero, Nove});
+    return righe;
+  };
+  Banco banco;
+  Intestazione finestre;
+  finestre.disponibili = {"FormCatasto1TXT"};
+  finestre.conferma = [&] {
+    banco.sessione.Libretto = Testo(con(altra, GetParam().dopo));
+    banco.sessione.EsitoForm = EsitoConfermato;
+  };
+  Ambiente ambiente{banco.sessione, banco.disco,        banco.dialoghi, finestre,
+                    banco.processi, banco.impostazioni, banco.appunti,  banco.orologio};
+  banco.Apri(Testo(con(Zero, GetParam().prima)));
+  banco.dialoghi.risposte = {Risposta::Si};
+  FormRiordinoRighe form(ambiente);
+  form.AlCaricamento();
+  form.AllAttivazione();
+  std::size_t classe = 0;
+  while (FormRiordinoRighe::Classi()[classe].classe != GetParam().classe) ++classe;
+  form.TastoCancella(classe, 0);
+  form.DoppioClick(0, 0);
+  EXPECT_EQ(banco.sessione.EsitoForm, EsitoAnnullato); // the reorder itself is not confirmed yet
+  form.Conferma();
+  EXPECT_EQ(banco.Righe(), con(altra, GetParam().attese));
+}
+
+INSTANTIATE_TEST_SUITE_P(Casi, DopoLIntestazione,
+                         testing::Values(CasoIntestazione{"UnaBattutaFraUguali",
+                                                          C::Stazioni,
+                                                          {"2|1|", "1|1|", "2|1|", "8|1|"},
+                                                          {"2|1|", "1|1|", "2|1|", "8|1|"},
+                                                          {"1|1|", "2|1|", "8|1|"}},
+                                         CasoIntestazione{"UnCommentoNuovoSpostaIlVecchio",
+                                                          C::Appunti,
+                                                          {"6|vecchio|", "6|altro|", "7|1|"},
+                                                          {"6|CONFERMA|", "6|vecchio|", "6|altro|", "7|1|"},
+                                                          {"6|CONFERMA|", "6|vecchio|", "6|altro|", "7|1|"}},
+                                         CasoIntestazione{"IlVecchioEliminatoLoRestaAncheSpostato",
+                                                          C::Commento,
+                                                          {"6|vecchio|", "6|altro|", "7|1|"},
+                                                          {"6|CONFERMA|", "6|vecchio|", "6|altro|", "7|1|"},
+                                                          {"6|CONFERMA|", "6|altro|", "7|1|"}}),
+                         [](const auto& caso) { return caso.param.nome; });
 
 } // namespace
 } // namespace lirmeto

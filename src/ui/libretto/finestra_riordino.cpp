@@ -10,6 +10,7 @@
 #include <QListView>
 #include <QLocale>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -40,7 +41,7 @@ FinestraRiordino::FinestraRiordino(FormRiordinoRighe& modello, QWidget* padre)
   piano->addWidget(CreaColonna());
   auto* testata = new QHBoxLayout;
   testata->addWidget(titolo_, 1);
-  auto* consiglio = new QLabel(QStringLiteral("Doppio clic su una riga per eliminarla"), this);
+  auto* consiglio = new QLabel(QStringLiteral("Canc o doppio clic su una riga per eliminarla"), this);
   consiglio->setObjectName(QStringLiteral("Posto"));
   testata->addWidget(consiglio, 0, Qt::AlignBottom);
   titolo_->setObjectName(QStringLiteral("TitoloGruppo"));
@@ -99,15 +100,25 @@ void FinestraRiordino::AggiungiElenco(QGridLayout& griglia, const QString& titol
   classi_.push_back({bottone, quante, nullptr, lista, modello});
 }
 
-// Delete button and double click of the class added last.
+// The cursor stays where it was, on the row that came up from below.
+void FinestraRiordino::SullaRiga(std::size_t indice, int riga,
+                                 void (FormRiordinoRighe::*azione)(std::size_t, std::size_t)) {
+  if (riga < 0) return;
+  (modello_.*azione)(indice, static_cast<std::size_t>(riga));
+  Mostra();
+  const VistaClasse& vista = classi_[indice];
+  vista.lista->setCurrentIndex(vista.righe->index(std::min(riga, vista.righe->rowCount() - 1)));
+}
+
+// Delete button, double click and Delete key of the class added last.
 void FinestraRiordino::CollegaClasse(QGridLayout& griglia, std::size_t indice) {
-  connect(classi_[indice].lista, &QListView::doubleClicked, this, [this, indice](const QModelIndex& posto) {
-    const int riga = posto.row();
-    modello_.DoppioClick(indice, static_cast<std::size_t>(riga));
-    Mostra();
-    const VistaClasse& vista = classi_[indice];
-    vista.lista->setCurrentIndex(vista.righe->index(std::min(riga, vista.righe->rowCount() - 1)));
+  QListView* lista = classi_[indice].lista;
+  connect(lista, &QListView::doubleClicked, this, [this, indice](const QModelIndex& posto) {
+    SullaRiga(indice, posto.row(), &FormRiordinoRighe::DoppioClick);
   });
+  auto* canc = new QShortcut(QKeySequence(Qt::Key_Delete), lista, nullptr, nullptr, Qt::WidgetShortcut);
+  connect(canc, &QShortcut::activated, this,
+          [this, indice, lista] { SullaRiga(indice, lista->currentIndex().row(), &FormRiordinoRighe::TastoCancella); });
   const FormRiordinoRighe::Classe& classe = FormRiordinoRighe::Classi()[indice];
   if (classe.titolo.empty()) return;
   auto* elimina = new QToolButton(this);

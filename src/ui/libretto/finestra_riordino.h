@@ -44,6 +44,7 @@ private:
   void AggiungiElenco(QGridLayout& griglia, const QString& titolo, const ListaRighe& righe);
   void CollegaClasse(QGridLayout& griglia, std::size_t indice);
   [[nodiscard]] QWidget* CreaPiede();
+  void SullaRiga(std::size_t indice, int riga, void (FormRiordinoRighe::*azione)(std::size_t, std::size_t));
   void Attiva();
   void Scegli(std::size_t indice);
   void Mostra();

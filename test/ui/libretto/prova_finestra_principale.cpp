@@ -166,7 +166,7 @@ TEST(FinestraPrincipale, CancChiedeETogliele) {
   tavolo.Clicca(1);
   tavolo.Clicca(3, Qt::ShiftModifier);
   QTest::keyClick(tavolo.vista, Qt::Key_Delete);
-  EXPECT_EQ(tavolo.banco.dialoghi.UltimoTesto(), "Eliminare le Righe selezionate?");
+  EXPECT_EQ(tavolo.banco.dialoghi.UltimoTesto(), "Eliminare le Righe selezionate?\r\n2 righe");
   EXPECT_EQ(tavolo.banco.dialoghi.detti.back().titolo, "Elimina righe dal Libretto");
   EXPECT_EQ(tavolo.Elenco().Quante(), 6U);
   QTest::keyClick(tavolo.vista, Qt::Key_Delete);

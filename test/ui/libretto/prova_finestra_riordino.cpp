@@ -65,7 +65,7 @@ TEST_F(ConRiordino, OgniClasseHaLaSuaListaELeRigheSenzaClasseSiVedono) {
 TEST_F(ConRiordino, EliminaChiedeESvuotaSoloSeSi) {
   banco.dialoghi.risposte = {Risposta::No, Risposta::Si};
   Elimina("Eliminazione Stazioni");
-  EXPECT_EQ(banco.dialoghi.UltimoTesto(), "Eliminare Stazioni-P.Battuti?");
+  EXPECT_EQ(banco.dialoghi.UltimoTesto(), "Eliminare Stazioni-P.Battuti?\r\n3 righe");
   EXPECT_EQ(Vista(Stazioni).model()->rowCount(), 3);
   Elimina("Eliminazione Stazioni");
   EXPECT_EQ(Vista(Stazioni).model()->rowCount(), 0);
@@ -82,11 +82,15 @@ TEST_F(ConRiordino, TornareAttivaNonRimetteLeRigheEliminate) {
   EXPECT_EQ(Vista(Stazioni).model()->rowCount(), 0);
 }
 
-TEST_F(ConRiordino, DoppioClickToglieUnaRiga) {
+TEST_F(ConRiordino, DoppioClickECancTolgonoUnaRiga) {
   banco.dialoghi.risposte = {Risposta::Si};
   DoppioClick(Stazioni, 1);
   EXPECT_EQ(form.Righe[ClasseRighe::Stazioni], (ListaRighe{RigheDiProva()[2], RigheDiProva()[3]}));
   EXPECT_EQ(Vista(Stazioni).model()->rowCount(), 2);
+  QTest::keyClick(&Vista(Stazioni), Qt::Key_Delete);
+  EXPECT_EQ(form.Righe[ClasseRighe::Stazioni], (ListaRighe{RigheDiProva()[2]}));
+  QTest::keyClick(&Vista(Stazioni), Qt::Key_Delete); // the cursor stands on the row that is left
+  EXPECT_EQ(Vista(Stazioni).model()->rowCount(), 0);
 }
 
 TEST_F(ConRiordino, ChiudiLasciaIlLibretto) {
