@@ -43,6 +43,12 @@ enum class Comando {
   InformazioniGenerali,
   Annulla, // what the last command did to the rows
   Ripeti,
+  TagliaRighe, // the selected ones, else the current one
+  CopiaRighe,
+  IncollaRighe, // behind the current one
+  EliminaRighe,
+  SelezionaTutte,
+  CampiRiga, // to the boxes of the current row's fields
   EliminaVrs,
   AssegnaVrs,
   SelezionaRighe1,

@@ -7,6 +7,7 @@
 #include <applicazione/comandi_tag.h>
 #include <applicazione/tipologie.h>
 #include <core/apertura.h>
+#include <core/appunti_righe.h>
 #include <core/apri_form.h>
 #include <core/comandi_righe.h>
 #include <core/programmi.h>
@@ -30,6 +31,7 @@ constexpr auto Selezioni = std::to_array<std::pair<Comando, Routine>>({
     {Comando::SelezionaRighe1, SelezionaRighe1},
     {Comando::SelezionaPuntiFiduciali, SelezionaPuntiFiduciali},
     {Comando::InvertiSelezione, InvertiSelezione},
+    {Comando::SelezionaTutte, SelezionaTutte},
     {Comando::SelezionaStazioni, Seleziona_Stazioni},
     {Comando::SelezionaSquadri, Seleziona_Squadri},
     {Comando::SelezionaContorni, Seleziona_Contorni},
@@ -41,6 +43,10 @@ void InfoMisuratePF(Ambiente& ambiente) {
 }
 
 constexpr auto Comandi = std::to_array<std::pair<Comando, Routine>>({
+    {Comando::TagliaRighe, TagliaRighe},
+    {Comando::CopiaRighe, CopiaRighe},
+    {Comando::IncollaRighe, IncollaRighe},
+    {Comando::EliminaRighe, EliminaRigheSelezionate},
     {Comando::EliminaVrs, EliminaVrs},
     {Comando::AssegnaVrs, AssegnaVrs},
     {Comando::StampaLibretto, StampaLibretto},

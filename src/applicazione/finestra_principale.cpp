@@ -12,6 +12,7 @@
 #include <core/apri_form.h>
 #include <core/carattere.h>
 #include <core/cartelle.h>
+#include <core/caselle_riga.h>
 #include <core/comandi_righe.h>
 #include <core/lettura.h>
 #include <core/mostra_errore.h>
@@ -318,6 +319,13 @@ void KR_LibrettoOriginale::TastoInvio(std::size_t riga) {
 
 void KR_LibrettoOriginale::TastoCancella() {
   Comanda("Elimina Righe", [&] { EliminaRigheSelezionate(ambiente_); });
+}
+
+// Rows 0 and 9 also say what the boxes and the title show.
+void KR_LibrettoOriginale::CambiaCampo(std::size_t riga, std::size_t campo, std::string_view testo) {
+  Comanda("Modifica Campo", [&] { CambiaCasella(ambiente_, riga, campo, testo); });
+  MostraSessione();
+  Righe_Indice();
 }
 
 void KR_LibrettoOriginale::CambiaIscrizione(std::string_view testo) {

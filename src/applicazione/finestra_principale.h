@@ -91,6 +91,8 @@ public:
   void DoppioClick(std::size_t riga);
   void TastoInvio(std::size_t riga);
   void TastoCancella();
+  // A text typed into a box of the row's fields.
+  void CambiaCampo(std::size_t riga, std::size_t campo, std::string_view testo);
   void Trascina(const std::string& percorso);
   // One of the files opened last, by its place among them.
   void ApriRecente(std::size_t indice);

@@ -133,6 +133,10 @@ void InvertiSelezione(Ambiente& ambiente) {
   for (std::size_t i = 0; i < elenco.Quante(); ++i) elenco.Seleziona(i, !elenco.Selezionata(i));
 }
 
+void SelezionaTutte(Ambiente& ambiente) {
+  ambiente.sessione.List1.SelezionaSe([](std::string_view) { return true; });
+}
+
 void EliminaRigheSelezionate(Ambiente& ambiente) {
   ElencoRighe& elenco = ambiente.sessione.List1;
   const std::vector<std::size_t> quali = elenco.Selezionate(RigheFisse);

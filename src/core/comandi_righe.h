@@ -20,6 +20,7 @@ void Seleziona_Stazioni(Ambiente& ambiente);      // kind 1
 void Seleziona_Squadri(Ambiente& ambiente);       // kinds 4 and 5
 void Seleziona_Contorni(Ambiente& ambiente);      // kind 7
 void InvertiSelezione(Ambiente& ambiente);
+void SelezionaTutte(Ambiente& ambiente);
 
 // Asks, telling which row or how many, and removes the selected rows; the first two always stay. Without any other
 // there is no question.

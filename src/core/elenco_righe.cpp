@@ -37,6 +37,16 @@ void ElencoRighe::Inserisci(std::size_t indice, std::string_view riga) {
   ++versione_;
 }
 
+void ElencoRighe::InserisciTratto(std::size_t indice, TestoCondiviso testo, std::span<const std::string_view> righe) {
+  righe_.Tieni(std::move(testo));
+  righe_.CambiaTratto(indice, 0, righe);
+  selezionate_.assign(selezionate_.size(), false);
+  selezionate_.insert(selezionate_.begin() + static_cast<std::ptrdiff_t>(indice), righe.size(), true);
+  Indice(static_cast<long>(indice));
+  ++versione_;
+  ++versioneSelezione_;
+}
+
 void ElencoRighe::Cambia(std::size_t indice, std::string_view riga) {
   righe_.Cambia(indice, riga);
   ++versione_;

@@ -4,6 +4,7 @@
 #include <core/lista_righe.h>
 
 #include <functional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -24,6 +25,8 @@ public:
   void Svuota();
   void Aggiungi(std::string_view riga);
   void Inserisci(std::size_t indice, std::string_view riga);
+  // Rows of a text that the list keeps, all at once: they are selected and no others, and the first is the current one.
+  void InserisciTratto(std::size_t indice, TestoCondiviso testo, std::span<const std::string_view> righe);
   void Cambia(std::size_t indice, std::string_view riga);
   void Togli(std::size_t indice);
 

@@ -9,6 +9,7 @@
 #include <ui/libretto/pannello_pulsanti.h>
 #include <ui/libretto/pannello_strumenti.h>
 #include <ui/libretto/riga_di_stato.h>
+#include <ui/libretto/striscia_campi.h>
 #include <ui/libretto/vista_righe.h>
 #include <ui/verifiche/elenco_verifiche.h>
 #include <ui/verifiche/pannello_rilievo.h>
@@ -47,11 +48,12 @@ FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDa
     : QMainWindow(padre), modello_(modello), percorso_(std::move(percorso)),
       pulsanti_(new PannelloPulsanti(Disponibile(), this)), dati_(new PannelloDati(modello, this)),
       strumenti_(new PannelloStrumenti(this)), righe_(new VistaRighe(modello.DatiSessione().List1, this)),
-      ricerca_(new BarraRicerca(this)), spiegazione_(new RigaDiStato(this)), nomeFile_(new QLabel(this)),
-      posizione_(new QLabel(this)), verifiche_(new ElencoVerifiche(modello.Verifiche, this)),
-      rilievo_(new PannelloRilievo(modello.Rilievo, this)), accanto_(new QSplitter(Qt::Horizontal, this)),
-      sopra_(new QSplitter(Qt::Vertical, this)), conta_(new QToolButton(this)), ritardo_(new QTimer(this)),
-      scartate_(new QToolButton(this)), esito_(new QLabel(this)), consegne_(new QTimer(this)) {
+      ricerca_(new BarraRicerca(this)), spiegazione_(new RigaDiStato(this)), campi_(new StrisciaCampi(this)),
+      nomeFile_(new QLabel(this)), posizione_(new QLabel(this)),
+      verifiche_(new ElencoVerifiche(modello.Verifiche, this)), rilievo_(new PannelloRilievo(modello.Rilievo, this)),
+      accanto_(new QSplitter(Qt::Horizontal, this)), sopra_(new QSplitter(Qt::Vertical, this)),
+      conta_(new QToolButton(this)), ritardo_(new QTimer(this)), scartate_(new QToolButton(this)),
+      esito_(new QLabel(this)), consegne_(new QTimer(this)) {
   setObjectName(QStringLiteral("KR_LibrettoOriginale"));
   RiempiMenu(*menuBar(), Disponibile(), [this](Comando comando) { Comanda(comando); });
   auto* piano = new QSplitter(Qt::Horizontal, this);
@@ -76,7 +78,9 @@ FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDa
   CollegaElenco();
   CollegaRicerca();
   CollegaVerifiche();
+  CollegaCampi();
   CreaScorciatoie();
+  CreaMenuRighe();
   connect(pulsanti_, &PannelloPulsanti::Premuto, this, &FinestraPrincipale::Comanda);
   connect(dati_, &PannelloDati::Premuto, this, &FinestraPrincipale::Comanda);
   connect(strumenti_, &PannelloStrumenti::Premuto, this,
@@ -114,7 +118,13 @@ QWidget* FinestraPrincipale::CreaCentro() {
   accanto_->addWidget(righe_);
   accanto_->addWidget(rilievo_);
   accanto_->setStretchFactor(0, 1);
-  sopra_->addWidget(accanto_);
+  auto* righeECampi = new QWidget(this);
+  auto* pila = new QVBoxLayout(righeECampi);
+  pila->setContentsMargins(0, 0, 0, 0);
+  pila->setSpacing(0);
+  pila->addWidget(accanto_, 1);
+  pila->addWidget(campi_);
+  sopra_->addWidget(righeECampi);
   sopra_->addWidget(verifiche_);
   sopra_->setStretchFactor(0, 1);
   for (QSplitter* diviso : {accanto_, sopra_}) {
@@ -226,6 +236,40 @@ void FinestraPrincipale::CollegaVerifiche() {
   });
 }
 
+void FinestraPrincipale::CollegaCampi() {
+  connect(campi_, &StrisciaCampi::Cambiato, this, [this](std::size_t riga, std::size_t campo, const QString& testo) {
+    Fa([&] { modello_.CambiaCampo(riga, campo, DaQString(testo)); });
+  });
+  connect(campi_, &StrisciaCampi::Lasciata, righe_, qOverload<>(&QWidget::setFocus));
+  connect(campi_, &StrisciaCampi::Spostata, this, [this](int passo) {
+    const long riga = Elenco().Indice() + passo;
+    if (riga >= 0 && static_cast<std::size_t>(riga) < Elenco().Quante()) righe_->VaiA(static_cast<std::size_t>(riga));
+  });
+}
+
+// On the rows the menu's own entries. Cut, copy, paste and their like are keys of the list alone: a box has them too.
+void FinestraPrincipale::CreaMenuRighe() {
+  for (const auto comando : {Comando::TagliaRighe, Comando::CopiaRighe, Comando::IncollaRighe, Comando::EliminaRighe,
+                             Comando::SelezionaTutte}) {
+    QAction* voce = VoceDi(*menuBar(), comando);
+    voce->setShortcutContext(Qt::WidgetShortcut);
+    righe_->addAction(voce);
+  }
+  connect(righe_, &VistaRighe::MenuRichiesto, this, [this](const QPoint& posto) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QStringLiteral("MenuRighe"));
+    for (const auto comando :
+         {Comando::CampiRiga, Comando::ModificaDiretta, Comando::NessunaAzione, Comando::TagliaRighe,
+          Comando::CopiaRighe, Comando::IncollaRighe, Comando::EliminaRighe, Comando::NessunaAzione,
+          Comando::SelezionaTutte, Comando::AssegnaDescrizione, Comando::NessunaAzione, Comando::Annulla,
+          Comando::Ripeti, Comando::SegnalazioneSuccessiva, Comando::PrendiRimedio, Comando::MostraRilievo})
+      comando == Comando::NessunaAzione ? static_cast<void>(menu->addSeparator())
+                                        : menu->addAction(VoceDi(*menuBar(), comando));
+    menu->popup(posto);
+  });
+}
+
 // The current row comes into view, and of a chosen finding its field is lit.
 void FinestraPrincipale::VaiAllaCorrente() {
   const long indice = Elenco().Indice();
@@ -289,11 +333,14 @@ void FinestraPrincipale::Fa(const std::function<void()>& azione) {
 }
 
 void FinestraPrincipale::Comanda(Comando comando) {
+  campi_->Prendi(); // what is typed there belongs to the row as the command finds it
+  if (comando == Comando::CampiRiga) return static_cast<void>(campi_->Entra());
   Fa([&] { modello_.Esegui(comando); });
   // What came back is brought into view.
   const bool segnalazione = comando == Comando::SegnalazioneSuccessiva || comando == Comando::SegnalazionePrecedente ||
                             comando == Comando::PrendiRimedio;
   if (segnalazione) return VaiAllaCorrente();
+  if (comando == Comando::IncollaRighe) return righe_->Scopri();
   const bool storia = comando == Comando::Annulla || comando == Comando::Ripeti;
   if (storia && Elenco().Indice() >= 0) righe_->VaiA(static_cast<std::size_t>(Elenco().Indice()));
 }
@@ -356,8 +403,13 @@ void FinestraPrincipale::MostraElenco() {
 
 void FinestraPrincipale::MostraSpiegazione() {
   const long indice = Elenco().Indice();
-  if (indice < 0 || static_cast<std::size_t>(indice) >= Elenco().Quante()) return spiegazione_->Pulisci();
-  spiegazione_->MostraRiga(Elenco().Riga(static_cast<std::size_t>(indice)));
+  if (indice < 0 || static_cast<std::size_t>(indice) >= Elenco().Quante()) {
+    campi_->Pulisci();
+    return spiegazione_->Pulisci();
+  }
+  const std::string_view riga = Elenco().Riga(static_cast<std::size_t>(indice));
+  campi_->MostraRiga(static_cast<std::size_t>(indice), riga);
+  spiegazione_->MostraRiga(riga);
 }
 
 void FinestraPrincipale::MostraStrumenti() {
@@ -411,6 +463,7 @@ void FinestraPrincipale::resizeEvent(QResizeEvent* evento) {
 void FinestraPrincipale::closeEvent(QCloseEvent* evento) {
   if (occupata_) return evento->ignore();
   if (!chiusa_) {
+    campi_->Prendi();
     {
       const QScopedValueRollback occupata(occupata_, true);
       modello_.Chiusura({x(), y(), width(), height()});

@@ -26,6 +26,7 @@ class PannelloPulsanti;
 class PannelloRilievo;
 class PannelloStrumenti;
 class RigaDiStato;
+class StrisciaCampi;
 class VistaRighe;
 
 class FinestraPrincipale : public QMainWindow {
@@ -54,6 +55,8 @@ private:
   void CollegaRicerca();
   void CollegaVerifiche();
   void CollegaConsegne();
+  void CollegaCampi();
+  void CreaMenuRighe();
   void CreaScorciatoie();
   void Comanda(Comando comando);
   void Fa(const std::function<void()>& azione);
@@ -83,6 +86,7 @@ private:
   VistaRighe* righe_;
   BarraRicerca* ricerca_;
   RigaDiStato* spiegazione_;
+  StrisciaCampi* campi_;
   QLabel* nomeFile_;
   QLabel* posizione_;
   ElencoVerifiche* verifiche_;

@@ -101,6 +101,18 @@ QKeySequence Scorciatoia(Comando comando) {
     return QKeySequence(Qt::CTRL | Qt::Key_Z);
   case Comando::Ripeti:
     return QKeySequence(Qt::CTRL | Qt::Key_Y);
+  case Comando::TagliaRighe:
+    return QKeySequence(Qt::CTRL | Qt::Key_X);
+  case Comando::CopiaRighe:
+    return QKeySequence(Qt::CTRL | Qt::Key_C);
+  case Comando::IncollaRighe:
+    return QKeySequence(Qt::CTRL | Qt::Key_V);
+  case Comando::EliminaRighe:
+    return QKeySequence(Qt::Key_Delete);
+  case Comando::SelezionaTutte:
+    return QKeySequence(Qt::CTRL | Qt::Key_A);
+  case Comando::CampiRiga:
+    return QKeySequence(Qt::Key_F4);
   case Comando::MostraVerifiche:
     return QKeySequence(Qt::CTRL | Qt::Key_F8);
   case Comando::SegnalazioneSuccessiva:
@@ -119,9 +131,8 @@ QKeySequence Scorciatoia(Comando comando) {
 }
 
 QAction* VoceDi(const QMenuBar& barra, Comando comando) {
-  for (const QAction* menu : barra.actions())
-    for (QAction* voce : menu->menu()->actions())
-      if (!voce->data().isNull() && voce->data().toInt() == static_cast<int>(comando)) return voce;
+  for (QAction* voce : barra.findChildren<QAction*>())
+    if (!voce->data().isNull() && voce->data().toInt() == static_cast<int>(comando)) return voce;
   return nullptr;
 }
 

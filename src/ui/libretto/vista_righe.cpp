@@ -5,6 +5,7 @@
 #include <ui/comune/testo_qt.h>
 #include <ui/verifiche/segni.h>
 
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -311,6 +312,19 @@ void VistaRighe::mouseDoubleClickEvent(QMouseEvent* evento) {
   trascina_ = false;
   const std::optional<std::size_t> riga = RigaAlPunto(evento->position().toPoint());
   if (riga && evento->button() == Qt::LeftButton) emit DoppioClick(*riga);
+}
+
+void VistaRighe::contextMenuEvent(QContextMenuEvent* evento) {
+  QPoint posto = evento->pos();
+  if (evento->reason() == QContextMenuEvent::Mouse) {
+    const auto riga = RigaAlPunto(posto);
+    if (riga && !elenco_.Selezionata(*riga)) VaiA(*riga);
+  } else {
+    Scopri();
+    posto = RettangoloRiga(static_cast<std::size_t>(std::max(0L, elenco_.Indice()))).bottomLeft() +
+            QPoint(LarghezzaMargine(), 0);
+  }
+  emit MenuRichiesto(viewport()->mapToGlobal(posto));
 }
 
 // --- keys

@@ -40,6 +40,8 @@ public:
 
   // Makes the row the only selected one and brings it into view.
   void VaiA(std::size_t riga);
+  // Brings the current row into view; the selection stays.
+  void Scopri() { MostraRiga(elenco_.Indice()); }
 
   // Brings the row into view and leaves the selection alone.
   void PortaInVista(std::size_t riga) { MostraRiga(static_cast<long>(riga)); }
@@ -52,6 +54,7 @@ signals:
   void DoppioClick(std::size_t riga);
   void Invio(std::size_t riga);
   void Cancella();
+  void MenuRichiesto(const QPoint& posto); // of the screen: on the row pressed, which is chosen, or at the current one
   void FileLasciato(const QString& percorsoOspite); // still inside the drag: to be received later
 
 protected:
@@ -64,6 +67,7 @@ protected:
   void mouseMoveEvent(QMouseEvent* evento) override;
   void mouseReleaseEvent(QMouseEvent* evento) override;
   void mouseDoubleClickEvent(QMouseEvent* evento) override;
+  void contextMenuEvent(QContextMenuEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
   void keyReleaseEvent(QKeyEvent* evento) override;
   void focusInEvent(QFocusEvent* evento) override;

@@ -30,6 +30,7 @@ struct Stato {
   bool strumenti = false;
   bool segnalazioni = false;
   bool rilievo = false;
+  bool campi = false; // the keys are in the boxes of the row
   bool aperta = true;
 };
 
@@ -47,6 +48,7 @@ Stato StatoDi(Tavolo& tavolo) {
           tavolo.modello.PannelloStrumenti,
           !tavolo.finestra->findChild<QWidget*>(QStringLiteral("ElencoVerifiche"))->isHidden(),
           !tavolo.finestra->findChild<QWidget*>(QStringLiteral("PannelloRilievo"))->isHidden(),
+          tavolo.finestra->focusWidget()->objectName() == QStringLiteral("Campo_0"),
           tavolo.finestra->isVisible()};
 }
 
@@ -77,6 +79,7 @@ std::string Differenza(const Stato& prima, const Stato& dopo, const std::vector<
   dici(prima.strumenti != dopo.strumenti, "pannello");
   dici(prima.segnalazioni != dopo.segnalazioni, "elenco delle segnalazioni");
   dici(prima.rilievo != dopo.rilievo, "rilievo");
+  dici(prima.campi != dopo.campi, "campi");
   dici(prima.aperta != dopo.aperta, "chiusa");
   return detto.empty() ? "niente" : detto;
 }
@@ -139,6 +142,12 @@ TEST(OgniVoce, DelMenuFaCioCheDice) {
       {"Chiudi", "chiusa"},
       {"Annulla", "spenta"},
       {"Ripeti", "spenta"},
+      {"Taglia Righe", "righe, selezione, appunti"},
+      {"Copia Righe", "appunti"},
+      {"Incolla Righe", "messaggio"}, // the clipboard holds none
+      {"Elimina Righe", "messaggio"}, // the answer is No
+      {"Seleziona Tutte le Righe", "selezione"},
+      {"Campi della Riga", "campi"},
       {"Stampa Libretto", "finestra Stampa Generale"},
       {"Modifica Diretta", "finestra Edit Libretto Misure"},
       {"Riga 0-9", "finestra Intestazione del Libretto - Righe 0 e 9, file"},
