@@ -22,6 +22,7 @@
 #include <core/salvataggio.h>
 #include <core/zero_nove.h>
 #include <fiduciali/misurate.h>
+#include <intestazione/catasto1_difetti.h>
 #include <pregeo/gondella.h>
 #include <pregeo/tecnico.h>
 #include <supporto/editor_gen.h>
@@ -331,6 +332,10 @@ void KR_LibrettoOriginale::CambiaCampo(std::size_t riga, std::size_t campo, std:
 void KR_LibrettoOriginale::CambiaIscrizione(std::string_view testo) {
   CasellaIscrizione = testo;
   ambiente_.sessione.NumeroIscrizione = testo;
+}
+
+std::string KR_LibrettoOriginale::DifettoCodiceFiscale() const {
+  return DifettoCasella(casella::CodiceFiscale, CasellaCodiceFiscale, ambiente_.sessione);
 }
 
 void KR_LibrettoOriginale::CambiaCodiceFiscale(std::string_view testo) {

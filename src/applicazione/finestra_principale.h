@@ -38,6 +38,7 @@ public:
   std::string CasellaDitta; // the owners box, upper case
   std::string CasellaIscrizione;
   std::string CasellaCodiceFiscale;
+  [[nodiscard]] std::string DifettoCodiceFiscale() const; // what is wrong with it; empty where nothing is
   std::vector<Opzione> Opzioni;
   std::string Esito;                // in the status line: what the last command did, and to how many rows
   std::vector<std::string> Recenti; // paths of the files opened last

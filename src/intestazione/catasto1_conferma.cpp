@@ -9,6 +9,7 @@
 #include <core/riga.h>
 #include <core/salvataggio.h>
 #include <core/zero_nove.h>
+#include <intestazione/catasto1_difetti.h>
 #include <intestazione/catasto1_righe.h>
 #include <pregeo/pregeo_ini.h>
 #include <pregeo/tecnico.h>
@@ -20,7 +21,8 @@ namespace lirmeto {
 
 // How the confirm goes, where it could be done in more than one way:
 //
-//   eight characters that are no date           as a date of another length
+//   a date, comune or sheet that no row can     the form stays open at its box, whose text is kept, before anything is
+//   have                                        changed; eight characters that are no date are such a date
 //   the surveyor's file or PREGEO.INI cannot    the report says so, and the rows are written all the same
 //   be written
 //   the list once its rows are changed          goes to Libretto at once: Pregeo's defaults are taken from there
@@ -49,8 +51,8 @@ void FormCatasto1TXT::ConfermaConfigurazione0() {
   Sessione& sessione = ambiente_.sessione;
   sessione.PuntoErrore = "ConfermaConfigurazione0";
   AvvisaProtocollo();
-  ControllaData();
-  if (!AccettaCodiceFiscale()) {
+  if (AggiornaData) caselle_.Metti(casella::Data, TestoData(ambiente_.orologio.Oggi()));
+  if (!CaselleGiuste() || !AccettaCodiceFiscale()) {
     sessione.EsitoForm = EsitoAnnullato; // closed in any other way from here on, the form is cancelled
     return;
   }
@@ -79,20 +81,25 @@ void FormCatasto1TXT::AvvisaProtocollo() {
     ambiente_.dialoghi.Messaggio("Protocollo non numerico!", "Protocollo non Numerico", Gravita::Critico);
 }
 
+// A wrong date is told; the form stays at the box, which shows the reason.
+bool FormCatasto1TXT::CaselleGiuste() {
+  DaCorreggere = PrimaDaCorreggere(caselle_, ambiente_.sessione);
+  if (DaCorreggere == casella::Data)
+    ambiente_.dialoghi.Messaggio(Difetto(casella::Data), "Errore nella data", Gravita::Critico);
+  if (!DaCorreggere) ControllaData();
+  return !DaCorreggere;
+}
+
 void FormCatasto1TXT::ControllaData() {
+  caselle_.Metti(casella::Data, DataAOttoCifre(Taglia(caselle_[casella::Data])));
   const Data oggi = ambiente_.orologio.Oggi();
-  const auto mettiOggi = [&] { caselle_.Metti(casella::Data, TestoData(oggi)); };
-  if (AggiornaData) mettiOggi();
   const auto data = DataDaTesto(caselle_[casella::Data]);
-  if (!data) {
-    ambiente_.dialoghi.Messaggio("Formato Data Errato!!", "Errore nella data", Gravita::Critico);
-    mettiOggi();
-  } else if (*data < oggi) {
-    std::string domanda;
-    domanda += "La data indicata è precedente la data attuale del PC!!"_w;
-    domanda += std::string(FineRiga) + "Inserire data attuale?";
-    if (ambiente_.dialoghi.Chiedi(domanda, "Verifica data Libretto", Bottoni::SiNo) == Risposta::Si) mettiOggi();
-  }
+  if (!data || *data >= oggi) return; // an empty one becomes today with the other defaults
+  std::string domanda;
+  domanda += "La data indicata è precedente la data attuale del PC!!"_w;
+  domanda += std::string(FineRiga) + "Inserire data attuale?";
+  if (ambiente_.dialoghi.Chiedi(domanda, "Verifica data Libretto", Bottoni::SiNo) == Risposta::Si)
+    caselle_.Metti(casella::Data, TestoData(oggi));
 }
 
 void FormCatasto1TXT::ScriviZeroNove() {

@@ -8,9 +8,12 @@
 #include <core/nomi_forme.h>
 #include <core/riga.h>
 #include <core/zero_nove.h>
+#include <intestazione/catasto1_difetti.h>
 #include <intestazione/catasto1_righe.h>
 #include <pregeo/catasto1_file.h>
 #include <pregeo/pregeo_ini.h>
+
+#include <array>
 
 namespace lirmeto {
 
@@ -26,6 +29,30 @@ namespace {
 
 constexpr std::string_view NomeForm = "FormCatasto1TXT";
 constexpr std::string_view SezioneOpzioni = "RELAZIONE_TECNICA";
+
+// What the buttons of the form and leaving its boxes write into the session before the confirm.
+constexpr std::array<std::string Sessione::*, 22> ValoriDelForm = {&Sessione::DataLibretto,
+                                                                   &Sessione::Protocollo,
+                                                                   &Sessione::CodiceComune,
+                                                                   &Sessione::NomeComune,
+                                                                   &Sessione::SiglaProvincia,
+                                                                   &Sessione::NomeProvincia,
+                                                                   &Sessione::Foglio,
+                                                                   &Sessione::Mappali,
+                                                                   &Sessione::Tecnico,
+                                                                   &Sessione::Cognome,
+                                                                   &Sessione::Nome,
+                                                                   &Sessione::Qualifica,
+                                                                   &Sessione::Provincia,
+                                                                   &Sessione::QuotaMedia,
+                                                                   &Sessione::PrecisioneLineare,
+                                                                   &Sessione::PrecisioneAngolare,
+                                                                   &Sessione::Strumentazione,
+                                                                   &Sessione::NumeroIscrizione,
+                                                                   &Sessione::CodiceFiscale,
+                                                                   &Sessione::Recapito,
+                                                                   &Sessione::EstrattoAssociato,
+                                                                   &Sessione::MisurateAssociate};
 
 std::string PercorsoCatasto1(const Sessione& sessione) {
   return sessione.CartellaProgramma + "\\Catasto1.txt";
@@ -43,6 +70,7 @@ void FormCatasto1TXT::Prova(const std::function<void()>& comando) {
 
 void FormCatasto1TXT::AlCaricamento() {
   Sessione& sessione = ambiente_.sessione;
+  prima_ = DaSessione();
   LeggiOpzioni();
   CFDaPregeoINI();
   elenchi_.Carica();
@@ -54,6 +82,34 @@ void FormCatasto1TXT::AlCaricamento() {
   caselle_.Metti(casella::EstMedio, NumeroInFormato(caselle_[casella::EstMedio], FormatoEstMedio));
   caselle_.Metti(casella::QuotaMedia, NumeroInFormato(caselle_[casella::QuotaMedia], FormatoQuotaMedia));
   EtichettaEstratto = sessione.EstrattoAssociato;
+  aperte_ = caselle_;
+  aperto_ = EtichettaEstratto;
+}
+
+FormCatasto1TXT::Fuori FormCatasto1TXT::DaSessione() const {
+  Fuori fuori{{}, ambiente_.sessione.ModoEditor};
+  fuori.valori.reserve(ValoriDelForm.size());
+  for (const auto valore : ValoriDelForm) fuori.valori.push_back(ambiente_.sessione.*valore);
+  return fuori;
+}
+
+bool FormCatasto1TXT::Modificata() const {
+  return caselle_.Testi() != aperte_.Testi() || EtichettaEstratto != aperto_;
+}
+
+// Nothing of what was looked up or chosen in the form stays in the session.
+void FormCatasto1TXT::Chiudi() {
+  if (Modificata() && ambiente_.dialoghi.Chiedi("Chiudere senza confermare le modifiche?", "Intestazione del Libretto",
+                                                Bottoni::SiNo) != Risposta::Si)
+    return;
+  for (std::size_t i = 0; i < prima_.valori.size(); ++i) ambiente_.sessione.*ValoriDelForm.at(i) = prima_.valori[i];
+  ambiente_.sessione.ModoEditor = prima_.modoEditor;
+  ambiente_.sessione.EsitoForm = EsitoAnnullato;
+  Chiusa = true;
+}
+
+std::string FormCatasto1TXT::Difetto(std::size_t indice) const {
+  return DifettoCasella(indice, caselle_[indice], ambiente_.sessione);
 }
 
 void FormCatasto1TXT::LeggiOpzioni() {
@@ -112,7 +168,14 @@ std::string FormCatasto1TXT::ComuneInCasella() const {
   return comune == nullptr ? std::string{} : comune->nome + " (" + comune->provincia + ")";
 }
 
+// A box that is only written in its own way is not edited.
 void FormCatasto1TXT::Lascia(std::size_t indice) {
+  const bool intatta = caselle_[indice] == aperte_[indice];
+  Normalizza(indice);
+  if (intatta) aperte_.Metti(indice, caselle_[indice]);
+}
+
+void FormCatasto1TXT::Normalizza(std::size_t indice) {
   const std::string& testo = caselle_[indice];
   const bool vuota = Taglia(testo).empty();
   if (indice == casella::Data) {

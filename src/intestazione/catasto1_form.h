@@ -13,6 +13,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lirmeto {
 
@@ -40,6 +41,10 @@ public:
 
   // Name and province of the comune whose code stands in its box: "PADOVA (PD)"; empty when no table has it.
   [[nodiscard]] std::string ComuneInCasella() const;
+
+  // What is wrong with a box, empty where nothing is; the box that the last confirm stopped at.
+  [[nodiscard]] std::string Difetto(std::size_t indice) const;
+  std::optional<std::size_t> DaCorreggere;
 
   void AlCaricamento();
 
@@ -70,6 +75,16 @@ private:
   void Prova(const std::function<void()>& comando);
   [[nodiscard]] std::string_view TestoPer(Elenco elenco) const; // of the list's box, trimmed
 
+  // What the form may do to the session before it is confirmed.
+  struct Fuori {
+    std::vector<std::string> valori;
+    int modoEditor = 0;
+  };
+  [[nodiscard]] Fuori DaSessione() const;
+  void Chiudi();
+  [[nodiscard]] bool Modificata() const;
+
+  void Normalizza(std::size_t indice);
   void LeggiOpzioni();
   void ScriviOpzioni();
   void CFDaPregeoINI();
@@ -92,6 +107,7 @@ private:
   void ConfermaConfigurazione0();
   void AvvisaProtocollo();
   void ControllaData();
+  [[nodiscard]] bool CaselleGiuste();
   void ScriviZeroNove();
   void ScriviCommento();
   void AggiornaPregeo();
@@ -101,6 +117,9 @@ private:
   CaselleCatasto1 caselle_;
   ElenchiCatasto1 elenchi_;
   TecniciCatasto1 tecnici_;
+  Fuori prima_;            // the session as the form found it
+  CaselleCatasto1 aperte_; // the boxes as they were filled
+  std::string aperto_;     // and the extract
 };
 
 } // namespace lirmeto

@@ -40,11 +40,7 @@ std::span<const FormCatasto1TXT::Pulsante> FormCatasto1TXT::Pulsanti() {
                  form.ambiente_.sessione.EsitoForm = EsitoConfermato;
                  form.ConfermaConfigurazione0();
                }},
-      Pulsante{1, "Chiudi", "Chiude senza modificare il libretto",
-               [](F& form) {
-                 form.ambiente_.sessione.EsitoForm = EsitoAnnullato;
-                 form.Chiusa = true;
-               }},
+      Pulsante{1, "Chiudi", "Chiude senza modificare il libretto", [](F& form) { form.Chiudi(); }},
       Pulsante{2, "Salva Predefiniti", "Salva le caselle come intestazione predefinita (Catasto1.txt)",
                [](F& form) { form.SalvaCatasto1(); }},
       Pulsante{22, "Elimina Predefiniti", "Elimina l'intestazione predefinita (Catasto1.txt)",

@@ -110,7 +110,7 @@ struct CasoData {
 
 class DataConfermata : public testing::TestWithParam<CasoData> {};
 
-TEST_P(DataConfermata, AvvisaEVaAvanti) {
+TEST_P(DataConfermata, Avvisa) {
   Sportello sala;
   sala.Apri();
   sala.form.AggiornaData = GetParam().oggi;
@@ -126,11 +126,86 @@ INSTANTIATE_TEST_SUITE_P(Casi, DataConfermata,
                                          CasoData{"domani", "22112026", false, "", "22112026"},
                                          CasoData{"ieri", "20112026", false, "Verifica data Libretto", "20112026"},
                                          CasoData{"automatica", "20112020", true, "", "21112026"},
-                                         CasoData{"corta", "0102204", false, "Errore nella data", "21112026"},
-                                         CasoData{"lunga", "9999999999", false, "Errore nella data", "21112026"},
-                                         CasoData{"inesistente", "30022027", false, "Errore nella data", "21112026"},
-                                         CasoData{"lettere", "1e7.....", false, "Errore nella data", "21112026"}),
+                                         CasoData{"breve", "221126", false, "", "22112026"},
+                                         CasoData{"vuota", "", false, "", "21112026"}),
                          [](const auto& caso) { return caso.param.nome; });
+
+struct CasoDifetto {
+  std::size_t casella;
+  std::string testo;
+  std::string difetto; // what the box shows
+  bool ferma = true;   // the form stays open
+  std::string detto = {};
+};
+
+class Difetti : public testing::TestWithParam<CasoDifetto> {};
+
+// Nothing is written, and the text stays to be put right.
+TEST_P(Difetti, SiVedonoAllaCasella) {
+  Sportello sala;
+  sala.Apri();
+  sala.form.AggiornaData = false;
+  sala.dialoghi.risposte = {Risposta::Si};
+  const auto prima = sala.Righe();
+  sala.form.Cambia(GetParam().casella, GetParam().testo);
+  EXPECT_EQ(sala.form.Difetto(GetParam().casella), GetParam().difetto);
+  sala.form.Premi(0);
+  EXPECT_EQ(sala.form.Chiusa, !GetParam().ferma);
+  EXPECT_EQ(sala.form.DaCorreggere, GetParam().ferma ? std::optional(GetParam().casella) : std::nullopt);
+  if (!GetParam().ferma) return;
+  EXPECT_EQ(sala.Righe(), prima);
+  EXPECT_EQ(sala.Casella(GetParam().casella), GetParam().testo);
+  EXPECT_EQ(sala.dialoghi.UltimoTesto(), GetParam().detto);
+  EXPECT_EQ(sala.sessione.EsitoForm, EsitoAnnullato);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Casi, Difetti,
+    testing::Values(CasoDifetto{casella::Data, "0102204", "Formato Data Errato!!", true, "Formato Data Errato!!"},
+                    CasoDifetto{casella::Data, "30022027", "Formato Data Errato!!", true, "Formato Data Errato!!"},
+                    CasoDifetto{casella::Data, "1e7.....", "Formato Data Errato!!", true, "Formato Data Errato!!"},
+                    CasoDifetto{casella::Comune, "ZZZZ", "Comune non trovato!"},
+                    CasoDifetto{casella::Comune, "G224AB", "Comune non trovato!"},
+                    CasoDifetto{casella::Comune, "g224a", "", false}, CasoDifetto{casella::Comune, "", "", false},
+                    CasoDifetto{casella::Foglio, "A7", "Foglio errato: quattro cifre e l'allegato"},
+                    CasoDifetto{casella::Foglio, "12AB", "Foglio errato: quattro cifre e l'allegato"},
+                    CasoDifetto{casella::Foglio, "12b", "", false}, CasoDifetto{casella::Foglio, "00041", "", false},
+                    CasoDifetto{casella::Protocollo, "x", "Protocollo non numerico!", false},
+                    CasoDifetto{casella::CodiceFiscale, "RSSMRA85T10A562T", "Probabile Codice Fiscale non Corretto!",
+                                false}));
+
+// What was looked up and chosen in the form is none of the session's once it is closed.
+TEST(Catasto1, ChiudereNonCambiaNullaEChiedeSeQualcosaECambiato) {
+  Sportello sala;
+  sala.disco.Metti(Programma + "\\TECNICI\\BLU ADA.PFS",
+                   "\"BLU ADA\",\"ARCHITETTO\",\"VENEZIA\"\r\n\"10\",\"20\",\"S\"\r\n\"9\",\"X\"\r\nBLU\r\nADA\r\n");
+  Sessione& s = sala.sessione;
+  s.MisurateAssociate = "X.DDD";
+  const auto stato = [&] {
+    return std::tuple(s.Tecnico, s.Cognome + s.NumeroIscrizione, s.Qualifica, s.DataLibretto, s.MisurateAssociate,
+                      s.CodiceComune, s.ModoEditor);
+  };
+  const auto prima = stato();
+  sala.form.AlCaricamento();
+  sala.form.Lascia(casella::Foglio);
+  sala.form.Premi(1);
+  EXPECT_TRUE(sala.form.Chiusa);
+  EXPECT_TRUE(sala.dialoghi.detti.empty()); // nothing was edited
+  FormCatasto1TXT altra(sala.ambiente);
+  altra.AlCaricamento();
+  altra.ScegliTecnico(0);
+  altra.Premi(23);
+  altra.Cambia(casella::Data, "01012020");
+  altra.Lascia(casella::Data);
+  altra.ApriEstratti();
+  altra.Premi(1); // the answer is No
+  EXPECT_FALSE(altra.Chiusa);
+  EXPECT_EQ(sala.dialoghi.UltimoTesto(), "Chiudere senza confermare le modifiche?");
+  sala.dialoghi.risposte = {Risposta::Si};
+  altra.Premi(1);
+  EXPECT_TRUE(altra.Chiusa);
+  EXPECT_TRUE(stato() == prima);
+}
 
 TEST(Catasto1, CodiceFiscaleRifiutatoNonCambiaNulla) {
   Sportello sala({Zero, Nove, "8|a|1|2|"});

@@ -1,6 +1,8 @@
 #include <ui/intestazione/finestra_catasto1.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/difetto.h>
+#include <ui/comune/senza_barre.h>
 #include <ui/comune/testo_qt.h>
 
 #include <QAbstractItemView>
@@ -102,6 +104,12 @@ void FinestraCatasto1::AggiungiCasella(QGridLayout& griglia, std::size_t indice,
   linea->setSizePolicy(lettere > 0 ? QSizePolicy::Fixed : QSizePolicy::Expanding, QSizePolicy::Fixed);
   CollegaCasella(indice, linea);
   dietro.insert(dietro.begin(), linea);
+  if (lettere > 0) {
+    difetti_[indice] = new QLabel(this);
+    difetti_[indice]->setObjectName(QStringLiteral("Difetto"));
+    difetti_[indice]->setTextFormat(Qt::PlainText);
+    dietro.push_back(difetti_[indice]);
+  }
   AggiungiRiga(griglia, AQString(EtichetteCaselle()[indice]), dietro);
 }
 
@@ -144,7 +152,9 @@ void FinestraCatasto1::CollegaCasella(std::size_t indice, QLineEdit* linea) {
     modello_.Cambia(indice, DaQString(testo));
     MostraTesto(*linea, modello_.Caselle()[indice]);
     if (indice == casella::Comune) comune_->setText(AQString(modello_.ComuneInCasella()));
+    if (modello_.Difetto(indice).empty()) MostraDifetto(indice); // a fault is told once the box is left
   });
+  RifiutaBarre(*linea);
   connect(linea, &QLineEdit::editingFinished, this, [this, indice] {
     modello_.Lascia(indice);
     Mostra();
@@ -220,8 +230,13 @@ void FinestraCatasto1::reject() {
 }
 
 void FinestraCatasto1::Premi(int indice) {
+  modello_.DaCorreggere.reset();
   modello_.Premi(indice);
   Mostra();
+  if (modello_.DaCorreggere) {
+    caselle_[*modello_.DaCorreggere]->setFocus();
+    caselle_[*modello_.DaCorreggere]->selectAll();
+  }
   if (modello_.Chiusa) accept();
 }
 
@@ -230,7 +245,10 @@ void FinestraCatasto1::Premi(int indice) {
 void FinestraCatasto1::Mostra() {
   MostraElenchi();
   MostraTecnici();
-  for (std::size_t i = 0; i < NumeroCaselle; ++i) MostraTesto(*caselle_[i], modello_.Caselle()[i]);
+  for (std::size_t i = 0; i < NumeroCaselle; ++i) {
+    MostraTesto(*caselle_[i], modello_.Caselle()[i]);
+    MostraDifetto(i);
+  }
   const Sessione& sessione = modello_.DatiSessione();
   comune_->setText(AQString(modello_.ComuneInCasella()));
   estratto_->setText(modello_.EtichettaEstratto.empty() ? QStringLiteral("(nessuno)")
@@ -241,6 +259,14 @@ void FinestraCatasto1::Mostra() {
   const QSignalBlocker fermi[] = {QSignalBlocker(aggiornaIni_), QSignalBlocker(aggiornaData_)};
   aggiornaIni_->setChecked(modello_.AggiornaPregeoIni);
   aggiornaData_->setChecked(modello_.AggiornaData);
+}
+
+void FinestraCatasto1::MostraDifetto(std::size_t indice) {
+  const QString difetto = AQString(modello_.Difetto(indice));
+  SegnaDifetto(*caselle_[indice], difetto);
+  if (difetti_[indice] == nullptr) return;
+  difetti_[indice]->setText(difetto);
+  difetti_[indice]->setVisible(!difetto.isEmpty());
 }
 
 // Each list stands at the entry that its box holds, so that the keys go on from there; the box keeps its own text.

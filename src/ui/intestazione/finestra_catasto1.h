@@ -55,11 +55,13 @@ private:
   void OrdinaTasti();
   void Premi(int indice);
   void Mostra();
+  void MostraDifetto(std::size_t indice);
   void MostraElenchi();
   void MostraTecnici();
 
   FormCatasto1TXT& modello_;
   std::array<QLineEdit*, NumeroCaselle> caselle_{};
+  std::array<QLabel*, NumeroCaselle> difetti_{}; // beside the boxes that can be wrong
   std::array<QComboBox*, NumeroElenchi> elenchi_{};
   Parti bottoni_; // in the order they stand; reached behind the boxes
   QListWidget* tecnici_;

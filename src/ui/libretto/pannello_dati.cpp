@@ -1,6 +1,8 @@
 #include <ui/libretto/pannello_dati.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/difetto.h>
+#include <ui/comune/senza_barre.h>
 #include <ui/comune/testo_qt.h>
 
 #include <QAction>
@@ -90,7 +92,12 @@ void PannelloDati::AggiungiTecnico(QVBoxLayout& colonna) {
   connect(codiceFiscale_, &QLineEdit::textEdited, this, [this](const QString& testo) {
     modello_.CambiaCodiceFiscale(DaQString(testo));
     MostraLinea(*codiceFiscale_, modello_.CasellaCodiceFiscale);
+    if (modello_.DifettoCodiceFiscale().empty()) SegnaDifetto(*codiceFiscale_, {});
   });
+  connect(codiceFiscale_, &QLineEdit::editingFinished, this,
+          [this] { SegnaDifetto(*codiceFiscale_, AQString(modello_.DifettoCodiceFiscale())); });
+  RifiutaBarre(*iscrizione_);
+  RifiutaBarre(*codiceFiscale_);
 }
 
 void PannelloDati::AggiungiDitta(QVBoxLayout& colonna) {
@@ -138,6 +145,7 @@ void PannelloDati::Mostra() {
   versione_->setText(AQString(modello_.EtichettaVersione));
   MostraLinea(*iscrizione_, modello_.CasellaIscrizione);
   MostraLinea(*codiceFiscale_, modello_.CasellaCodiceFiscale);
+  if (!codiceFiscale_->hasFocus()) SegnaDifetto(*codiceFiscale_, AQString(modello_.DifettoCodiceFiscale()));
   if (TestoDocumento(*ditta_->document()) != modello_.CasellaDitta) {
     const QSignalBlocker fermo(ditta_);
     ditta_->setPlainText(AQString(modello_.CasellaDitta));

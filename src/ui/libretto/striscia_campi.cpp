@@ -20,7 +20,8 @@ namespace {
 
 constexpr int LettereMinime = 5;
 constexpr int LettereMassime = 34;
-constexpr int Aria = 20; // pixels of a box beside its letters
+constexpr int LettereLibere = 24; // at least, of a note that ends the row
+constexpr int Aria = 20;          // pixels of a box beside its letters
 
 } // namespace
 
@@ -108,8 +109,9 @@ void StrisciaCampi::Riempi(std::size_t quale) {
   constexpr int senzaLimite = 32767;
   posto.casella->setMaxLength(casella.lettere > 0 ? static_cast<int>(casella.lettere) : senzaLimite);
   Rimetti(quale);
-  const int lettere =
-      std::clamp(static_cast<int>(std::max(casella.valore.size(), casella.lettere)) + 1, LettereMinime, LettereMassime);
+  const bool libera = quale + 1 == caselle_.size() && casella.unita.empty() && casella.lettere == 0;
+  const int lettere = std::clamp(static_cast<int>(std::max(casella.valore.size(), casella.lettere)) + 1,
+                                 libera ? LettereLibere : LettereMinime, LettereMassime);
   const int larga = fontMetrics().horizontalAdvance(u'0') * lettere + Aria;
   posto.casella->setFixedWidth(std::max(larga, fontMetrics().horizontalAdvance(nome)));
 }

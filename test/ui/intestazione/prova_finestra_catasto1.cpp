@@ -90,12 +90,12 @@ TEST(FinestraCatasto1, UnAttoDaZero) {
   EXPECT_TRUE(tavolo.banco.dialoghi.detti.empty()) << tavolo.banco.dialoghi.UltimoTesto();
   const std::vector<std::string> attese = {"0|22112026|44|E098|0007B|3,12|NERI UGO|INGEGNERE|GORIZIA|",
                                            "9|52|10|30|1070|10.00-G,STDA 2.08|CM|MISURE ASSENTI|", "6|CONFERMA|",
-                                           "6|PROVA BARRE|"};
+                                           "6|PROVABARRE|"};
   EXPECT_EQ(tavolo.banco.Righe(), attese);
   EXPECT_EQ(tavolo.banco.sessione.Libretto, Testo(attese));
   EXPECT_EQ(disco.Contenuto(Programma + "\\Catasto1.txt"),
             Testo({"0|22112026|44|E098|0007B|3,12|NERI|INGEGNERE|GORIZIA|",
-                   "9|52|10|30|1070|10.00-G,STDA 2.08|CM|MISURE ASSENTI|", "6|PROVA BARRE|"}));
+                   "9|52|10|30|1070|10.00-G,STDA 2.08|CM|MISURE ASSENTI|", "6|PROVABARRE|"}));
   EXPECT_EQ(disco.Contenuto(Programma + "\\TECNICI\\NERI UGO.PFS"),
             Testo({"\"NERI UGO\",\"INGEGNERE\",\"GORIZIA\"", "\"10\",\"20\",\"MISURE ASSENTI\"",
                    "\"55\",\"rssmra85t10a562s\"", "\"NERI\"", "\"UGO\"", "\"via Roma 1\""}));
@@ -151,6 +151,17 @@ TEST(FinestraCatasto1, ElenchiTecniciECodiceFiscale) {
   EXPECT_EQ(strumenti.currentText(), QStringLiteral("Stazione Totale 1\""));
   mano.Clicca(17);
   EXPECT_EQ(strumenti.count(), quanti);
+  const auto segnata = [](const QLineEdit& casella) { return casella.property("difetto").toBool(); };
+  EXPECT_TRUE(segnata(mano.Casella(casella::CodiceFiscale)));
+  mano.Casella(casella::Comune).setFocus();
+  mano.Scrivi("ZZZZ");
+  EXPECT_TRUE(segnata(mano.Casella(casella::Comune)));
+  mano.Clicca(0);
+  EXPECT_TRUE(finestra.isVisible());
+  EXPECT_TRUE(mano.Casella(casella::Comune).hasFocus());
+  EXPECT_TRUE(tavolo.banco.dialoghi.detti.empty());
+  QTest::keyClicks(&mano.Casella(casella::Comune), QStringLiteral("G224"));
+  EXPECT_FALSE(segnata(mano.Casella(casella::Comune))); // as soon as it is right
   mano.Clicca(0); // the code is wrong and the answer is No
   EXPECT_TRUE(finestra.isVisible());
   EXPECT_EQ(tavolo.banco.dialoghi.UltimoTesto(), "Probabile Codice Fiscale non Corretto!\r\nContinuare?");
