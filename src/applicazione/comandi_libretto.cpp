@@ -37,10 +37,10 @@ void ScegliMisurate(Ambiente& ambiente) {
   ambiente.sessione.PuntoErrore = "ScegliMisurate";
   const bool scritte = SalvaMisurateInPregeoIni(ambiente);
   const std::string percorso = PercorsoPregeoIni(ambiente.sessione);
-  ambiente.dialoghi.Messaggio("Misurate associate : " + ambiente.sessione.MisurateAssociate + "\r\n" +
-                                  (scritte ? "Scritto in " + percorso
-                                           : "Non scritto: manca FILE_DISTANZETAF in " + percorso),
-                              "Archivio Distanze Misurate");
+  ambiente.dialoghi.Messaggio(
+      "Misurate associate : " + ambiente.sessione.MisurateAssociate + "\r\n" +
+          (scritte ? "Scritto in " + percorso : "Non scritto: manca FILE_DISTANZETAF in " + percorso),
+      "Archivio Distanze Misurate");
 }
 
 void ScegliTecnico(Ambiente& ambiente) {

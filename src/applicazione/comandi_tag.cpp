@@ -32,7 +32,7 @@ void ApriFile(Ambiente& ambiente, const std::string& percorso) {
   if (!EstensioneEstratto(percorso)) {
     if (!ambiente.disco.Esiste(percorso))
       return ambiente.dialoghi.Messaggio(percorso + std::string(FineRiga) + "NON trovato!");
-    (void)Intrappola(ambiente, [&] { ApriLibretto(ambiente, percorso); });
+    (void)Intrappola(ambiente, [&] { ApriLibretto(ambiente, percorso, Accetta::SoloLibretti); });
     return;
   }
   (void)Intrappola(ambiente, [&] { CopiaEstrattoInPregeo(ambiente, percorso); });
@@ -48,8 +48,10 @@ DopoComando EseguiComandoDi(Ambiente& ambiente, std::string_view linea) {
 
 DopoComando EseguiLinea(Ambiente& ambiente, std::string_view linea) {
   const std::string file(Parte(linea, '|', 0));
-  ApriLibretto(ambiente, file.empty() ? ambiente.sessione.CartellaProgramma + "\\Nuovo.DAT"
-                                      : PercorsoInCapitali(ambiente.disco, file));
+  ApriLibretto(ambiente,
+               file.empty() ? ambiente.sessione.CartellaProgramma + "\\Nuovo.DAT"
+                            : PercorsoInCapitali(ambiente.disco, file),
+               Accetta::SoloLibretti);
   return EseguiComandoDi(ambiente, linea);
 }
 
@@ -153,7 +155,7 @@ DopoComando ComandoTag1(Ambiente& ambiente) {
 
 void EseguiLineaDiComando(Ambiente& ambiente, std::string_view linea) {
   const std::string file(Parte(linea, '|', 0));
-  if (!file.empty()) ApriLibretto(ambiente, PercorsoInCapitali(ambiente.disco, file));
+  if (!file.empty()) ApriLibretto(ambiente, PercorsoInCapitali(ambiente.disco, file), Accetta::SoloLibretti);
   (void)EseguiComandoDi(ambiente, linea);
 }
 

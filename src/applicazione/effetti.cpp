@@ -101,7 +101,8 @@ constexpr auto Effetti = std::to_array<Voce>({
 } // namespace
 
 std::string_view EffettoDi(Comando comando) {
-  const auto sua = std::find_if(Effetti.begin(), Effetti.end(), [comando](const Voce& voce) { return voce.first == comando; });
+  const auto sua =
+      std::find_if(Effetti.begin(), Effetti.end(), [comando](const Voce& voce) { return voce.first == comando; });
   if (sua != Effetti.end()) return sua->second;
   const bool tipologia = TrovaTipologia(comando) != nullptr;
   return tipologia ? "Scelte le particelle dell'estratto associato, compone la proposta di aggiornamento di questo tipo"

@@ -44,8 +44,8 @@ KR_LibrettoOriginale::Scelta KR_LibrettoOriginale::SceltaAttuale() const {
 // at the place that it has now.
 void KR_LibrettoOriginale::RimettiScelta(const Scelta& prima, bool cambiate) {
   ElencoRighe& elenco = ambiente_.sessione.List1;
-  const bool perduta = elenco.Versione() != prima.versione && elenco.Indice() < 0 &&
-                       prima.file == ambiente_.sessione.NomeFileLibretto;
+  const bool perduta =
+      elenco.Versione() != prima.versione && elenco.Indice() < 0 && prima.file == ambiente_.sessione.NomeFileLibretto;
   if (!perduta || elenco.QuanteSelezionate() > 0) return;
   if (!cambiate) {
     for (const std::size_t riga : prima.selezionate)

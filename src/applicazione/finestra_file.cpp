@@ -114,7 +114,7 @@ bool KR_LibrettoOriginale::ConsenteDiSostituire(std::string_view titolo) {
 void KR_LibrettoOriginale::PrendiLibretto(std::string_view comando, const std::string& percorso) {
   if (!ambiente_.disco.Esiste(percorso)) return DiciAssente(percorso);
   Comanda(comando, [&] {
-    ApriLibretto(ambiente_, percorso);
+    ApriLibretto(ambiente_, percorso, Accetta::SoloLibretti);
     CaricaLibrettoInList1(ambiente_);
     ambiente_.sessione.PuntoErrore = FinisceConSenzaCaso(percorso, ".PDF") ? "Decozero_138" : "Decozero_137";
     MostraSessione();
@@ -181,9 +181,9 @@ void KR_LibrettoOriginale::EseguiConsegnata(const std::string& linea) {
 
 void KR_LibrettoOriginale::TerminaBloccati() {
   if (AltriModuli(ambiente_).empty()) return ambiente_.dialoghi.Messaggio("Nessun altro modulo attivo.");
-  const Risposta risposta = ambiente_.dialoghi.Chiedi(
-      "Terminare gli altri moduli di Lirmeto? Il loro lavoro non salvato va perso.", "Termina Moduli Bloccati",
-      Bottoni::SiNo);
+  const Risposta risposta =
+      ambiente_.dialoghi.Chiedi("Terminare gli altri moduli di Lirmeto? Il loro lavoro non salvato va perso.",
+                                "Termina Moduli Bloccati", Bottoni::SiNo);
   if (risposta == Risposta::Si) TerminaAltriModuli(ambiente_);
 }
 

@@ -40,10 +40,10 @@ public:
   std::string CasellaCodiceFiscale;
   [[nodiscard]] std::string DifettoCodiceFiscale() const; // what is wrong with it; empty where nothing is
   std::vector<Opzione> Opzioni;
-  std::string Esito;                // in the status line: what the last command did, and to how many rows
-  std::vector<std::string> Recenti; // paths of the files opened last
+  std::string Esito;                     // in the status line: what the last command did, and to how many rows
+  std::vector<std::string> Recenti;      // paths of the files opened last
   std::optional<std::size_t> PrimaNuova; // first row that the last command added
-  std::string AvvisoScartate; // in the status line: rows that the last command dropped
+  std::string AvvisoScartate;            // in the status line: rows that the last command dropped
   Carattere CarattereElenco;
   bool PannelloStrumenti = false; // the tools panel is visible
   PannelloVerifiche Verifiche;

@@ -26,7 +26,8 @@ namespace lirmeto {
 //                                     write the old rows over the file that failed
 //   a folder given as a file          error 75
 //   a file that is no libretto        has no row of a kind, a number from 0 to 9 before the first bar, or has bytes that
-//                                     are zero: error 5, and nothing of it is taken; a drawing (.LXC) has its own reader
+//                                     are zero: in the window error 5, and nothing of it is taken; a drawing (.LXC) has
+//                                     its own reader; the command line fills in what is missing, as it always did
 
 namespace {
 
@@ -91,7 +92,8 @@ void ControllaLibretto(std::string_view percorso, std::string_view testo) {
   const bool zeri = testo.find('\0') != std::string_view::npos;
   const auto righe = RigheDi(testo);
   if (!zeri && std::any_of(righe.begin(), righe.end(), RigaDiUnLibretto)) return;
-  throw Errore(errore::ArgomentoNonValido, std::string("Il file non è un libretto: "_w) + std::string(percorso) + "\r\n" +
+  throw Errore(errore::ArgomentoNonValido, std::string("Il file non è un libretto: "_w) + std::string(percorso) +
+                                               "\r\n" +
                                                (zeri ? "Contiene byte a zero" : "Nessuna riga ha un genere da 0 a 9"));
 }
 
@@ -149,25 +151,25 @@ void MettiZeroNove(ListaRighe& righe, const Sessione& sessione) {
 
 } // namespace
 
-void CaricaLibrettoDaFile(Ambiente& ambiente) {
+void CaricaLibrettoDaFile(Ambiente& ambiente, Accetta accetta) {
   Sessione& sessione = ambiente.sessione;
   const PercorsiApertura percorsi = PercorsiDa(ambiente.disco, sessione.NomeFileLibretto);
   const std::string sostitute = percorsi.lxb.empty() ? std::string{} : CaricaFileIntero(ambiente, percorsi.lxb);
   if (ambiente.disco.Esiste(percorsi.libretto)) {
     std::string testo = CaricaFileIntero(ambiente, percorsi.libretto);
-    ControllaLibretto(percorsi.libretto, testo);
+    if (accetta == Accetta::SoloLibretti) ControllaLibretto(percorsi.libretto, testo);
     MettiInSessione(LeggiFileLibretto(std::move(testo)), sessione);
   }
   sessione.NomeFileLibretto = percorsi.libretto;
   if (!sostitute.empty()) UnisciLxb(ambiente, sostitute);
 }
 
-void ApriLibretto(Ambiente& ambiente, std::string_view percorso) {
+void ApriLibretto(Ambiente& ambiente, std::string_view percorso, Accetta accetta) {
   if (FinisceConSenzaCaso(percorso, ".PDF")) return EsplodiPDF(ambiente, percorso);
   Sessione& sessione = ambiente.sessione;
   const std::string nomePrima = std::exchange(sessione.NomeFileLibretto, std::string(percorso));
   try {
-    CaricaLibrettoDaFile(ambiente);
+    CaricaLibrettoDaFile(ambiente, accetta);
   } catch (...) {
     sessione.NomeFileLibretto = nomePrima;
     throw;

@@ -3,6 +3,7 @@
 
 #include <core/ambiente.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,12 +39,15 @@ struct SezionePdf {
 //   [TAG1000]|0|...|<nr>9|...|<nr>[/TAG1000]
 [[nodiscard]] ContenutoPdf LeggiSezioniPdf(std::string_view byte);
 
+// What opening takes: a command fills what a file lacks, a user who picked the wrong file is told so. SoloLibretti is
+// error 5 for a file with no row of a kind or with bytes that are zero.
+enum class Accetta : std::uint8_t { OgniFile, SoloLibretti };
+
 // Reads NomeFileLibretto into Libretto, Ditta, EstrattoAssociato,
 // CodiceFiscale, NumeroIscrizione; the list is not touched. An .LXB gives new
 // measuring rows to the .DAT of the same name, and NomeFileLibretto stays at
-// the .DAT. A file that is not there leaves Libretto as it was. Error 5 for one that is no libretto. After an error
-// the session is as it was.
-void CaricaLibrettoDaFile(Ambiente& ambiente);
+// the .DAT. A file that is not there leaves Libretto as it was. After an error the session is as it was.
+void CaricaLibrettoDaFile(Ambiente& ambiente, Accetta accetta = Accetta::OgniFile);
 
 // Reads a .PDF into Libretto, Ditta and EstrattoAssociato; NomeFileLibretto
 // becomes the .TXT of the same name, upper case. Nothing is written. Throws
@@ -54,7 +58,7 @@ void EsplodiPDF(Ambiente& ambiente, std::string_view percorso);
 // Opens a file by its extension, as a drop on the list does: .PDF by its
 // sections, anything else as a libretto. When that fails the session keeps the
 // file name it had.
-void ApriLibretto(Ambiente& ambiente, std::string_view percorso);
+void ApriLibretto(Ambiente& ambiente, std::string_view percorso, Accetta accetta = Accetta::OgniFile);
 
 // The .EMP of Pregeo's extract folder whose first row has the identifier in
 // field 2; empty when there is none. An empty identifier is nobody's.
