@@ -25,6 +25,9 @@ struct Istante {
   Ora ora;
 };
 
+// Whether the calendar has it.
+[[nodiscard]] bool NelCalendario(const Data& data);
+
 // "ddmmyyyy", the form of row 0.
 [[nodiscard]] std::string TestoData(const Data& data);
 

@@ -2,6 +2,7 @@
 // Angles as instruments read them.
 
 #include <compare>
+#include <numbers>
 
 namespace lirmeto {
 
@@ -21,6 +22,10 @@ public:
 private:
   double valore_ = 0;
 };
+
+[[nodiscard]] constexpr double Radianti(Gon angolo) {
+  return angolo.Valore() * (std::numbers::pi / 200);
+}
 
 inline constexpr Gon Giro{400};
 inline constexpr Gon Retto{100};

@@ -18,9 +18,6 @@ namespace {
 bool Bianco(char c) {
   return c == ' ' || c == '\t';
 }
-bool Cifra(char c) {
-  return c >= '0' && c <= '9';
-}
 
 // Reads the number grammar from left to right and keeps its characters without
 // blanks. `fatte` marks what the longest prefix took of the text.

@@ -153,6 +153,10 @@ std::string Minuscolo(std::string_view testo) {
   return Tradotto(testo, Minuscole);
 }
 
+bool TutteCifre(std::string_view testo) {
+  return !testo.empty() && std::all_of(testo.begin(), testo.end(), Cifra);
+}
+
 bool UgualiSenzaCaso(std::string_view a, std::string_view b) {
   return a.size() == b.size() &&
          std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Maiuscolo(x) == Maiuscolo(y); });

@@ -36,6 +36,16 @@ inline constexpr std::string_view FineRiga = "\r\n";
 [[nodiscard]] std::string Maiuscolo(std::string_view testo);
 [[nodiscard]] std::string Minuscolo(std::string_view testo);
 
+// A digit; a digit or a letter without accents.
+[[nodiscard]] constexpr bool Cifra(char c) {
+  return c >= '0' && c <= '9';
+}
+[[nodiscard]] constexpr bool LetteraOCifra(char c) {
+  return Cifra(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+// Digits and nothing else, one at least.
+[[nodiscard]] bool TutteCifre(std::string_view testo);
+
 // Whether two texts are equal once both are upper-cased.
 [[nodiscard]] bool UgualiSenzaCaso(std::string_view a, std::string_view b);
 [[nodiscard]] bool FinisceConSenzaCaso(std::string_view testo, std::string_view coda);

@@ -9,7 +9,6 @@
 
 #include <array>
 #include <charconv>
-#include <chrono>
 #include <map>
 
 namespace lirmeto {
@@ -226,10 +225,8 @@ std::optional<Data> LeggiData(std::string_view testo) {
   const auto mese = Cifre(testo.substr(5, 2));
   const auto giorno = Cifre(testo.substr(8, 2));
   if (!anno || !mese || !giorno || *anno == 0) return std::nullopt;
-  const std::chrono::year_month_day data{std::chrono::year(*anno), std::chrono::month(static_cast<unsigned>(*mese)),
-                                         std::chrono::day(static_cast<unsigned>(*giorno))};
-  if (!data.ok()) return std::nullopt;
-  return Data{*anno, *mese, *giorno};
+  const Data data{*anno, *mese, *giorno};
+  return NelCalendario(data) ? std::optional(data) : std::nullopt;
 }
 
 std::variant<Opzioni, NienteDaFare> LeggiOpzioni(const std::vector<std::string>& parole) {

@@ -1,6 +1,7 @@
 #include <grafica/indice_nomi.h>
 
 #include <base/errore.h>
+#include <base/testo.h>
 #include <grafica/archivio_grafica.h>
 
 #include <algorithm>
@@ -14,10 +15,6 @@ namespace {
 
 constexpr std::size_t PostiVicini = 16; // two lines of the processor's cache
 constexpr std::size_t PostiMinimi = 1024;
-
-bool Cifra(char c) {
-  return c >= '0' && c <= '9';
-}
 
 // Where the last digit of "123%" or "123" stands; the name's length when it ends otherwise.
 std::size_t UltimaCifra(std::string_view nome) {

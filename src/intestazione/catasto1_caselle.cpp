@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <chrono>
 
 namespace lirmeto {
 
@@ -40,14 +39,6 @@ constexpr std::array<std::string_view, NumeroCaselle> Predefiniti = {
     "20",      "0",        "",       "FR",   "GEODIMETRO INTEGRATO",
     "",        "",         "",       "",     "NOME"};
 
-bool Cifra(char lettera) {
-  return lettera >= '0' && lettera <= '9';
-}
-
-bool TutteCifre(std::string_view testo) {
-  return std::all_of(testo.begin(), testo.end(), Cifra);
-}
-
 // Value of a few digits.
 int Intero(std::string_view cifre) {
   int valore = 0;
@@ -79,10 +70,7 @@ std::optional<Data> DataDaTesto(std::string_view testo) {
   constexpr std::size_t lunghezza = 8;
   if (testo.size() != lunghezza || !TutteCifre(testo)) return std::nullopt;
   const Data data{Intero(testo.substr(4)), Intero(testo.substr(2, 2)), Intero(testo.substr(0, 2))};
-  const std::chrono::year_month_day giorno{std::chrono::year(data.anno),
-                                           std::chrono::month(static_cast<unsigned>(data.mese)),
-                                           std::chrono::day(static_cast<unsigned>(data.giorno))};
-  return giorno.ok() ? std::optional(data) : std::nullopt;
+  return NelCalendario(data) ? std::optional(data) : std::nullopt;
 }
 
 std::string FoglioAQuattroCifre(std::string_view foglio) {

@@ -1,31 +1,25 @@
 #include <verifiche/riga_letta.h>
 
+#include <base/gon.h>
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace lirmeto {
 
 namespace {
 
-constexpr double GonRadianti = std::numbers::pi / 200;
 constexpr std::size_t LunghezzaCensuario = 70;
 
 bool ComincePF(std::string_view nome) {
   return nome.size() > 2 && Maiuscolo(nome[0]) == 'P' && Maiuscolo(nome[1]) == 'F';
 }
 
-bool Cifre(std::string_view testo) {
-  return std::all_of(testo.begin(), testo.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
-
 bool LettereOCifre(std::string_view testo) {
-  return std::all_of(testo.begin(), testo.end(),
-                     [](char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); });
+  return std::all_of(testo.begin(), testo.end(), LetteraOCifra);
 }
 
 // A number whose decimal sign may be a comma: the row is told of that elsewhere.
@@ -60,10 +54,10 @@ void LeggiStazione(const Campi& campi, RigaLetta& letta) {
 }
 
 // The plane distance of a sighting, and the place it leads to when its reading is an azimuth.
-void PonBattuta(RigaLetta& letta, double hz, double zenit, double distanza) {
-  const double piana = letta.haZenit ? distanza * std::fabs(std::sin(zenit * GonRadianti)) : distanza;
-  const double angolo = hz * GonRadianti;
-  letta.numeri = {piana * std::sin(angolo), piana * std::cos(angolo), hz, piana};
+void PonBattuta(RigaLetta& letta, Gon hz, Gon zenit, double distanza) {
+  const double piana = letta.haZenit ? distanza * std::fabs(std::sin(Radianti(zenit))) : distanza;
+  const double angolo = Radianti(hz);
+  letta.numeri = {piana * std::sin(angolo), piana * std::cos(angolo), hz.Valore(), piana};
   letta.haDistanza = distanza > 0;
 }
 
@@ -83,7 +77,7 @@ void LeggiBattuta(const Campi& campi, RigaLetta& letta) {
   letta.haZenit = quanti >= conAltezza;
   letta.senzaNota = NotaVuota(CampoSe(campi, quanti == conAltezza + 1 ? conAltezza : 4));
   const double zenit = letta.haZenit ? NumeroDi(CampoSe(campi, 3)) : 0;
-  PonBattuta(letta, NumeroDi(campo), zenit, NumeroDi(CampoSe(campi, letta.haZenit ? 4 : 3)));
+  PonBattuta(letta, Gon(NumeroDi(campo)), Gon(zenit), NumeroDi(CampoSe(campi, letta.haZenit ? 4 : 3)));
 }
 
 void LeggiPoligonale(const Campi& campi, NomiPunti& nomi, RigaLetta& letta) {
@@ -123,7 +117,7 @@ void LeggiContorno(const Campi& campi, NomiPunti& nomi, RigaLetta& letta) {
 void LeggiCoordinate(const Campi& campi, bool fiduciale, RigaLetta& letta) {
   const std::size_t quanti = QuantiCampi(campi);
   const std::string_view terzo = Taglia(CampoSe(campi, 3));
-  const bool quota = fiduciale ? quanti == 5 : quanti == 5 && terzo.size() == 2 && Cifre(terzo);
+  const bool quota = fiduciale ? quanti == 5 : quanti == 5 && terzo.size() == 2 && TutteCifre(terzo);
   letta.forma = quota || quanti < 4 ? FormaRiga::Quota : FormaRiga::Coordinate;
   letta.numeri = {NumeroDi(CampoSe(campi, 2)), quota ? 0 : NumeroDi(terzo), 0, 0};
 }
@@ -215,8 +209,8 @@ std::size_t FineVertici(const Campi& campi) {
 bool NomePuntoFiduciale(std::string_view nome) {
   constexpr std::size_t lungo = 14;
   if (nome.size() != lungo || nome[4] != '/' || nome[9] != '/') return false;
-  return (nome.starts_with("PF") || nome.starts_with("PA")) && Cifre(nome.substr(2, 2)) && Cifre(nome.substr(5, 3)) &&
-         LettereOCifre(nome.substr(8, 1)) && LettereOCifre(nome.substr(10));
+  return (nome.starts_with("PF") || nome.starts_with("PA")) && TutteCifre(nome.substr(2, 2)) &&
+         TutteCifre(nome.substr(5, 3)) && LettereOCifre(nome.substr(8, 1)) && LettereOCifre(nome.substr(10));
 }
 
 bool CodiceDiLinea(std::string_view codice) {

@@ -1,18 +1,17 @@
 #include <verifiche/atto.h>
 
+#include <base/gon.h>
 #include <base/numeri.h>
 
 #include <cmath>
-#include <numbers>
 #include <optional>
 
 namespace lirmeto {
 
 namespace {
 
-constexpr double Giro = 400;                // grads
-constexpr double TolleranzaAngolare = 0.05; // grads, by the root of the vertices
-constexpr std::size_t PrimoVertice = 2;     // field of a row 3
+constexpr Gon TolleranzaAngolare{0.05}; // by the root of the vertices
+constexpr std::size_t PrimoVertice = 2; // field of a row 3
 
 struct Vertice {
   Punto punto;
@@ -62,12 +61,12 @@ void VerificaLegami(const Atto& atto, const Poligonale& poligonale, const std::v
   }
 }
 
-double Lettura(const Atto& atto, const Stima& stima) {
-  return atto.righe[stima.riga].numeri[2];
+Gon Lettura(const Atto& atto, const Stima& stima) {
+  return Gon(atto.righe[stima.riga].numeri[2]);
 }
 
-// Angle from the vertex before to the one behind, grads.
-std::optional<double> AngoloAl(const Atto& atto, Punto prima, Punto qui, Punto dopo) {
+// Angle from the vertex before to the one behind.
+std::optional<Gon> AngoloAl(const Atto& atto, Punto prima, Punto qui, Punto dopo) {
   const Stima* indietro = atto.rete.Battuta(qui, prima);
   const Stima* avanti = atto.rete.Battuta(qui, dopo);
   if (indietro == nullptr || avanti == nullptr) return std::nullopt;
@@ -87,7 +86,7 @@ std::optional<double> Lunghezza(const Rete& rete, Punto da, Punto a) {
 }
 
 struct Chiusura {
-  double angolo = 0; // grads, from -200 to 200
+  Gon angolo; // from -200 to 200
   double lineare = 0;
   double perimetro = 0; // metres
 };
@@ -97,19 +96,19 @@ struct Chiusura {
 std::optional<Chiusura> Percorri(const Atto& atto, const Poligonale& p) {
   Chiusura chiusura;
   PuntoPiano qui;
-  double azimut = 0;
+  Gon azimut;
   for (std::size_t i = 0; i + 1 < p.size(); ++i) {
     const auto lungo = Lunghezza(atto.rete, p[i].punto, p[i + 1].punto);
     const Punto dopo = i + 2 < p.size() ? p[i + 2].punto : p[1].punto;
     const auto angolo = AngoloAl(atto, p[i].punto, p[i + 1].punto, dopo);
     if (!lungo || !angolo) return std::nullopt;
-    const double direzione = azimut * std::numbers::pi / (Giro / 2);
+    const double direzione = Radianti(azimut);
     qui = {qui.est + *lungo * std::sin(direzione), qui.nord + *lungo * std::cos(direzione)};
     chiusura.perimetro += *lungo;
-    azimut += Giro / 2 + *angolo;
+    azimut = azimut + Retto + Retto + *angolo;
   }
   chiusura.lineare = DistanzaPiana(qui, {});
-  chiusura.angolo = std::remainder(azimut, Giro);
+  chiusura.angolo = Gon(std::remainder(azimut.Valore(), Giro.Valore()));
   return chiusura;
 }
 
@@ -120,8 +119,8 @@ void VerificaChiusura(const Atto& atto, const Poligonale& poligonale, Raccolta& 
   if (!chiusura) return;
   const std::size_t riga = poligonale.front().riga;
   const double vertici = static_cast<double>(poligonale.size() - 1);
-  if (std::fabs(chiusura->angolo) > TolleranzaAngolare * std::sqrt(vertici))
-    raccolta.Riga(RegolaDi("R009"), riga, 0, {Formatta(chiusura->angolo, "0.0000")});
+  if (std::fabs(chiusura->angolo.Valore()) > TolleranzaAngolare.Valore() * std::sqrt(vertici))
+    raccolta.Riga(RegolaDi("R009"), riga, 0, {Formatta(chiusura->angolo.Valore(), "0.0000")});
   if (chiusura->lineare > TolleranzaStretta(chiusura->perimetro))
     raccolta.Riga(RegolaDi("R010"), riga, 0, {Metri(chiusura->lineare), Metri(chiusura->perimetro)});
 }

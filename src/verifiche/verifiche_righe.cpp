@@ -2,6 +2,7 @@
 
 #include <supporto/tabella_verifiche.h>
 
+#include <base/gon.h>
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/campi_riga.h>
@@ -14,7 +15,6 @@ namespace lirmeto {
 
 namespace {
 
-constexpr double GiroGradi = 400;
 constexpr double MinimoZenit = 50;
 constexpr double MassimoZenit = 150;
 constexpr double MassimaDistanza = 2000; // metres
@@ -45,20 +45,16 @@ std::optional<double> Numero(const RigaDaVerificare& r, std::size_t campo, Racco
   return std::nullopt;
 }
 
-bool CarattereDiNome(char c) {
-  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
 void VerificaNome(const RigaDaVerificare& r, std::size_t campo, Raccolta& raccolta) {
   const std::string_view nome = CampoTagliato(r, campo);
   if (nome.empty()) return Di(raccolta, RegolaDi("L021"), campo);
   if (nome.size() > MassimoNome)
     Di(raccolta, RegolaDi("L012"), campo, {nome, TestoIntero(static_cast<long long>(nome.size()))});
-  if (NomePuntoFiduciale(nome) || std::all_of(nome.begin(), nome.end(), CarattereDiNome)) return;
+  if (NomePuntoFiduciale(nome) || std::all_of(nome.begin(), nome.end(), LetteraOCifra)) return;
   if (UgualiSenzaCaso(nome.substr(0, 2), "PF")) return Di(raccolta, RegolaDi("F004"), campo, {nome});
   std::string pulito;
   std::copy_if(nome.begin(), nome.end(), std::back_inserter(pulito), [](char c) { return c != ' '; });
-  const bool bastaCosi = !pulito.empty() && std::all_of(pulito.begin(), pulito.end(), CarattereDiNome);
+  const bool bastaCosi = !pulito.empty() && std::all_of(pulito.begin(), pulito.end(), LetteraOCifra);
   Di(raccolta, RegolaDi("L013"), campo, {nome}, bastaCosi ? ConCampo(r.riga, campo, pulito) : std::string{});
 }
 
@@ -75,7 +71,8 @@ void VerificaAltezza(const RigaDaVerificare& r, std::size_t campo, Raccolta& rac
 
 void VerificaAngolo(const RigaDaVerificare& r, std::size_t campo, Raccolta& raccolta) {
   const auto angolo = Numero(r, campo, raccolta);
-  if (angolo && (*angolo < 0 || *angolo > GiroGradi)) Di(raccolta, RegolaDi("L005"), campo, {CampoTagliato(r, campo)});
+  if (angolo && (*angolo < 0 || *angolo > Giro.Valore()))
+    Di(raccolta, RegolaDi("L005"), campo, {CampoTagliato(r, campo)});
 }
 
 void VerificaZenit(const RigaDaVerificare& r, std::size_t campo, Raccolta& raccolta) {

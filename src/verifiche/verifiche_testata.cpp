@@ -1,5 +1,6 @@
 #include <verifiche/atto.h>
 
+#include <base/estremi.h>
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/campi_riga.h>
@@ -8,7 +9,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 
 namespace lirmeto {
 
@@ -29,20 +29,8 @@ std::string_view Valore9(const Atto& atto, std::size_t campo) {
   return Taglia(Parte(atto.righe.Testo(RigaNove), '|', campo));
 }
 
-bool Cifre(std::string_view testo) {
-  return !testo.empty() && std::all_of(testo.begin(), testo.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
-
 int NumeroDa(std::string_view cifre) {
   return static_cast<int>(Valore(cifre));
-}
-
-bool Esiste(const Data& data) {
-  constexpr std::array<int, 12> giorni = {31, 29, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  if (data.anno < 1900 || data.mese < 1 || data.mese > 12 || data.giorno < 1) return false;
-  if (data.giorno > giorni.at(static_cast<std::size_t>(data.mese - 1))) return false;
-  const bool bisestile = (data.anno % 4 == 0 && data.anno % 100 != 0) || data.anno % 400 == 0;
-  return data.mese != 2 || data.giorno < 29 || bisestile;
 }
 
 void VerificaData(const Atto& atto, Raccolta& raccolta) {
@@ -69,7 +57,7 @@ void VerificaComune(const Atto& atto, Raccolta& raccolta) {
 void VerificaFoglio(const Atto& atto, Raccolta& raccolta) {
   const std::string_view foglio = Valore0(atto, 4);
   constexpr std::size_t caratteri = 4;
-  const bool buono = foglio.size() == caratteri && Cifre(foglio.substr(0, caratteri - 1));
+  const bool buono = foglio.size() == caratteri && TutteCifre(foglio.substr(0, caratteri - 1));
   if (!buono) raccolta.Riga(RegolaDi("T005"), RigaZero, 4, {foglio});
 }
 
@@ -93,7 +81,7 @@ void VerificaMappali(const Atto& atto, Raccolta& raccolta) {
 }
 
 void VerificaTecnico(const Atto& atto, Raccolta& raccolta) {
-  if (!Cifre(Valore0(atto, 2))) raccolta.Riga(RegolaDi("T009"), RigaZero, 2, {Valore0(atto, 2)});
+  if (!TutteCifre(Valore0(atto, 2))) raccolta.Riga(RegolaDi("T009"), RigaZero, 2, {Valore0(atto, 2)});
   constexpr std::size_t tecnico = 6;
   constexpr std::size_t provincia = 8;
   if (Valore0(atto, tecnico) == "COGNOME NOME") return raccolta.Riga(RegolaDi("T016"), RigaZero, tecnico);
@@ -110,14 +98,10 @@ void VerificaQuota(const Atto& atto, Raccolta& raccolta) {
 
 // The mean of the lowest and the highest east of the rows 8, as the form of the header computes it.
 void VerificaEst(const Atto& atto, Raccolta& raccolta) {
-  double minimo = std::numeric_limits<double>::max();
-  double massimo = std::numeric_limits<double>::lowest();
-  for (const Stima& c : atto.rete.Coordinate()) {
-    minimo = std::min(minimo, c.locale.est);
-    massimo = std::max(massimo, c.locale.est);
-  }
-  if (minimo > massimo) return;
-  const double medio = (minimo + massimo) / 2;
+  Estremi est;
+  for (const Stima& c : atto.rete.Coordinate()) est.Vedi(c.locale.est);
+  if (est.Vuoti()) return;
+  const double medio = est.Media();
   const std::string_view scritto = Valore9(atto, CampoEstMedio);
   if (std::fabs(Misura(scritto) - medio) <= DifferenzaEst) return;
   const std::string giusto = Formatta(medio, "0");
@@ -130,7 +114,7 @@ void VerificaEst(const Atto& atto, Raccolta& raccolta) {
 
 bool TipologiaNota(std::string_view tipologia) {
   constexpr std::array<std::string_view, 8> sigle = {"FR", "MC", "TM", "CM", "SC", "FM", "PA", "TR"};
-  if (tipologia.size() == 2 && Cifre(tipologia)) return true;
+  if (tipologia.size() == 2 && TutteCifre(tipologia)) return true;
   return std::find(sigle.begin(), sigle.end(), tipologia) != sigle.end();
 }
 
@@ -167,13 +151,14 @@ void VerificaCampi(const Atto& atto, std::size_t riga, std::int8_t genere, std::
 std::optional<Data> LeggiDataRiga(std::string_view testo) {
   constexpr std::size_t intera = 8;
   constexpr std::size_t breve = 6;
-  if (!Cifre(testo) || (testo.size() != intera && testo.size() != breve)) return std::nullopt;
+  if (!TutteCifre(testo) || (testo.size() != intera && testo.size() != breve)) return std::nullopt;
   const int scritto = NumeroDa(testo.substr(4));
   constexpr int primoDelNovecento = 80; // a year of two digits below it is of the two thousands
   int anno = scritto;
   if (testo.size() == breve) anno += scritto < primoDelNovecento ? 2000 : 1900;
   const Data data{anno, NumeroDa(testo.substr(2, 2)), NumeroDa(testo.substr(0, 2))};
-  return Esiste(data) ? std::optional(data) : std::nullopt;
+  constexpr int primoAnno = 1900; // no act is older
+  return data.anno >= primoAnno && NelCalendario(data) ? std::optional(data) : std::nullopt;
 }
 
 void VerificaTestata(const Atto& atto, Raccolta& raccolta) {
