@@ -59,7 +59,6 @@ void KR_EstrattiDiMappa1::Prova(std::string_view punto, const std::function<void
 }
 
 void KR_EstrattiDiMappa1::AlCaricamento() {
-  PostoSalvato = LeggiPosizione(ambiente_.impostazioni, NomeForm);
   Prova(NomeForm, [&] {
     const std::string cartella = CartellaEstratti(ambiente_.sessione);
     if (ambiente_.disco.Elenca(cartella, {}).empty()) ScriviEstrattiEsempio(ambiente_);
@@ -67,10 +66,6 @@ void KR_EstrattiDiMappa1::AlCaricamento() {
   Aggiorna();
   const std::string& associato = ambiente_.sessione.EstrattoAssociato;
   if (Contiene(associato, ".")) SelezionaNome(std::string(Gambo(associato)) + ".EMP");
-}
-
-void KR_EstrattiDiMappa1::SalvaPosto(const PosizioneForm& posto) {
-  ScriviPosizione(ambiente_.impostazioni, NomeForm, posto);
 }
 
 std::string KR_EstrattiDiMappa1::Selezionato() const {

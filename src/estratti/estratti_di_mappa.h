@@ -3,12 +3,10 @@
 
 #include <base/dialoghi.h>
 #include <core/ambiente.h>
-#include <core/posizione_form.h>
 #include <grafica/grafica.h>
 
 #include <cstddef>
 #include <functional>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -50,7 +48,6 @@ public:
   std::string TestoDitte;
   AnteprimaEstratto Anteprima = AnteprimaEstratto::Nessuna;
   std::string RasterScelto; // path of the raster of the selected stem; empty for none
-  std::optional<PosizioneForm> PostoSalvato;
   bool Chiusa = false;
 
   // Boxes that the user fills.
@@ -63,7 +60,6 @@ public:
 
   // The list; the extract associated with the libretto is selected when it is there. An empty folder gets two samples.
   void AlCaricamento();
-  void SalvaPosto(const PosizioneForm& posto);
 
   // Lists the files again, the selection staying where its file is still there.
   void Aggiorna();

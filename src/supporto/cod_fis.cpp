@@ -70,7 +70,7 @@ void SceltaComune::CopiaCodiceFiscale() {
   const CodiceENome* provincia = TrovaPerCodice(sessione.Province, sessione.SiglaProvincia);
   sessione.NomeProvincia = provincia == nullptr ? "" : provincia->nome;
   sessione.EsitoSelezione = EsitoConfermato;
-  Chiusa = true;
+  Chiudi();
 }
 
 void KR_CodFis::AlCaricamento() {

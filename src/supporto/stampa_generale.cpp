@@ -10,6 +10,8 @@
 #include <supporto/editor_gen.h>
 #include <supporto/modello_stampa.h>
 
+#include <algorithm>
+#include <array>
 #include <memory>
 #include <utility>
 
@@ -67,43 +69,49 @@ void KR_StampaGenerale::Esegui(int indice) {
 }
 
 void KR_StampaGenerale::EseguiComando(int indice) {
-  switch (indice) {
-  case ChiudiForm:
-    return Chiudi();
-  case StampaLista:
-    return Stampa();
-  case CopiaLista:
-    return CopiaNegliAppunti();
-  case ScegliCarattere:
-    return CambiaCarattere();
-  case ScegliStampante:
-    ambiente_.sessione.PuntoErrore = Titolo + " BotNew1 4";
-    return ambiente_.dialoghi.ScegliStampante();
-  case ModificaLista:
-    return subModificaStampa(ambiente_, List1);
-  case TogliCarattere:
-    return TogliPrimoCarattere();
-  case AggiungiBianco:
-    return MettiBiancoDavanti();
-  case TogliPrimaRiga:
-    if (!List1.empty()) List1.Togli(0);
-    break;
-  case AggiungiRiga:
-    return List1.Inserisci(0, " ");
-  case CompilaIlModello:
-    return Compila();
-  case AggiornaModelli:
-    return ElencaModelli();
-  case ScegliVisualizzatore:
-    return CambiaVisualizzatore();
-  case DimenticaVisualizzatore:
-    ambiente_.impostazioni.Scrivi(SezioneVisualizzatore, ChiaveVisualizzatore, "");
-    return MostraVisualizzatore();
-  case ApriCsv:
-    return ApriReportCsv();
-  default:
-    throw Errore(errore::IndiceFuoriIntervallo);
-  }
+  using F = KR_StampaGenerale;
+  static constexpr auto azioni = std::to_array<std::pair<int, void (F::*)()>>({
+      {ChiudiForm, &F::Chiudi},
+      {StampaLista, &F::Stampa},
+      {CopiaLista, &F::CopiaNegliAppunti},
+      {ScegliCarattere, &F::CambiaCarattere},
+      {ScegliStampante, &F::CambiaStampante},
+      {ModificaLista, &F::Modifica},
+      {TogliCarattere, &F::TogliPrimoCarattere},
+      {AggiungiBianco, &F::MettiBiancoDavanti},
+      {TogliPrimaRiga, &F::TogliLaPrima},
+      {AggiungiRiga, &F::MettiRigaDavanti},
+      {CompilaIlModello, &F::Compila},
+      {AggiornaModelli, &F::ElencaModelli},
+      {ScegliVisualizzatore, &F::CambiaVisualizzatore},
+      {DimenticaVisualizzatore, &F::LasciaVisualizzatore},
+      {ApriCsv, &F::ApriReportCsv},
+  });
+  const auto azione = std::ranges::find(azioni, indice, &std::pair<int, void (F::*)()>::first);
+  if (azione == azioni.end()) throw Errore(errore::IndiceFuoriIntervallo);
+  (this->*azione->second)();
+}
+
+void KR_StampaGenerale::CambiaStampante() {
+  ambiente_.sessione.PuntoErrore = Titolo + " BotNew1 4";
+  ambiente_.dialoghi.ScegliStampante();
+}
+
+void KR_StampaGenerale::Modifica() {
+  subModificaStampa(ambiente_, List1);
+}
+
+void KR_StampaGenerale::TogliLaPrima() {
+  if (!List1.empty()) List1.Togli(0);
+}
+
+void KR_StampaGenerale::MettiRigaDavanti() {
+  List1.Inserisci(0, " ");
+}
+
+void KR_StampaGenerale::LasciaVisualizzatore() {
+  ambiente_.impostazioni.Scrivi(SezioneVisualizzatore, ChiaveVisualizzatore, "");
+  MostraVisualizzatore();
 }
 
 void KR_StampaGenerale::Chiudi() {

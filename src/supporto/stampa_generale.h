@@ -64,6 +64,11 @@ public:
 
 private:
   void EseguiComando(int indice);
+  void CambiaStampante();
+  void Modifica();
+  void TogliLaPrima();
+  void MettiRigaDavanti();
+  void LasciaVisualizzatore();
   void Prova(std::string_view posto, void (KR_StampaGenerale::*comando)());
   void Stampa();
   void CopiaNegliAppunti();

@@ -88,7 +88,7 @@ constexpr std::array Mostratori = {
     Mostra<ArchivioPossessori, FinestraPossessori>("ArchivioPossessori"),
     Mostra<autore, FinestraAutore>("autore"),
     Mostra<AssegnaDescrizione, FinestraAssegnaDescrizione>("AssegnaDescrizione"),
-    Mostra<KR_EstrattiDiMappa1, FinestraEstratti>(),
+    Mostra<KR_EstrattiDiMappa1, FinestraEstratti>(forma::EstrattiDiMappa),
     Mostra<KR_SommaEstratti, FinestraSomma>("KR_SommaEstratti"),
     Mostra<CompletaAutoallestito, FinestraCompleta>("CompletaAutoallestito"),
     Mostra<FormImportaFiduciali, FinestraImportaFiduciali>("FormImportaFiduciali"),

@@ -115,8 +115,8 @@ TEST_P(FiniRiga, RestanoComeErano) {
 
 INSTANTIATE_TEST_SUITE_P(Casi, FiniRiga,
                          testing::Values("[x]\r\nnumero=1\r\n", "[x]\nnumero=1\n", "[x]\rnumero=1\ry=\"a\"\r",
-                                         "[x]\r\nnumero=1=2", "[x]\n\n\nnumero=1\r\n\r\n\r\n", "\r\n@@\r\r\nnumero=1\n",
-                                         "", "[x]"));
+                                         "[x]\r\nnumero=1=2", "numero=1\n[x]\n", "[x]\n\n\nnumero=1\r\n\r\n\r\n",
+                                         "\r\n@@\r\r\nnumero=1\n", "", "[x]"));
 
 TEST(PregeoIni, RigheCheIlFileNonHaFinisconoConCrLf) {
   EXPECT_EQ(TestoIni({"a", "b", "c", ""}, "a\nb"), "a\nb\r\nc\r\n");

@@ -28,17 +28,10 @@ FinestraCompleta::FinestraCompleta(CompletaAutoallestito& modello, QWidget* padr
   setWindowTitle(AQString(modello_.Titolo));
   particelle_->setObjectName(QStringLiteral("List1"));
   particelle_->setFont(FontMonospazio(9));
-  auto* file = new QListView(this);
-  file->setObjectName(QStringLiteral("List2"));
-  file->setAccessibleName(QStringLiteral("Righe del file"));
-  file->setModel(righe_);
-  file->setUniformItemSizes(true);
-  file->setFont(FontMonospazio(9));
-  file->setEditTriggers(QAbstractItemView::NoEditTriggers);
   auto* sinistra = new QVBoxLayout;
   sinistra->addWidget(ColonnaElenco(QStringLiteral("Particelle"), *particelle_), 2);
   sinistra->addWidget(TitoloGruppo(QStringLiteral("Righe del file"), this));
-  sinistra->addWidget(file, 3);
+  sinistra->addWidget(CreaRighe(), 3);
   auto* destra = new QVBoxLayout;
   destra->addWidget(CreaTestata());
   destra->addWidget(CreaParticella());
@@ -61,6 +54,17 @@ FinestraCompleta::FinestraCompleta(CompletaAutoallestito& modello, QWidget* padr
   });
   AdattaAlloSchermo(*this, 1000, 600);
   Mostra();
+}
+
+QWidget* FinestraCompleta::CreaRighe() {
+  auto* file = new QListView(this);
+  file->setObjectName(QStringLiteral("List2"));
+  file->setAccessibleName(QStringLiteral("Righe del file"));
+  file->setModel(righe_);
+  file->setUniformItemSizes(true);
+  file->setFont(FontMonospazio(9));
+  file->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  return file;
 }
 
 QWidget* FinestraCompleta::CreaTestata() {

@@ -24,7 +24,8 @@ public:
   explicit FinestraCompleta(CompletaAutoallestito& modello, QWidget* padre = nullptr);
 
 private:
-  [[nodiscard]] QWidget* CreaTestata();
+  [[nodiscard]] QWidget* CreaRighe();
+  QWidget* CreaTestata();
   [[nodiscard]] QWidget* CreaParticella();
   [[nodiscard]] QWidget* CreaQualita();
   QLineEdit* AggiungiCasella(QGridLayout& griglia, const QString& titolo, const QString& nome, std::string& valore);

@@ -106,7 +106,6 @@ FinestraEstratti::FinestraEstratti(KR_EstrattiDiMappa1& modello, QWidget* padre)
       },
       Qt::QueuedConnection);
   AdattaAlloSchermo(*this, Larghezza, Altezza);
-  RimettiAlPosto(*this, modello_.PostoSalvato);
   Mostra();
   dopo_->start(0);
   elenco_->setFocus();
@@ -147,14 +146,13 @@ QWidget* FinestraEstratti::CreaBarra() {
 }
 
 // A filter pressed again is none: all kinds are listed.
-QWidget* FinestraEstratti::CreaElenco() {
-  auto* intorno = new QWidget(this);
+QLayout* FinestraEstratti::CreaFiltri() {
   auto* opzioni = new QHBoxLayout;
   opzioni->setSpacing(4);
   filtri_->setExclusive(false);
   for (const auto& [filtro, testo] : {std::pair(FiltroEstratti::Smp, "SMP"), std::pair(FiltroEstratti::Emp, "EMP"),
                                       std::pair(FiltroEstratti::Png, "PNG")}) {
-    auto* bottone = new QPushButton(QString::fromLatin1(testo), intorno);
+    auto* bottone = new QPushButton(QString::fromLatin1(testo), this);
     bottone->setObjectName(QStringLiteral("Filtro_") + bottone->text());
     bottone->setToolTip(QStringLiteral("Mostra solo i file *.%1").arg(bottone->text()));
     bottone->setCheckable(true);
@@ -167,6 +165,11 @@ QWidget* FinestraEstratti::CreaElenco() {
     const bool si = filtri_->button(id)->isChecked();
     Fa([&] { modello_.CambiaFiltro(si ? static_cast<FiltroEstratti>(id) : FiltroEstratti::Tutti); });
   });
+  return opzioni;
+}
+
+QWidget* FinestraEstratti::CreaElenco() {
+  auto* intorno = new QWidget(this);
   elenco_->setObjectName(QStringLiteral("File1"));
   elenco_->setAccessibleName(QStringLiteral("File degli estratti"));
   elenco_->setModel(nomi_);
@@ -177,7 +180,7 @@ QWidget* FinestraEstratti::CreaElenco() {
           [this](const QItemSelection& scelti) { Seleziona(scelti.isEmpty() ? -1 : scelti.first().top()); });
   auto* colonna = new QVBoxLayout(intorno);
   colonna->setContentsMargins(10, 6, 8, 10);
-  colonna->addLayout(opzioni);
+  colonna->addLayout(CreaFiltri());
   colonna->addWidget(elenco_, 1);
   return intorno;
 }
@@ -220,6 +223,7 @@ QWidget* FinestraEstratti::CreaDati() {
   colonna->setContentsMargins(12, 4, 12, 10);
   colonna->setSpacing(4);
   AggiungiEtichette(*colonna);
+  AggiungiCompleta(*colonna);
   colonna->addStretch(1);
   AggiungiNomi(*colonna);
   return intorno;
@@ -251,13 +255,16 @@ void FinestraEstratti::AggiungiEtichette(QBoxLayout& colonna) {
     griglia->addWidget(valore, riga, titolo != nullptr ? 1 : 0, 1, titolo != nullptr ? 1 : 2);
     etichette_.emplace_back(campo, valore);
   }
+  colonna.addLayout(griglia);
+}
+
+void FinestraEstratti::AggiungiCompleta(QBoxLayout& colonna) {
   completa_->setObjectName(QStringLiteral("Completa"));
   completa_->setText(QStringLiteral("Completa Autoallestito"));
   completa_->setIcon(Icona(QStringLiteral("modifica")));
   completa_->setToolTip(QStringLiteral("Comune, foglio e dati delle particelle dell'estratto autoallestito"));
   completa_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   connect(completa_, &QToolButton::clicked, this, [this] { Fa([this] { modello_.Completa(); }); });
-  colonna.addLayout(griglia);
   colonna.addWidget(completa_);
 }
 
@@ -370,11 +377,6 @@ void FinestraEstratti::dropEvent(QDropEvent* evento) {
   if (indirizzi.isEmpty() || !indirizzi.first().isLocalFile()) return;
   evento->acceptProposedAction();
   emit FileLasciato(indirizzi.first().toLocalFile());
-}
-
-void FinestraEstratti::done(int esito) {
-  modello_.SalvaPosto({x(), y(), width(), height()});
-  QDialog::done(esito);
 }
 
 } // namespace lirmeto::ui

@@ -11,6 +11,7 @@
 class QBoxLayout;
 class QButtonGroup;
 class QLabel;
+class QLayout;
 class QListView;
 class QStackedWidget;
 class QStringListModel;
@@ -29,8 +30,6 @@ public:
   // The model must outlive the window.
   explicit FinestraEstratti(KR_EstrattiDiMappa1& modello, QWidget* padre = nullptr);
 
-  void done(int esito) override;
-
 signals:
   void FileLasciato(const QString& percorsoOspite);
 
@@ -45,11 +44,13 @@ private:
   };
 
   [[nodiscard]] QWidget* CreaBarra();
-  [[nodiscard]] QWidget* CreaElenco();
+  [[nodiscard]] QLayout* CreaFiltri();
+  QWidget* CreaElenco();
   [[nodiscard]] QWidget* CreaCentro();
   [[nodiscard]] QWidget* CreaDati();
   [[nodiscard]] QToolButton* CreaBottone(int indice, Qt::ToolButtonStyle stile);
   void AggiungiEtichette(QBoxLayout& colonna);
+  void AggiungiCompleta(QBoxLayout& colonna);
   void AggiungiNomi(QBoxLayout& colonna);
 
   void Fa(const std::function<void()>& azione);

@@ -110,10 +110,7 @@ QToolButton* ElencoVerifiche::Bottone(const QString& testo, const QString& spieg
   return bottone;
 }
 
-QWidget* ElencoVerifiche::CreaBarra() {
-  auto* barra = new QWidget(this);
-  auto* riga = new QHBoxLayout(barra);
-  riga->setContentsMargins(6, 2, 6, 2);
+void ElencoVerifiche::AggiungiFiltri(QBoxLayout& riga) {
   for (const Severita severita : Severe) {
     QToolButton*& filtro = filtri_.at(static_cast<std::size_t>(severita));
     filtro = Bottone({}, QStringLiteral("Mostra o nasconde queste segnalazioni"), "Filtro");
@@ -124,8 +121,15 @@ QWidget* ElencoVerifiche::CreaBarra() {
       modello_.Mostra(severita, si);
       Mostra();
     });
-    riga->addWidget(filtro);
+    riga.addWidget(filtro);
   }
+}
+
+QWidget* ElencoVerifiche::CreaBarra() {
+  auto* barra = new QWidget(this);
+  auto* riga = new QHBoxLayout(barra);
+  riga->setContentsMargins(6, 2, 6, 2);
+  AggiungiFiltri(*riga);
   cerca_->setPlaceholderText(QStringLiteral("Cerca nelle segnalazioni"));
   cerca_->setClearButtonEnabled(true);
   riga->addWidget(cerca_, 1);

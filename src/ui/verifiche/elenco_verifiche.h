@@ -8,6 +8,7 @@
 
 #include <array>
 
+class QBoxLayout;
 class QLineEdit;
 class QToolButton;
 class QTreeView;
@@ -50,6 +51,7 @@ signals:
 
 private:
   [[nodiscard]] QWidget* CreaBarra();
+  void AggiungiFiltri(QBoxLayout& riga);
   [[nodiscard]] QToolButton* Bottone(const QString& testo, const QString& spiegazione, const char* nome);
   void CreaTabella();
   void MostraScelta();
