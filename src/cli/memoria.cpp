@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::size_t Grande = std::size_t{8} << 20U;
+constexpr std::size_t Grande = std::size_t{2} << 20U;
 constexpr std::size_t PaginaGrande = std::size_t{2} << 20U;
 
 void* PrendiGrande(std::size_t byte) {

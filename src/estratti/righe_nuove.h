@@ -21,14 +21,17 @@ namespace lirmeto {
   });
 }
 
+// Room for a text of that length whose rows change by a few characters each.
+[[nodiscard]] constexpr std::size_t ConMargine(std::size_t lunghezza) {
+  return lunghezza + lunghezza / 16 + 64;
+}
+
 // The rows of a list as they are written one after the other.
 class RigheNuove {
 public:
-  RigheNuove() = default;
-  // Room for what a list becomes that changes by a few characters a row.
+  // In place of those of a list.
   explicit RigheNuove(const ListaRighe& vecchie) {
-    const std::size_t lunghezza = Lunghezza(vecchie);
-    testo_.reserve(lunghezza + lunghezza / 16);
+    testo_.reserve(ConMargine(Lunghezza(vecchie)));
     fini_.reserve(vecchie.size());
   }
 

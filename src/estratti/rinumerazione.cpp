@@ -21,12 +21,11 @@ std::size_t IndiceIdentificativi::Numero(std::string_view identificativo) const 
   return numero;
 }
 
-void IndiceIdentificativi::Aggiungi(std::string_view identificativo, std::uint32_t posto) {
+std::uint32_t IndiceIdentificativi::Aggiungi(std::string_view identificativo, std::uint32_t posto) {
   const std::size_t numero = Numero(identificativo);
-  if (numero == 0)
-    altri_.try_emplace(identificativo, posto);
-  else if (numerati_[numero] == Nessuno)
-    numerati_[numero] = posto;
+  if (numero == 0) return altri_.try_emplace(identificativo, posto).first->second;
+  if (numerati_[numero] == Nessuno) numerati_[numero] = posto;
+  return numerati_[numero];
 }
 
 std::uint32_t IndiceIdentificativi::Cerca(std::string_view identificativo) const {
@@ -35,19 +34,25 @@ std::uint32_t IndiceIdentificativi::Cerca(std::string_view identificativo) const
   return trovato == altri_.end() ? Nessuno : trovato->second;
 }
 
+std::uint32_t IndiceIdentificativi::CercaNumero(std::size_t numero) const {
+  return numero < numerati_.size() ? numerati_[numero] : Cerca(TestoIntero(static_cast<long long>(numero)) + classe_);
+}
+
 Rinumerazione::Rinumerazione(const std::vector<std::string_view>& vecchi, char classe)
-    : vecchi_(vecchi), classe_(classe), indice_(vecchi.size(), classe), gruppi_(vecchi.size()), padri_(vecchi.size()),
+    : classe_(classe), indice_(vecchi.size(), classe), gruppi_(vecchi.size()), padri_(vecchi.size()),
       nuovi_(vecchi.size()) {
-  for (std::size_t i = 0; i < vecchi.size(); ++i) indice_.Aggiungi(vecchi[i], static_cast<std::uint32_t>(i));
+  primi_.reserve(vecchi.size());
+  for (const auto vecchio : vecchi)
+    primi_.push_back(indice_.Aggiungi(vecchio, static_cast<std::uint32_t>(primi_.size())));
   std::iota(gruppi_.begin(), gruppi_.end(), 0U);
   std::iota(padri_.begin(), padri_.end(), 0U);
 }
 
 void Rinumerazione::Sostituisci(std::size_t punto, std::size_t numero) {
-  const std::uint32_t gruppo = std::exchange(gruppi_[indice_.Cerca(vecchi_[punto])], IndiceIdentificativi::Nessuno);
+  const std::uint32_t gruppo = std::exchange(gruppi_[primi_[punto]], IndiceIdentificativi::Nessuno);
   if (gruppo == IndiceIdentificativi::Nessuno) return; // no field reads so any more
   nuovi_[gruppo] = static_cast<std::uint32_t>(numero);
-  const std::uint32_t omonimo = indice_.Cerca(TestoIntero(static_cast<long long>(numero)) + classe_);
+  const std::uint32_t omonimo = indice_.CercaNumero(numero);
   if (omonimo == IndiceIdentificativi::Nessuno) return;
   if (gruppi_[omonimo] != IndiceIdentificativi::Nessuno) padri_[gruppi_[omonimo]] = gruppo;
   gruppi_[omonimo] = gruppo;

@@ -18,9 +18,11 @@ public:
 
   IndiceIdentificativi(std::size_t attesi, char classe);
 
-  // Notes a place unless the identifier has one already.
-  void Aggiungi(std::string_view identificativo, std::uint32_t posto);
+  // Notes a place unless the identifier has one already; the answer is the place that it has.
+  std::uint32_t Aggiungi(std::string_view identificativo, std::uint32_t posto);
   [[nodiscard]] std::uint32_t Cerca(std::string_view identificativo) const;
+  // Of the identifier that a number from 1 and the class letter make.
+  [[nodiscard]] std::uint32_t CercaNumero(std::size_t numero) const;
 
 private:
   // The number of an identifier that lies in the table, else 0.
@@ -36,7 +38,7 @@ private:
 // are called by then they stay. The passes over the text are kept as one: what it says comes out the same.
 class Rinumerazione {
 public:
-  // The old identifiers in the order of the points, views that must outlive this.
+  // The old identifiers in the order of the points: what they look at must outlive this.
   Rinumerazione(const std::vector<std::string_view>& vecchi, char classe);
 
   // The next replacement: the identifier of the point number `punto` (from 0) becomes `numero` and the class letter.
@@ -49,9 +51,9 @@ public:
 private:
   [[nodiscard]] std::uint32_t Radice(std::uint32_t posto);
 
-  const std::vector<std::string_view>& vecchi_;
   char classe_;
   IndiceIdentificativi indice_;
+  std::vector<std::uint32_t> primi_;  // by point: the first of its identifier
   std::vector<std::uint32_t> gruppi_; // by the place of an identifier: the fields that read so now
   std::vector<std::uint32_t> padri_;  // of a group: itself, or the one it went into
   std::vector<std::uint32_t> nuovi_;  // of a group: the number that its fields read

@@ -261,8 +261,9 @@ std::string TestoEstratto(Ambiente& ambiente, KR_Estratto& estratto) {
                                 [&](std::size_t somma, auto lista) { return somma + Lunghezza(estratto.*lista); }));
   testo += estratto.ZERO[0];
   testo += FineRiga;
-  for (const auto lista : ListeDelFile) testo += RigheUnite(estratto.*lista);
-  if (!estratto.INQUADRAMENTO.empty()) testo += std::string(estratto.INQUADRAMENTO[0]) + std::string(FineRiga);
+  for (const auto lista : ListeDelFile)
+    for (const auto riga : estratto.*lista) testo.append(riga).append(FineRiga);
+  if (!estratto.INQUADRAMENTO.empty()) testo.append(estratto.INQUADRAMENTO[0]).append(FineRiga);
   return testo;
 }
 

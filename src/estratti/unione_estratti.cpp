@@ -99,6 +99,8 @@ Addendo LeggiAddendo(std::string&& testo) {
   const auto righe = RigheDi(*file);
   Addendo addendo{{}, {}, AnelliDi(file, righe)};
   addendo.punti.Tieni(file);
+  addendo.punti.Riserva(righe.size());
+  addendo.posti.reserve(righe.size());
   for (const auto riga : righe) {
     if (GenereDi(riga) != Genere::Coordinate || !Contiene(Parte(riga, '|', 1), "%")) continue;
     addendo.punti.AggiungiVista(riga);
@@ -272,8 +274,8 @@ std::string Scrivi(const Addendo& primo, const Addendo& secondo) {
     for (const auto punto : *lista) vecchi.push_back(Campo(punto, 1));
   Rinumerazione rinumerazione(vecchi, '%');
   std::string testo;
-  testo.reserve(Lunghezza(primo.punti) + Lunghezza(primo.anelli) + Lunghezza(secondo.punti) +
-                Lunghezza(secondo.anelli));
+  testo.reserve(ConMargine(Lunghezza(primo.punti) + Lunghezza(primo.anelli) + Lunghezza(secondo.punti) +
+                           Lunghezza(secondo.anelli)));
   testo.append(RigaZeroAutoallestito).append(FineRiga);
   std::size_t numero = 0;
   for (const ListaRighe* lista : punti)
