@@ -88,8 +88,8 @@ bool Altra(std::string_view riga) {
 
 void Smista(TestiEstratto& testi, std::string_view riga, std::string_view chiaveNuova) {
   const Genere genere = GenereDi(riga);
-  if (genere == Genere::Intestazione || genere == Genere::Contorno || genere == Genere::Coordinate ||
-      Contiene(riga, "6|DITTA|"))
+  const bool diDitta = Contiene(riga, "6|DITTA|") && !riga.starts_with(InizioParticella);
+  if (genere == Genere::Intestazione || genere == Genere::Contorno || genere == Genere::Coordinate || diDitta)
     AggiungiRiga(testi.mappa, riga);
   else if (Contiene(riga, InizioParticella)) {
     if (Chiave(riga) != chiaveNuova) AggiungiRiga(testi.particelle, riga);
