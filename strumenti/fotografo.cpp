@@ -15,9 +15,9 @@ QString Coda() {
 } // namespace
 
 void Fotografo::Mostra(QWidget& finestra, int larghezza, int altezza) const {
-  const QSize misura = larghezza > 0 ? QSize(larghezza, altezza) : finestra.size();
-  finestra.resize(massima_.isValid() ? misura.boundedTo(massima_) : misura);
+  if (larghezza > 0) finestra.resize(larghezza, altezza);
   finestra.show();
+  if (massima_.isValid()) finestra.resize(finestra.size().boundedTo(massima_));
 }
 
 // What wraps its buttons asks for its height only when it has its width.

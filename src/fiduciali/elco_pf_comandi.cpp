@@ -36,13 +36,13 @@ constexpr std::array<VocePF, 15> Voci = {{
 }};
 
 constexpr std::array<VoceSelezionePF, 7> VociSelezione = {{
-    {SelezionePF::Tutti, "Tutti", "Seleziona tutti i punti"},
-    {SelezionePF::Nessuno, "Nessuno", "Toglie la selezione"},
-    {SelezionePF::Inverti, "Inverti", "Inverte la selezione"},
-    {SelezionePF::Foglio, "Foglio", "Seleziona i punti del foglio su cui si fa clic"},
-    {SelezionePF::Intorno, "Intorno", "Seleziona i punti intorno a un clic, entro un raggio"},
-    {SelezionePF::GaussBoaga, "Gauss-Boaga", "Seleziona i punti in coordinate Gauss-Boaga"},
-    {SelezionePF::FuoriUso, "Fuori uso", "Seleziona i punti non utilizzabili secondo la descrizione"},
+    {SelezionePF::Tutti, "seleziona_tutti", "Tutti", "Seleziona tutti i punti"},
+    {SelezionePF::Nessuno, "seleziona_nessuno", "Nessuno", "Toglie la selezione"},
+    {SelezionePF::Inverti, "inverti", "Inverti", "Inverte la selezione"},
+    {SelezionePF::Foglio, "foglio", "Foglio", "Seleziona i punti del foglio su cui si fa clic"},
+    {SelezionePF::Intorno, "seleziona_intorno", "Intorno", "Seleziona i punti intorno a un clic, entro un raggio"},
+    {SelezionePF::GaussBoaga, "gauss_boaga", "Gauss-Boaga", "Seleziona i punti in coordinate Gauss-Boaga"},
+    {SelezionePF::FuoriUso, "fuori_uso", "Fuori uso", "Seleziona i punti non utilizzabili secondo la descrizione"},
 }};
 
 } // namespace

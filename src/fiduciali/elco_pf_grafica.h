@@ -119,6 +119,7 @@ struct VocePF {
 };
 struct VoceSelezionePF {
   SelezionePF selezione;
+  std::string_view icona; // name of its file, without extension
   std::string_view didascalia;
   std::string_view spiegazione;
 };

@@ -74,7 +74,7 @@ Operazioni Grafica::Dipingi(double rapporto) {
 
 void Grafica::MouseMove(const PuntoPiano& daCentro, TastoMouse tasto) {
   const bool spostata = mouse_.Muovi(daCentro, tasto);
-  if (metro_.Acceso()) metro_.PassaSu(mouse_.Ultimo().posto);
+  if (metro_.Acceso()) metro_.PassaSu(mouse_.Etichetta().posto);
   if (spostata) KR_RidisegnaGrafica();
 }
 
@@ -98,7 +98,7 @@ void Grafica::MouseDown(const PuntoPiano& daCentro, TastoMouse tasto) {
 void Grafica::Clicca(const PuntoPiano& daCentro) {
   if (metro_.Acceso()) {
     (void)mouse_.Muovi(daCentro, TastoMouse::Nessuno);
-    if (!Archivio().Punti().empty()) metro_.Prendi(mouse_.Ultimo().posto);
+    if (!Archivio().Punti().empty()) metro_.Prendi(mouse_.Etichetta().posto);
     return KR_RidisegnaGrafica();
   }
   const EsitoClic esito = mouse_.Clicca(daCentro, Strumento);

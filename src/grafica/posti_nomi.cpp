@@ -121,10 +121,11 @@ private:
   std::vector<Occupato> occupati_;
 };
 
-// A text that is longer than any surface takes no more room than that: its cells would be beyond number.
-Scritta Limitata(Scritta scritta) {
+// The room of a text. One that is longer than any surface takes no more than that: its cells would be beyond number.
+Scritta Spaziosa(Scritta scritta) {
   constexpr double larghissima = 8192; // pixels
-  scritta.larga = std::min(scritta.larga, larghissima);
+  constexpr double aria = 2; // pixels between two names
+  scritta.larga = std::min(scritta.larga, larghissima) + aria;
   return scritta;
 }
 
@@ -145,7 +146,7 @@ public:
 
 private:
   void Posa(std::size_t quale) {
-    const Scritta scritta = Limitata(scritte_[quale]);
+    const Scritta scritta = Spaziosa(scritte_[quale]);
     for (const Scarto& scarto : Posti(scritta)) {
       const Rettangolo dove = Ingombro(scritta, scarto);
       bool libero = true;

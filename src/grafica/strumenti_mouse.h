@@ -41,8 +41,6 @@ class StrumentiMouse {
 public:
   explicit StrumentiMouse(DisegnoCondiviso& disegno) : disegno_(disegno) {}
 
-  // The point under the mouse.
-  [[nodiscard]] const PuntoPreso& Ultimo() const { return ultimo_; }
   [[nodiscard]] const EtichettaMouse& Etichetta() const { return etichetta_; }
   // The pointer has the shape of moving in all directions.
   [[nodiscard]] bool Sposta() const { return sposta_; }

@@ -2,6 +2,7 @@
 
 #include <ui/comune/disegnatore_icona.h>
 #include <ui/comune/luce_di_sistema.h>
+#include <ui/comune/stile_finestre.h>
 #include <ui/comune/testo_qt.h>
 
 #include <core/riga.h>
@@ -13,7 +14,6 @@
 #include <QLocale>
 #include <QScreen>
 #include <QStyle>
-#include <QStyleFactory>
 #include <QTranslator>
 #include <QWidget>
 
@@ -57,7 +57,7 @@ void Tingi(QApplication& applicazione, bool scuro) {
 
 void VestiApplicazione(QApplication& applicazione, Luce luce) {
   RegistraRisorse();
-  applicazione.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  applicazione.setStyle(new StileFinestre);
   if (luce == Luce::Sistema) {
     auto* sistema = new LuceDiSistema(&applicazione);
     QObject::connect(sistema, &LuceDiSistema::Cambiata, &applicazione, [&](bool scura) { Tingi(applicazione, scura); });

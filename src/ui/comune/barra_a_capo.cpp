@@ -34,6 +34,7 @@ void BarraACapo::Separa(QAction* prima) {
 }
 
 void BarraACapo::Aggiungi(QWidget* oggetto) {
+  if (auto* bottone = qobject_cast<QToolButton*>(oggetto)) bottone->setIconSize(QSize(LatoIcona, LatoIcona));
   riga_->Inserisci(riga_->count(), oggetto);
 }
 
@@ -92,7 +93,7 @@ void BarraACapo::Didascalie(bool si) {
 }
 
 void BarraACapo::resizeEvent(QResizeEvent* evento) {
-  constexpr int righe = 3;
+  constexpr int righe = 2;
   QWidget::resizeEvent(evento);
   if (evento->oldSize().width() == width()) return;
   Didascalie(true);

@@ -1,11 +1,22 @@
 #include <ui/comune/disposizione_a_capo.h>
 
+#include <QFrame>
 #include <QWidget>
 
 #include <algorithm>
 #include <utility>
 
 namespace lirmeto::ui {
+
+namespace {
+
+// A line between two groups parts nothing where the row ends.
+bool ELinea(const QWidget* oggetto) {
+  const auto* riquadro = qobject_cast<const QFrame*>(oggetto);
+  return riquadro != nullptr && riquadro->frameShape() == QFrame::VLine;
+}
+
+} // namespace
 
 DisposizioneACapo::~DisposizioneACapo() {
   qDeleteAll(voci_);
@@ -59,6 +70,7 @@ void DisposizioneACapo::DisponiRiga(const QRect& riga, qsizetype primo, qsizetyp
     QLayoutItem* voce = voci_[primo];
     if (voce->isEmpty()) continue;
     QSize misura = voce->sizeHint();
+    if (primo + 1 == fine && ELinea(voce->widget())) misura.setWidth(0);
     if (voce->expandingDirections() & Qt::Horizontal) misura.rwidth() += std::exchange(avanzo, 0);
     voce->setGeometry(QRect(QPoint(sinistra, riga.top() + (riga.height() - misura.height()) / 2), misura));
     sinistra += misura.width() + spacing();

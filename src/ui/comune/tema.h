@@ -31,6 +31,7 @@ enum class Tono : std::uint8_t {
   TestoConsiglio,
   Bordo, // lines between parts
   BordoForte,
+  Cornice, // of boxes, on dark ground
   Testata,
   Sopra, // under the pointer
   BordoSopra,

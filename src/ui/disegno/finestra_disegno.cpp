@@ -9,7 +9,6 @@
 
 #include <QAction>
 #include <QDragEnterEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -18,10 +17,7 @@ namespace lirmeto::ui {
 
 FinestraDisegno::FinestraDisegno(FormDisegno& modello, QWidget* padre)
     : QDialog(padre, Qt::Window), modello_(modello),
-      pannello_(new GraficaPannello(modello.Dintorni(), modello.Grafica1(), host::AnteprimaGrafica, this)),
-      invito_(new QLabel(QStringLiteral("Trascinare qui un disegno (.EMP, .SUR, .CSV, .PDF, .DAT)\n"
-                                        "o sceglierlo con Apri (Ctrl+O)"),
-                         this)) {
+      pannello_(new GraficaPannello(modello.Dintorni(), modello.Grafica1(), host::AnteprimaGrafica, this)) {
   setObjectName(QStringLiteral("FormDisegno"));
   setAcceptDrops(true);
   connect(this, &FinestraDisegno::FileLasciato, this, &FinestraDisegno::Lascia, Qt::QueuedConnection);
@@ -29,9 +25,8 @@ FinestraDisegno::FinestraDisegno(FormDisegno& modello, QWidget* padre)
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->addWidget(pannello_);
   AggiungiApri();
-  invito_->setObjectName(QStringLiteral("Invito"));
-  invito_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  invito_->setAlignment(Qt::AlignCenter);
+  pannello_->Superficie().MettiInvito(QStringLiteral("Trascinare qui un disegno (.EMP, .SUR, .CSV, .PDF, .DAT) o "
+                                                     "sceglierlo con Apri (Ctrl+O)"));
   connect(pannello_, &GraficaPannello::RicaricaRichiesta, this, [this] {
     modello_.Ricarica();
     Mostra();
@@ -60,14 +55,6 @@ void FinestraDisegno::AggiungiApri() {
 
 void FinestraDisegno::Mostra() {
   setWindowTitle(AQString(modello_.Titolo));
-  invito_->setVisible(modello_.Grafica1().Archivio().Punti().empty() && modello_.Grafica1().Archivio().Linee().empty());
-  MettiInvito();
-}
-
-void FinestraDisegno::MettiInvito() {
-  const QWidget& superficie = pannello_->Superficie();
-  invito_->adjustSize();
-  invito_->move(superficie.mapTo(this, superficie.rect().center()) - invito_->rect().center());
 }
 
 void FinestraDisegno::dragEnterEvent(QDragEnterEvent* evento) {
@@ -86,11 +73,6 @@ void FinestraDisegno::Lascia(const QString& percorsoOspite) {
   const std::string percorso = PercorsoDetto(modello_.Dintorni())(percorsoOspite);
   if (!percorso.empty()) (void)modello_.Apri(percorso);
   Mostra();
-}
-
-void FinestraDisegno::resizeEvent(QResizeEvent* evento) {
-  QDialog::resizeEvent(evento);
-  MettiInvito();
 }
 
 } // namespace lirmeto::ui

@@ -5,8 +5,6 @@
 
 #include <QDialog>
 
-class QLabel;
-
 namespace lirmeto::ui {
 
 class GraficaPannello;
@@ -25,17 +23,14 @@ signals:
 protected:
   void dragEnterEvent(QDragEnterEvent* evento) override;
   void dropEvent(QDropEvent* evento) override;
-  void resizeEvent(QResizeEvent* evento) override;
 
 private:
   void AggiungiApri();
   void Lascia(const QString& percorsoOspite);
   void Mostra();
-  void MettiInvito();
 
   FormDisegno& modello_;
   GraficaPannello* pannello_;
-  QLabel* invito_; // what to do with an empty window
 };
 
 } // namespace lirmeto::ui

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <utility>
 
 namespace lirmeto::ui {
@@ -143,9 +144,11 @@ Inchiostri InchiostriSchermo() {
   Inchiostri schermo = InchiostriCarta();
   schermo.fondo = ColoreTema(Tono::Carta);
   schermo.rossoInPiu = 1;
+  constexpr double forte = 7; // thin lines on a dark ground
+  const bool scuro = TemaScuro();
   for (std::size_t i = 0; i < TinteClassiche.size(); ++i) {
-    schermo.testi.at(i) = Leggibile(schermo.testi.at(i), schermo.fondo, ContrastoTesto);
-    if (TemaScuro()) schermo.segni.at(i) = Leggibile(schermo.segni.at(i), schermo.fondo, ContrastoSegno);
+    schermo.testi.at(i) = Leggibile(schermo.testi.at(i), schermo.fondo, scuro ? forte : ContrastoTesto);
+    if (scuro) schermo.segni.at(i) = Leggibile(schermo.segni.at(i), schermo.fondo, forte);
   }
   return schermo;
 }
@@ -186,15 +189,23 @@ void PittoreSchermo::Cambia(Inchiostri inchiostri) {
   timbri_.clear();
 }
 
+// The numbers of parcels, which begin with a blank, choose before the many names of vertices.
 void PittoreSchermo::DisponiNomi(const Operazioni& lista, double pixelMetro, double unita) {
+  std::vector<std::size_t> ordine(lista.testi.size());
+  std::iota(ordine.begin(), ordine.end(), std::size_t{0});
+  std::stable_partition(ordine.begin(), ordine.end(),
+                        [&](std::size_t i) { return lista.testi[i].testo.starts_with(' '); });
   std::vector<Scritta> scritte;
-  scritte.reserve(lista.testi.size());
-  for (const OpTesto& testo : lista.testi) {
+  scritte.reserve(ordine.size());
+  for (const std::size_t i : ordine) {
+    const OpTesto& testo = lista.testi[i];
     Glifi& glifi = GlifiDi(testo, unita);
     scritte.push_back({testo.x * pixelMetro, -testo.y * pixelMetro, glifi.Larghezza(testo.testo), glifi.Altezza(),
                        testo.decimi, testo.testo});
   }
-  posti_ = DisponiScritte(scritte);
+  const auto posti = DisponiScritte(scritte);
+  posti_.resize(posti.size());
+  for (std::size_t i = 0; i < ordine.size(); ++i) posti_[ordine[i]] = posti[i];
 }
 
 void PittoreSchermo::Dipingi(QImage& tela, const Operazioni& lista, double unita, const QRect& visibile) {

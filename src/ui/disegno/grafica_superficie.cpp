@@ -155,6 +155,7 @@ void GraficaSuperficie::paintEvent(QPaintEvent* /*evento*/) {
   pittore.setRenderHint(QPainter::Antialiasing);
   DipingiEvidenza(pittore);
   DipingiPuntoVicino(pittore);
+  if (grafica_.Archivio().Punti().empty() && grafica_.Archivio().Linee().empty()) return DipingiInvito(pittore);
   DipingiScala(pittore);
   DipingiRighello(pittore);
 }
@@ -199,6 +200,15 @@ void GraficaSuperficie::DipingiScala(QPainter& pittore) const {
   pittore.drawPolyline(QPolygonF{barra.topLeft(), barra.bottomLeft(), barra.bottomRight(), barra.topRight()});
   pittore.drawText(QRectF(barra.left(), barra.top() - 18, std::max(barra.width(), 60.0), 18),
                    Qt::AlignLeft | Qt::AlignBottom, testo);
+}
+
+void GraficaSuperficie::DipingiInvito(QPainter& pittore) const {
+  constexpr int margine = 24;
+  QFont grande = font();
+  grande.setPointSizeF(grande.pointSizeF() * 1.2);
+  pittore.setFont(grande);
+  pittore.setPen(ColoreTema(Tono::Invito));
+  pittore.drawText(rect().adjusted(margine, margine, -margine, -margine), Qt::AlignCenter | Qt::TextWordWrap, invito_);
 }
 
 // The way measured so far, on to the point under the mouse, and what it measures in a corner.

@@ -27,6 +27,9 @@ public:
   void Stampa() override;
   void MostraMenu() override;
 
+  // What an empty drawing says: how to begin.
+  void MettiInvito(const QString& invito) { invito_ = invito; }
+
   // Metres from the centre of the view, north up, of a place of the widget, and the place of map coordinates.
   [[nodiscard]] QPointF Metri(const QPointF& posto) const;
   [[nodiscard]] QPointF Posto(double x, double y) const;
@@ -73,6 +76,7 @@ private:
   void DipingiScala(QPainter& pittore) const;
   void DipingiRighello(QPainter& pittore) const;
   void DipingiMisura(QPainter& pittore) const;
+  void DipingiInvito(QPainter& pittore) const;
   void MostraEtichetta();
   [[nodiscard]] TastoMouse Tasto(Qt::MouseButtons tasti) const;
   [[nodiscard]] QSize MisuraTela() const;
@@ -83,6 +87,7 @@ private:
   QImage tela_;       // the drawing, in device pixels
   Ritratto ritratto_; // what stands on it
   QLabel* label1_;
+  QString invito_;
   bool sopra_ = false; // the pointer is on it
   int rotella_ = 0;    // eighths of a degree that are not a whole notch yet
 };

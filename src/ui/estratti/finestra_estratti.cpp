@@ -3,6 +3,7 @@
 #include <ui/comune/aspetto.h>
 #include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/colonna_elenco.h>
+#include <ui/comune/invito_elenco.h>
 #include <ui/comune/percorsi_qt.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_pannello.h>
@@ -178,6 +179,10 @@ QWidget* FinestraEstratti::CreaElenco() {
   // The list makes its first file the current one when it gets the keys: only what is selected counts.
   connect(elenco_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           [this](const QItemSelection& scelti) { Seleziona(scelti.isEmpty() ? -1 : scelti.first().top()); });
+  MettiInvito(*elenco_,
+              QStringLiteral("Nessun estratto: «Importa» o trascinare qui un file .EMP, .PNG o .ZIP; «Da CXF» "
+                             "lo ricava da un foglio"));
+  disegno_->Superficie().MettiInvito(QStringLiteral("Scegliere un estratto dall'elenco per vederne il disegno"));
   auto* colonna = new QVBoxLayout(intorno);
   colonna->setContentsMargins(10, 6, 8, 10);
   colonna->addLayout(CreaFiltri());

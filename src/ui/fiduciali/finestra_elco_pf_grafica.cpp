@@ -82,6 +82,8 @@ FinestraElcoPfGrafica::FinestraElcoPfGrafica(KR_ElcoPFGrafica& modello, QWidget*
   });
   connect(superficie_, &GraficaSuperficie::Uscito, this, &FinestraElcoPfGrafica::Mostra);
   AdattaAlloSchermo(*this, 1240, 720);
+  superficie_->MettiInvito(QStringLiteral("Nessun punto fiduciale in questo comune: «Estratto» aggiunge quelli di un "
+                                          "estratto di mappa"));
   superficie_->setFocus();
   Mostra();
 }
@@ -108,10 +110,11 @@ void FinestraElcoPfGrafica::RiempiSelezione() {
   titolo->setContentsMargins(6, 0, 6, 0);
   selezione_->Aggiungi(titolo);
   for (const VoceSelezionePF& voce : VociSelezionePF()) {
-    QAction* azione = selezione_->addAction(AQString(voce.didascalia), this, [this, quali = voce.selezione] {
-      modello_.Seleziona(quali);
-      Mostra();
-    });
+    QAction* azione = selezione_->addAction(Icona(AQString(voce.icona)), AQString(voce.didascalia), this,
+                                            [this, quali = voce.selezione] {
+                                              modello_.Seleziona(quali);
+                                              Mostra();
+                                            });
     azione->setToolTip(AQString(voce.spiegazione));
   }
   selezione_->Allarga();
@@ -121,6 +124,14 @@ void FinestraElcoPfGrafica::RiempiSelezione() {
   nomi->setToolTip(QStringLiteral("Mostra i nomi accanto ai punti"));
   selezione_->Aggiungi(nomi);
   connect(nomi, &QCheckBox::toggled, this, [this](bool si) { modello_.CambiaCheck1(si); });
+  auto* sovrapposti = new QCheckBox(QStringLiteral("&Tutti i nomi"), this);
+  sovrapposti->setObjectName(QStringLiteral("NomiSovrapposti"));
+  sovrapposti->setToolTip(QStringLiteral("Mostra tutti i nomi, anche dove si coprono"));
+  selezione_->Aggiungi(sovrapposti);
+  connect(sovrapposti, &QCheckBox::toggled, this, [this](bool si) {
+    modello_.Grafica1().Vista().NomiSovrapposti = si;
+    modello_.Grafica1().KR_RidisegnaGrafica();
+  });
 }
 
 void FinestraElcoPfGrafica::Esegui(int indice) {

@@ -1,6 +1,7 @@
 #include <ui/generazione/finestra_libretto_disegno.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/invito_elenco.h>
 #include <ui/comune/modello_classe.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_pannello.h>
@@ -158,6 +159,8 @@ QWidget* FinestraLibrettoDisegno::CreaLinee() {
   linee_->setUniformItemSizes(true);
   linee_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   linee_->setMouseTracking(true);
+  MettiInvito(*linee_, QStringLiteral("Nessuna stazione nel disegno"));
+  pannello_->Superficie().MettiInvito(QStringLiteral("Il disegno non ha punti, o non c'è"));
   auto* colonna = new QVBoxLayout(intorno);
   colonna->setContentsMargins(10, 4, 10, 0);
   colonna->setSpacing(4);

@@ -76,6 +76,8 @@ FinestraTipol10::FinestraTipol10(Tipol10& modello, QWidget* padre)
   colonna->setContentsMargins(10, 10, 10, 10);
   colonna->addWidget(piano, 1);
   colonna->addLayout(CreaPiede());
+  disegno_->Superficie().MettiInvito(
+      QStringLiteral("Nessun estratto associato: la proposta si compone da polilinee, coi due bottoni in basso"));
   disegno_->Superficie().installEventFilter(this);
   connect(disegno_, &GraficaPannello::RicaricaRichiesta, this, [this] { modello_.Ricarica(); });
   connect(disegno_, &GraficaPannello::FineRichiesta, this, &QDialog::reject);

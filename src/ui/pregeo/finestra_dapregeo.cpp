@@ -5,6 +5,7 @@
 #include <ui/comune/piede_scelta.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_pannello.h>
+#include <ui/disegno/grafica_superficie.h>
 
 #include <QHeaderView>
 #include <QLineEdit>
@@ -77,6 +78,7 @@ FinestraDapregeo::FinestraDapregeo(KR_Dapregeo& modello, QWidget* padre)
       disegno_(new GraficaPannello(modello.Dintorni(), modello.Grafica1, host::KR_Dapregeo, this)) {
   setObjectName(QStringLiteral("KR_Dapregeo"));
   setWindowTitle(AQString(modello_.Titolo));
+  disegno_->Superficie().MettiInvito(QStringLiteral("Scegliere un libretto dell'archivio per vederne la proposta"));
   auto* sotto = new QSplitter(this);
   sotto->addWidget(CreaLibretto());
   sotto->addWidget(disegno_);

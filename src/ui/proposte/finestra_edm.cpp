@@ -3,6 +3,7 @@
 #include <ui/comune/aspetto.h>
 #include <ui/comune/barra_a_capo.h>
 #include <ui/comune/colonna_elenco.h>
+#include <ui/comune/invito_elenco.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_pannello.h>
 #include <ui/disegno/grafica_superficie.h>
@@ -64,6 +65,7 @@ FinestraEdm::FinestraEdm(KR_EDM& modello, QWidget* padre)
       evidenza_(new EvidenzaParticella(disegno_->Superficie())) {
   setObjectName(QString::fromLatin1(NomeForm));
   disegno_->NascondiCaricamento();
+  disegno_->Superficie().MettiInvito(QStringLiteral("Scegliere una particella: si vede nell'estratto associato"));
   auto* barra = new BarraACapo(this);
   for (const int indice : Proposte) {
     QToolButton* bottone = CreaPulsante(PulsanteDi(indice), barra, [this](int premuto) { Premi(premuto); });
@@ -98,6 +100,7 @@ QWidget* FinestraEdm::CreaElenchi() {
   file1_->setAccessibleName(QStringLiteral("Archivio"));
   file1_->setModel(&nomi_);
   file1_->setUniformItemSizes(true);
+  MettiInvito(*file1_, QStringLiteral("Archivio vuoto: «Archivio dall'Estratto» o «Archivio dal Libretto» lo riempie"));
   file1_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   colonna->addWidget(file1_, 3);
   QWidget* bottoni = Bottoni(Archivio, 2);

@@ -1,5 +1,6 @@
 #include <ui/verifiche/elenco_verifiche.h>
 
+#include <ui/comune/aspetto.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/verifiche/segni.h>
 
@@ -135,14 +136,18 @@ QWidget* ElencoVerifiche::CreaBarra() {
   riga->addWidget(cerca_, 1);
   rimedio_ = Bottone(QStringLiteral("Rimedio"),
                      QStringLiteral("Mette la riga proposta (Alt+Invio); si annulla con Ctrl+Z"), "Rimedio");
+  rimedio_->setIcon(Icona(QStringLiteral("modifica")));
   connect(rimedio_, &QToolButton::clicked, this, &ElencoVerifiche::RimedioRichiesto);
   auto* copia =
       Bottone(QStringLiteral("Copia"), QStringLiteral("Copia negli appunti le segnalazioni mostrate"), "Copia");
+  copia->setIcon(Icona(QStringLiteral("copia")));
   connect(copia, &QToolButton::clicked, this, &ElencoVerifiche::CopiaRichiesta);
   auto* stampa =
       Bottone(QStringLiteral("Stampa"), QStringLiteral("Le segnalazioni mostrate come rapporto da stampare"), "Stampa");
+  stampa->setIcon(Icona(QStringLiteral("stampa")));
   connect(stampa, &QToolButton::clicked, this, &ElencoVerifiche::StampaRichiesta);
-  auto* chiudi = Bottone(QStringLiteral("✕"), QStringLiteral("Chiude l'elenco (Ctrl+F8)"), "Chiudi");
+  auto* chiudi = Bottone({}, QStringLiteral("Chiude l'elenco (Ctrl+F8)"), "Chiudi");
+  chiudi->setIcon(Icona(QStringLiteral("chiudi")));
   connect(chiudi, &QToolButton::clicked, this, &ElencoVerifiche::ChiusuraRichiesta);
   for (QWidget* bottone : {rimedio_, copia, stampa, chiudi}) riga->addWidget(bottone);
   return barra;

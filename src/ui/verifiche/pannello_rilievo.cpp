@@ -1,5 +1,6 @@
 #include <ui/verifiche/pannello_rilievo.h>
 
+#include <ui/comune/aspetto.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_superficie.h>
 
@@ -44,11 +45,11 @@ QWidget* PannelloRilievo::CreaTestata() {
   riga->setContentsMargins(8, 2, 4, 2);
   riga->addWidget(new QLabel(QStringLiteral("Rilievo"), testata), 1);
   auto* tutto = new QToolButton(testata);
-  tutto->setText(QStringLiteral("Tutto"));
+  tutto->setIcon(Icona(QStringLiteral("zoom_tutto")));
   tutto->setToolTip(QStringLiteral("Mostra tutto il rilievo"));
   connect(tutto, &QToolButton::clicked, this, [this] { figura_.Grafica1.KR_ZoomTutto(); });
   auto* chiudi = new QToolButton(testata);
-  chiudi->setText(QStringLiteral("✕"));
+  chiudi->setIcon(Icona(QStringLiteral("chiudi")));
   chiudi->setToolTip(QStringLiteral("Chiude la figura (F9)"));
   connect(chiudi, &QToolButton::clicked, this, &PannelloRilievo::ChiusuraRichiesta);
   for (QToolButton* bottone : {tutto, chiudi}) {

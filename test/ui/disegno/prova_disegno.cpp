@@ -10,6 +10,7 @@
 
 #include <QClipboard>
 #include <QLabel>
+#include <QListView>
 #include <QMenu>
 #include <QMimeData>
 #include <QSvgRenderer>
@@ -157,6 +158,69 @@ TEST_F(Disegno, DestroApreIlMenuESinistroUsaLoStrumento) {
   G().NomeNuovoPunto = "A*";
   QTest::mouseClick(superficie, Qt::LeftButton, {}, Dove(99, 1));
   EXPECT_TRUE(G().Archivio().Punti().back().Nome == "A*" && G().Archivio().Punti().back().X == 100);
+}
+
+// Names that would cover each other: one is left out until they are all wanted, or the view is nearer. What is exported
+// tells all of them.
+TEST_F(Disegno, INomiNonSiCopronoFinoAlBottone) {
+  for (int i = 0; i < 60; ++i)
+    G().KR_AggiungiPuntoGraf({"N" + std::to_string(i) + "%", 50 + i * 0.01, 50, 0, 12, {}, 0, "", 8});
+  G().KR_RidisegnaGrafica();
+  const int pochi = Quanti(Foto(), colore::RossoChiaro);
+  EXPECT_EQ(G().Dipingi(1).testi.size(), 68U);
+  Premi(QStringLiteral("Tutti i nomi"));
+  const int tutti = Quanti(Foto(), colore::RossoChiaro);
+  EXPECT_NE(tutti, pochi);
+  const std::string svg = ui::ImmagineVista(G(), QSize(400, 300), 1, ".SVG");
+  EXPECT_NE(svg.find(">N59%<"), std::string::npos);
+  Premi(QStringLiteral("Tutti i nomi"));
+  EXPECT_EQ(Quanti(Foto(), colore::RossoChiaro), pochi);
+}
+
+TEST_F(Disegno, RighelloColMouse) {
+  const QImage prima = Foto();
+  Premi(QStringLiteral("Righello"));
+  QTest::mouseClick(superficie, Qt::LeftButton, {}, Dove(1, 1));
+  QTest::mouseClick(superficie, Qt::LeftButton, {}, Dove(1, 98));
+  EXPECT_EQ(G().Metro().Vertici(), (std::vector<PuntoPiano>{{0, 0}, {0, 100}}));
+  EXPECT_NE(Foto(), prima);
+  QTest::keyClick(superficie, Qt::Key_Delete);
+  EXPECT_EQ(G().Metro().Vertici().size(), 1U);
+  QTest::keyClick(superficie, Qt::Key_Escape);
+  EXPECT_TRUE(finestra->isVisible() && !G().Metro().Acceso());
+  QTest::mousePress(superficie, Qt::LeftButton, {}, Dove(50, 50));
+  Muovi(Dove(60, 50), Qt::LeftButton);
+  EXPECT_EQ(superficie->cursor().shape(), Qt::SizeAllCursor) << "the left button moves the view again";
+}
+
+TEST_F(Disegno, UnaRigaSceltaAccendeIlSuoPunto) {
+  auto* righe = finestra->findChild<QListView*>(QStringLiteral("LibrettoOriginale"));
+  ASSERT_TRUE(righe->isVisible());
+  EXPECT_EQ(righe->model()->rowCount(), 9);
+  const QImage prima = Foto();
+  righe->setCurrentIndex(righe->model()->index(3, 0));
+  EXPECT_EQ(G().PuntiEvidenza, std::vector<PuntoPiano>{(PuntoPiano{100, 100})});
+  EXPECT_NE(Foto(), prima);
+  Premi(QStringLiteral("Fiduciali")); // loaded again without a row
+  EXPECT_EQ(righe->model()->rowCount(), 8);
+  EXPECT_TRUE(G().PuntiEvidenza.empty());
+  Premi(QStringLiteral("Righe"));
+  EXPECT_FALSE(righe->isVisible());
+}
+
+// The picture of a sheet lies beside its extract under the same name: neither is ever proposed, and the drawing itself is
+// not written over.
+TEST_F(Disegno, LImmagineNonPrendeIlPostoDellEstratto) {
+  banco.dialoghi.fileScelto = "c:\\estratto.emp";
+  Premi(QStringLiteral("Immagine"));
+  EXPECT_EQ(banco.dialoghi.detti.at(banco.dialoghi.detti.size() - 2).testo, "C:\\ESTRATTO_vista.PNG");
+  EXPECT_EQ(banco.disco.Contenuto(Estratto), TestoEstratto());
+  EXPECT_EQ(banco.dialoghi.detti.back().titolo, "Rilevato errore");
+}
+
+TEST_F(Disegno, OgniBottoneHaLaSuaIcona) {
+  for (const QAction* azione : finestra->Pannello().Barra().actions())
+    EXPECT_TRUE(azione->isSeparator() || !azione->icon().isNull()) << azione->text().toStdString();
 }
 
 TEST_F(Disegno, ImmaginiDellaVista) {

@@ -148,6 +148,17 @@ TEST_F(LibrettoDisegno, UnaLineaToltaSparisceELaVistaResta) {
   EXPECT_FALSE(SiVede(InMezzoAllUltima));
   QTest::keyClick(linee, Qt::Key_Delete);
   EXPECT_EQ(linee->model()->rowCount(), 2);
+  const auto rimetti = [&] { QTest::keyClick(&*finestra, Qt::Key_Z, Qt::ControlModifier); };
+  rimetti();
+  EXPECT_EQ(linee->model()->rowCount(), 3);
+  rimetti();
+  EXPECT_EQ(form.Grafica1.Archivio().Linee().size(), prima);
+  EXPECT_EQ(linee->currentIndex().row(), 3) << "the line that came back is the chosen one";
+  linee->setCurrentIndex({}); // and no longer lit
+  EXPECT_TRUE(SiVede(InMezzoAllUltima));
+  rimetti(); // all are there
+  DoppioClick(3);
+  DoppioClick(2);
   QTest::keyClick(linee, Qt::Key_Delete);
   DoppioClick(0);
   EXPECT_EQ(form.List1, (std::vector<std::string>{"100 - 200", "100 - PF01/0010/G224"})) << "of two none goes";
