@@ -77,6 +77,9 @@ public:
   // Something outside is waited for whose end nobody knows. Called again and again, and cheap, as Avanzamento is, which
   // ends it too. The answer is whether to go on: false once the user has given up.
   [[nodiscard]] virtual bool Attesa(std::string_view cosa) = 0;
+
+  // A command begins, and has ended: calls nest. Whoever has a pointer shows with it that the program works.
+  virtual void Lavora(bool /*si*/) {}
 };
 
 // A form as a model without a toolkit: its boxes and lists are plain data, its

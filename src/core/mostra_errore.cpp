@@ -9,6 +9,17 @@ namespace lirmeto {
 
 namespace {
 
+class Lavoro {
+public:
+  explicit Lavoro(Dialoghi& dialoghi) : dialoghi_(dialoghi) { dialoghi_.Lavora(true); }
+  ~Lavoro() { dialoghi_.Lavora(false); }
+  Lavoro(const Lavoro&) = delete;
+  Lavoro& operator=(const Lavoro&) = delete;
+
+private:
+  Dialoghi& dialoghi_;
+};
+
 void Annota(Sessione& sessione, const Errore& errore) {
   sessione.NumeroErrore = errore.Numero();
   sessione.TestoErrore = errore.Descrizione();
@@ -38,6 +49,7 @@ void MostraErrore(Ambiente& ambiente) {
 
 bool Intrappola(Ambiente& ambiente, const std::function<void()>& comando) {
   try {
+    const Lavoro lavoro(ambiente.dialoghi);
     comando();
     return true;
   } catch (const Errore& errore) {

@@ -80,6 +80,13 @@ void FormRiordinoRighe::Conferma() {
 }
 
 void FormRiordinoRighe::Chiudi() {
+  const auto eliminata = [&](const Classe& classe) {
+    return Righe[classe.classe].size() != divise_[classe.classe].size();
+  };
+  if (std::any_of(Classi().begin(), Classi().end(), eliminata) &&
+      ambiente_.dialoghi.Chiedi("Chiudere senza confermare le eliminazioni?", "Riordino Righe", Bottoni::SiNo) !=
+          Risposta::Si)
+    return;
   ambiente_.sessione.ModoEditor = 0;
   Chiusa = true;
 }

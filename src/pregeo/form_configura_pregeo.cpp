@@ -22,7 +22,8 @@ void FormConfiguraPregeo::AlCaricamento() {
 }
 
 void FormConfiguraPregeo::Chiudi() {
-  Chiusa = true;
+  Chiusa = Testo == salvato_ || ambiente_.dialoghi.Chiedi("Chiudere senza salvare le modifiche?",
+                                                          "Configurazione di Pregeo", Bottoni::SiNo) == Risposta::Si;
 }
 
 void FormConfiguraPregeo::Salva() {
@@ -35,6 +36,7 @@ void FormConfiguraPregeo::Scrivi() {
   auto righe = RigheIni(Testo);
   ambiente_.disco.Scrivi(percorso, TestoIni(righe, originale));
   ambiente_.sessione.RighePregeoIni = std::move(righe);
+  salvato_ = Testo;
 }
 
 void FormConfiguraPregeo::Ricarica() {
@@ -45,6 +47,7 @@ void FormConfiguraPregeo::Leggi() {
   LeggiPregeoIni(ambiente_);
   const auto& righe = ambiente_.sessione.RighePregeoIni;
   Testo = Unisci({righe.begin(), righe.end()}, FineRiga);
+  salvato_ = Testo;
   EtichettaVersione = ambiente_.sessione.VersionePregeo;
 }
 

@@ -20,7 +20,7 @@ public:
   // Reads PREGEO.INI and fills caption, box and label.
   void AlCaricamento();
 
-  // Button 0. What was not saved is lost.
+  // Button 0. Asks where the box holds what is not saved.
   void Chiudi();
 
   // Button 6: the box becomes RighePregeoIni and the file, which keeps the line ends it had. After a failure
@@ -43,6 +43,7 @@ private:
   void LeggiVersione();
 
   Ambiente& ambiente_;
+  std::string salvato_; // the box as the file has it
 };
 
 } // namespace lirmeto

@@ -1,6 +1,8 @@
 #include <ui/finestre_qt.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/cursore_attesa.h>
+#include <ui/comune/prepara_finestra.h>
 #include <ui/disegno/finestra_disegno.h>
 #include <ui/estratti/finestra_completa.h>
 #include <ui/estratti/finestra_estratti.h>
@@ -53,6 +55,8 @@ bool MostraSe(Modello& modello, Impostazioni* impostazioni, std::string_view nom
   Finestra finestra(*questo, QApplication::activeWindow());
   const bool ricorda = impostazioni != nullptr && !nome.empty();
   if (ricorda) RimettiAlPosto(finestra, LeggiPosizione(*impostazioni, nome));
+  PreparaFinestra(finestra);
+  const TempoDellUtente sua;
   finestra.exec();
   if (ricorda) ScriviPosizione(*impostazioni, nome, {finestra.x(), finestra.y(), finestra.width(), finestra.height()});
   return true;

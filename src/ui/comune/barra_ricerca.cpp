@@ -27,6 +27,7 @@ QToolButton* Bottone(const QString& icona, const QString& spiegazione, QWidget* 
 BarraRicerca::BarraRicerca(QWidget* padre) : QWidget(padre), casella_(new QLineEdit(this)), esito_(new QLabel(this)) {
   setObjectName(QStringLiteral("BarraRicerca"));
   setAttribute(Qt::WA_StyledBackground);
+  casella_->setProperty("cerca", true);
   casella_->setPlaceholderText(QStringLiteral("Testo da cercare nelle righe"));
   casella_->setAccessibleName(QStringLiteral("Testo da cercare"));
   casella_->setClearButtonEnabled(true);

@@ -1,6 +1,8 @@
 #include <ui/comune/dialoghi_qt.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/cursore_attesa.h>
+#include <ui/comune/tastiera.h>
 #include <ui/comune/testo_qt.h>
 
 #include <base/errore.h>
@@ -48,6 +50,11 @@ void Componi(QMessageBox& scatola, std::string_view testo, std::string_view tito
   AllargaPerIlTitolo(scatola);
 }
 
+int Mostra(QDialog& finestra) {
+  const TempoDellUtente sua;
+  return finestra.exec();
+}
+
 } // namespace
 
 DialoghiQt::DialoghiQt(Percorsi percorsi) : percorsi_(std::move(percorsi)) {
@@ -66,7 +73,7 @@ void DialoghiQt::Messaggio(std::string_view testo, std::string_view titolo, Grav
   Componi(scatola, testo, titolo);
   scatola.setIcon(gravita == Gravita::Critico ? QMessageBox::Critical : QMessageBox::Information);
   scatola.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
-  scatola.exec();
+  Mostra(scatola);
 }
 
 Risposta DialoghiQt::Chiedi(std::string_view testo, std::string_view titolo, Bottoni bottoni) {
@@ -80,7 +87,7 @@ Risposta DialoghiQt::Chiedi(std::string_view testo, std::string_view titolo, Bot
   QPushButton* annulla = conAnnulla ? scatola.addButton(QStringLiteral("&Annulla"), QMessageBox::RejectRole) : no;
   scatola.setDefaultButton(si);
   scatola.setEscapeButton(annulla);
-  scatola.exec();
+  Mostra(scatola);
   if (scatola.clickedButton() == si) return Risposta::Si;
   return conAnnulla && scatola.clickedButton() != no ? Risposta::Annulla : Risposta::No;
 }
@@ -96,7 +103,8 @@ std::optional<std::size_t> DialoghiQt::Scegli(std::string_view testo, std::strin
   for (const std::string& risposta : risposte)
     bottoni.push_back(scatola.addButton(AQString(risposta), QMessageBox::ActionRole));
   scatola.setEscapeButton(scatola.addButton(QStringLiteral("&Annulla"), QMessageBox::RejectRole));
-  scatola.exec();
+  AssegnaMnemoniche(scatola);
+  Mostra(scatola);
   const auto premuto = std::find(bottoni.begin(), bottoni.end(), scatola.clickedButton());
   if (premuto == bottoni.end()) return std::nullopt;
   return static_cast<std::size_t>(premuto - bottoni.begin());
@@ -110,7 +118,7 @@ std::string DialoghiQt::ScegliFile(const RichiestaFile& richiesta, bool daSalvar
   if (!richiesta.filtro.empty()) finestra.setNameFilter(AQString(richiesta.filtro));
   if (!richiesta.cartella.empty()) finestra.setDirectory(percorsi_.aOspite(richiesta.cartella));
   if (!richiesta.nome.empty()) finestra.selectFile(AQString(richiesta.nome));
-  if (finestra.exec() != QDialog::Accepted || finestra.selectedFiles().isEmpty())
+  if (Mostra(finestra) != QDialog::Accepted || finestra.selectedFiles().isEmpty())
     throw Errore(errore::DialogoAnnullato);
   return percorsi_.daOspite(finestra.selectedFiles().first());
 }
@@ -125,6 +133,7 @@ std::string DialoghiQt::ScegliFileDaSalvare(const RichiestaFile& richiesta) {
 
 void DialoghiQt::ScegliStampante() {
   NascondiBarra();
+  const TempoDellUtente sua;
   if (!stampa_.Scegli(FinestraAttuale())) throw Errore(errore::DialogoAnnullato);
 }
 
@@ -138,8 +147,12 @@ Carattere DialoghiQt::ScegliCarattere(const Carattere& attuale) {
   NascondiBarra();
   QFontDialog finestra(FontDa(attuale), FinestraAttuale());
   finestra.setWindowTitle(QStringLiteral("Carattere dell'elenco"));
-  if (finestra.exec() != QDialog::Accepted) throw Errore(errore::DialogoAnnullato);
+  if (Mostra(finestra) != QDialog::Accepted) throw Errore(errore::DialogoAnnullato);
   return CarattereDa(finestra.selectedFont());
+}
+
+void DialoghiQt::Lavora(bool si) {
+  MostraAttesa(si);
 }
 
 void DialoghiQt::Avanzamento(std::string_view lavoro, std::size_t fatto, std::size_t totale) {

@@ -41,6 +41,7 @@ public:
   void Stampa(const Stampato& stampato) override;
   void Avanzamento(std::string_view lavoro, std::size_t fatto, std::size_t totale) override;
   [[nodiscard]] bool Attesa(std::string_view cosa) override;
+  void Lavora(bool si) override;
 
 private:
   [[nodiscard]] std::string ScegliFile(const RichiestaFile& richiesta, bool daSalvare);

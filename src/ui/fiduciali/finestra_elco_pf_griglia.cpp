@@ -52,6 +52,7 @@ QHBoxLayout* FinestraElcoPfGriglia::CreaTestata() {
   testata->addStretch(1);
   auto* titolo = new QLabel(QStringLiteral("&Cerca"), this);
   titolo->setBuddy(cerca_);
+  cerca_->setProperty("cerca", true);
   cerca_->setObjectName(QStringLiteral("Text1"));
   cerca_->setClearButtonEnabled(true);
   cerca_->setPlaceholderText(QStringLiteral("in tutte le colonne"));

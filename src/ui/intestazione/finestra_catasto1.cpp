@@ -90,7 +90,6 @@ FinestraCatasto1::FinestraCatasto1(FormCatasto1TXT& modello, QWidget* padre)
   colonna->addWidget(area, 1);
   colonna->addWidget(CreaPiede());
   Mostra();
-  OrdinaTasti();
   AdattaAlloSchermo(*this, Larghezza, Altezza);
   RimettiAlPosto(*this, modello_.PostoSalvato);
   caselle_[casella::Data]->setFocus();
@@ -178,7 +177,6 @@ QPushButton* FinestraCatasto1::Bottone(int indice) {
   bottone->setToolTip(AQString(pulsante->spiegazione));
   bottone->setAutoDefault(false);
   connect(bottone, &QPushButton::clicked, this, [this, indice] { Premi(indice); });
-  bottoni_.push_back(bottone);
   return bottone;
 }
 
@@ -197,27 +195,6 @@ FinestraCatasto1::Parti FinestraCatasto1::PiuMeno(int piu, int meno) {
 }
 
 // --- order, place, commands
-
-// From box to box as the rows go; then the options and the confirm; the other buttons last.
-void FinestraCatasto1::OrdinaTasti() {
-  Parti giro;
-  for (const std::size_t i : {casella::Data, casella::Protocollo, casella::Comune, casella::Foglio, casella::Mappali})
-    giro.push_back(caselle_[i]);
-  const auto scelta = [this](Elenco elenco) { return elenchi_[static_cast<std::size_t>(elenco)]; };
-  giro.insert(giro.end(), {scelta(Elenco::Commento), tecnici_, caselle_[casella::Cognome], caselle_[casella::Nome],
-                           scelta(Elenco::Qualifica), scelta(Elenco::Provincia), caselle_[casella::Iscrizione],
-                           caselle_[casella::CodiceFiscale], caselle_[casella::Recapito], scelta(Elenco::Tipologia),
-                           scelta(Elenco::Strumentazione)});
-  for (const std::size_t i : {casella::PrecisioneLineare, casella::PrecisioneAngolare, casella::QuotaMedia,
-                              casella::EstMedio, casella::Versione})
-    giro.push_back(caselle_[i]);
-  giro.insert(giro.end(), {aggiornaIni_, aggiornaData_, findChild<QPushButton*>(QStringLiteral("Pulsante_0")),
-                           findChild<QPushButton*>(QStringLiteral("Pulsante_1"))});
-  for (QWidget* bottone : bottoni_)
-    if (std::find(giro.begin(), giro.end(), bottone) == giro.end()) giro.push_back(bottone);
-  giro.insert(giro.end(), {estratto_, archivio_});
-  for (std::size_t i = 1; i < giro.size(); ++i) setTabOrder(giro[i - 1], giro[i]);
-}
 
 void FinestraCatasto1::done(int esito) {
   modello_.SalvaPosto({x(), y()});

@@ -52,7 +52,6 @@ private:
   [[nodiscard]] Parti PiuMeno(int piu, int meno);
   [[nodiscard]] QLabel* Unita(const QString& testo);
 
-  void OrdinaTasti();
   void Premi(int indice);
   void Mostra();
   void MostraDifetto(std::size_t indice);
@@ -63,7 +62,6 @@ private:
   std::array<QLineEdit*, NumeroCaselle> caselle_{};
   std::array<QLabel*, NumeroCaselle> difetti_{}; // beside the boxes that can be wrong
   std::array<QComboBox*, NumeroElenchi> elenchi_{};
-  Parti bottoni_; // in the order they stand; reached behind the boxes
   QListWidget* tecnici_;
   QLabel* comune_;
   QToolButton* estratto_;

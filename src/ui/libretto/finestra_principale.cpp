@@ -2,7 +2,9 @@
 
 #include <ui/comune/aspetto.h>
 #include <ui/comune/barra_ricerca.h>
+#include <ui/comune/menu_elenchi.h>
 #include <ui/comune/ricerca.h>
+#include <ui/comune/tastiera.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/libretto/menu_principale.h>
 #include <ui/libretto/pannello_dati.h>
@@ -90,7 +92,13 @@ FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDa
     MostraStrumenti();
   });
   CollegaConsegne();
+  DaiMenuAgliElenchi(*this);
+  QSet<QChar> deiMenu;
+  for (const QAction* menu : menuBar()->actions())
+    deiMenu.insert(menu->text()[menu->text().indexOf(u'&') + 1].toUpper());
+  AssegnaMnemoniche(*dati_, deiMenu);
   Mostra();
+  OrdinaTab(*tutto);
   righe_->setFocus();
 }
 

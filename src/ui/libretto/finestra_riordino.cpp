@@ -152,10 +152,7 @@ QWidget* FinestraRiordino::CreaPiede() {
     modello_.Conferma();
     ChiudiSeChiusa();
   });
-  connect(chiudi, &QPushButton::clicked, this, [this] {
-    modello_.Chiudi();
-    ChiudiSeChiusa();
-  });
+  connect(chiudi, &QPushButton::clicked, this, &FinestraRiordino::reject);
   riga->addWidget(iscrizione_);
   riga->addWidget(codiceFiscale_);
   riga->addStretch(1);
@@ -199,6 +196,11 @@ void FinestraRiordino::Mostra() {
   classi_.back().quante->setVisible(scartate);
   iscrizione_->setText(AQString(modello_.EtichettaIscrizione));
   codiceFiscale_->setText(AQString(modello_.EtichettaCodiceFiscale));
+}
+
+void FinestraRiordino::reject() {
+  modello_.Chiudi();
+  ChiudiSeChiusa();
 }
 
 void FinestraRiordino::ChiudiSeChiusa() {

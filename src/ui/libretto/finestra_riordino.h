@@ -25,6 +25,9 @@ public:
   // The model must be loaded and outlive the window.
   explicit FinestraRiordino(FormRiordinoRighe& modello, QWidget* padre = nullptr);
 
+  // Esc and the window's own cross close as the button does.
+  void reject() override;
+
 signals:
   void Mostrata();
 

@@ -39,6 +39,7 @@ StrisciaCampi::StrisciaCampi(QWidget* padre)
   riga_->addWidget(vuota_);
   riga_->addStretch(1);
   setWidget(dentro_);
+  while (posti_.size() < MassimeCaselle) Aggiungi();
   Pulisci();
 }
 
@@ -84,7 +85,6 @@ void StrisciaCampi::Pulisci() {
 }
 
 void StrisciaCampi::Disponi() {
-  while (posti_.size() < caselle_.size()) Aggiungi();
   for (std::size_t i = 0; i < posti_.size(); ++i) {
     if (i < caselle_.size()) Riempi(i);
     posti_[i].insieme->setVisible(i < caselle_.size());

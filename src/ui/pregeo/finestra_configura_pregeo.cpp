@@ -53,7 +53,8 @@ BarraACapo* FinestraConfiguraPregeo::CreaBarra() {
            QStringLiteral("Collegamenti a Pregeo sul desktop e nel menu dei programmi"),
            [this] { modello_.CreaCollegamenti(); });
   barra->Allarga();
-  aggiungi("chiudi", QStringLiteral("Chiudi"), QStringLiteral("Chiude senza salvare (Esc)"), [this] { Chiudi(); });
+  aggiungi("chiudi", QStringLiteral("Chiudi"), QStringLiteral("Chiude; chiede se qualcosa non è salvato (Esc)"),
+           [this] { reject(); });
   return barra;
 }
 
@@ -89,7 +90,8 @@ void FinestraConfiguraPregeo::Ricarica() {
   MostraEtichette();
 }
 
-void FinestraConfiguraPregeo::Chiudi() {
+void FinestraConfiguraPregeo::reject() {
+  modello_.Testo = casella_->Testo();
   modello_.Chiudi();
   if (modello_.Chiusa) accept();
 }

@@ -19,12 +19,14 @@ public:
   // The model must be loaded and outlive the window.
   explicit FinestraConfiguraPregeo(FormConfiguraPregeo& modello, QWidget* padre = nullptr);
 
+  // Esc and the window's own cross close as the button does.
+  void reject() override;
+
 private:
   [[nodiscard]] BarraACapo* CreaBarra();
   [[nodiscard]] QWidget* CreaPiede();
   void Salva();
   void Ricarica();
-  void Chiudi();
   void MostraEtichette();
 
   FormConfiguraPregeo& modello_;

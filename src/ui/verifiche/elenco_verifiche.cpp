@@ -131,6 +131,7 @@ QWidget* ElencoVerifiche::CreaBarra() {
   auto* riga = new QHBoxLayout(barra);
   riga->setContentsMargins(6, 2, 6, 2);
   AggiungiFiltri(*riga);
+  cerca_->setProperty("cerca", true);
   cerca_->setPlaceholderText(QStringLiteral("Cerca nelle segnalazioni"));
   cerca_->setClearButtonEnabled(true);
   riga->addWidget(cerca_, 1);

@@ -75,7 +75,7 @@ struct LibrettoDisegno : testing::Test {
   }
   void Passo(const QString& didascalia) {
     for (auto* bottone : finestra->findChildren<QAbstractButton*>())
-      if (bottone->text() == didascalia) return Clicca(*bottone);
+      if (bottone->text().remove(u'&') == didascalia) return Clicca(*bottone);
     qFatal("no such step");
   }
   void DoppioClick(int riga) {

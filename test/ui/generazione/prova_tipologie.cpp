@@ -48,7 +48,7 @@ private:
 
 void Premi(QWidget& finestra, const QString& testo) {
   for (auto* bottone : finestra.findChildren<QAbstractButton*>())
-    if (bottone->text() == testo) return QTest::mouseClick(bottone, Qt::LeftButton);
+    if (bottone->text().remove(u'&') == testo) return QTest::mouseClick(bottone, Qt::LeftButton);
   qFatal("no such button");
 }
 

@@ -32,14 +32,17 @@ struct Mano {
   [[nodiscard]] QLineEdit& Casella(std::size_t indice) const {
     return Figlio<QLineEdit>(QStringLiteral("Text1_%1").arg(indice));
   }
-  // Writes into the box that the keys go to, in the place of what it held.
+  // Writes into the box that the keys go to, in the place of what it held, and goes on to the next one.
   void Scrivi(const char* testo) const {
     auto* casella = QApplication::focusWidget();
     QTest::keyClick(casella, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(casella, QString::fromLatin1(testo));
     Avanti();
   }
-  void Avanti() const { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); }
+  void Avanti() const {
+    do QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    while (qobject_cast<QPushButton*>(QApplication::focusWidget()) != nullptr);
+  }
   void Clicca(int pulsante) const {
     QTest::mouseClick(&Figlio<QPushButton>(QStringLiteral("Pulsante_%1").arg(pulsante)), Qt::LeftButton);
   }
@@ -69,15 +72,15 @@ TEST(FinestraCatasto1, UnAttoDaZero) {
     EXPECT_EQ(mano.Casella(casella::Foglio).text() + mano.Casella(casella::Mappali).text(),
               QStringLiteral("0007B3,12"));
     mano.Scrivi("Prova|barre");
-    mano.Avanti(); // the surveyors' list
-    for (const char* testo : {"Neri", "Ugo", "Ingegnere", "Gorizia", "55", "rssmra85t10a562s", "via Roma 1"})
-      mano.Scrivi(testo);
     ScegliDaElenco(mano.Figlio<QComboBox>(QStringLiteral("Elenco_2")), 3);
     EXPECT_EQ(mano.Casella(casella::Tipologia).text(), QStringLiteral("CM"));
     mano.Avanti();
     ScegliDaElenco(mano.Figlio<QComboBox>(QStringLiteral("Elenco_3")), 1);
     mano.Avanti();
     for (const char* testo : {"", "30", "52"}) mano.Scrivi(testo);
+    for (int i = 0; i < 3; ++i) mano.Avanti(); // two boxes and the surveyors' list
+    for (const char* testo : {"Neri", "Ugo", "Ingegnere", "Gorizia", "55", "rssmra85t10a562s", "via Roma 1"})
+      mano.Scrivi(testo);
     EXPECT_EQ(mano.Casella(casella::PrecisioneLineare).text(), QStringLiteral("10")); // an empty one is completed
     QTest::mouseClick(&mano.Figlio<QCheckBox>(QStringLiteral("AggiornaData")), Qt::LeftButton, {}, QPoint(8, 8));
     mano.Clicca(2);
@@ -98,6 +101,7 @@ TEST(FinestraCatasto1, UnAttoDaZero) {
 
 TEST(FinestraCatasto1, DoppioClickSullaRigaNoveEChiudi) {
   Tavolo tavolo;
+  tavolo.banco.dialoghi.risposte = {Risposta::Si}; // it asks whether to leave the date as it was
   const auto prima = tavolo.banco.Righe();
   bool mostrata = false;
   NellaProssimaFinestra([&](QWidget& finestra) {
@@ -110,6 +114,8 @@ TEST(FinestraCatasto1, DoppioClickSullaRigaNoveEChiudi) {
   tavolo.Clicca(1);
   QTest::mouseDClick(tavolo.vista->viewport(), Qt::LeftButton, {}, tavolo.Punto(1));
   EXPECT_TRUE(mostrata);
+  EXPECT_EQ(tavolo.banco.dialoghi.UltimoTesto(), "Chiudere senza confermare le modifiche?");
+  EXPECT_EQ(tavolo.Selezionate(), (std::vector<std::size_t>{1})); // the row stays chosen
   EXPECT_EQ(tavolo.banco.Righe(), prima);
   EXPECT_EQ(tavolo.banco.sessione.EsitoForm, EsitoAnnullato);
   EXPECT_TRUE(tavolo.banco.impostazioni.valori.contains("POSIZIONE_FORMx/FormCatasto1TXT"));

@@ -93,8 +93,13 @@ TEST_F(ConRiordino, DoppioClickECancTolgonoUnaRiga) {
   EXPECT_EQ(Vista(Stazioni).model()->rowCount(), 0);
 }
 
-TEST_F(ConRiordino, ChiudiLasciaIlLibretto) {
+TEST_F(ConRiordino, ChiudiLasciaIlLibrettoEChiedeSeQualcosaEEliminato) {
   const std::string prima = banco.sessione.Libretto;
+  banco.dialoghi.risposte = {Risposta::Si, Risposta::No, Risposta::Si};
+  DoppioClick(Stazioni, 1);
+  QTest::keyClick(&*finestra, Qt::Key_Escape);
+  EXPECT_EQ(banco.dialoghi.UltimoTesto(), "Chiudere senza confermare le eliminazioni?");
+  EXPECT_TRUE(finestra->isVisible());
   finestra->findChild<QPushButton*>(QStringLiteral("Chiudi"))->click();
   EXPECT_FALSE(finestra->isVisible());
   EXPECT_EQ(banco.sessione.Libretto, prima);

@@ -115,12 +115,12 @@ bool Usa(QAction& voce) {
 }
 
 // The dialog over an archive that nobody answers for.
-const std::string ArchivioVuoto = "finestra C:\\LIBRETTO.DAT, selezione, programma "
+const std::string ArchivioVuoto = "finestra C:\\LIBRETTO.DAT, programma "
                                   "C:\\users\\prova\\Documents\\LIRMETO\\Trasvea.exe2, messaggio";
 
 // The workbench asks Pregeo's archive for the proposal first, and says that the libretto has no extract.
 const std::string ApreIlBanco =
-    "finestra Archivio Particelle - G224-0010  Libretto: LIBRETTO.DAT Estratto: , selezione, "
+    "finestra Archivio Particelle - G224-0010  Libretto: LIBRETTO.DAT Estratto: , "
     "programma C:\\users\\prova\\Documents\\LIRMETO\\Trasvea.exe, messaggio";
 
 // An entry that is shown as unavailable says so. Nothing is alive that does nothing.
@@ -180,7 +180,7 @@ TEST(OgniVoce, DelMenuFaCioCheDice) {
       {"Cerca Comune", "finestra Ricerca Comune"},
       {"Comuni per Provincia", "finestra Comuni per Provincia"},
       {"Archivio Possessori", "finestra Archivio Possessori"},
-      {"Gestione Estratti di Mappa", "finestra Gestione Estratti di Mappa - Estratto Associato = , selezione, file"},
+      {"Gestione Estratti di Mappa", "finestra Gestione Estratti di Mappa - Estratto Associato = , file"},
       {"Completa Autoallestito", "messaggio"},
       {"Informazioni generali - operative - garanzie", "messaggio"},
       {"Libretto per Coordinate da Polilinee DXF", "finestra Tipologia 1000"},
@@ -221,7 +221,7 @@ TEST(OgniVoce, DeiPulsantiFaCioCheDice) {
       {15, "programma desktop"},
       {16, "finestra Edit Libretto Misure"},
       {17, ApreIlBanco},
-      {18, "finestra Gestione Estratti di Mappa - Estratto Associato = , selezione, file"},
+      {18, "finestra Gestione Estratti di Mappa - Estratto Associato = , file"},
       {20, "programma C:\\Program Files (x86)\\Gondella\\GondellaLibretti.exe"},
       {25, "pannello"},
       {27, "selezione"},

@@ -19,7 +19,7 @@ const std::string PregeoIni = "C:\\WINDOWS\\PREGEO.INI";
 
 void Premi(QWidget& finestra, const QString& testo) {
   for (QToolButton* bottone : finestra.findChildren<QToolButton*>())
-    if (bottone->text() == testo) return QTest::mouseClick(bottone, Qt::LeftButton);
+    if (bottone->text().remove(u'&') == testo) return QTest::mouseClick(bottone, Qt::LeftButton);
   qFatal("no such button");
 }
 

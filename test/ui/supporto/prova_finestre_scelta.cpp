@@ -14,7 +14,7 @@ namespace {
 
 QPushButton* Bottone(QWidget& finestra, const char* testo) {
   for (auto* bottone : finestra.findChildren<QPushButton*>())
-    if (bottone->text() == QLatin1String(testo)) return bottone;
+    if (bottone->text().remove(u'&') == QLatin1String(testo)) return bottone;
   qFatal("no such button");
 }
 
