@@ -220,8 +220,7 @@ std::string AvvisoSistemate(const Sessione& sessione) {
   std::string avviso;
   if (ripetute > 0)
     avviso = FattoARighe("tolt", ripetute) + (ripetute == 1 ? " uguale" : " uguali") + " alla precedente";
-  if (note > 0)
-    avviso += (avviso.empty() ? "" : ", ") + FattoARighe("sistemat", note) + " con note da completare";
+  if (note > 0) avviso += (avviso.empty() ? "" : ", ") + FattoARighe("sistemat", note) + " con note da completare";
   return avviso;
 }
 

@@ -124,7 +124,7 @@ private:
 // The room of a text. One that is longer than any surface takes no more than that: its cells would be beyond number.
 Scritta Spaziosa(Scritta scritta) {
   constexpr double larghissima = 8192; // pixels
-  constexpr double aria = 2; // pixels between two names
+  constexpr double aria = 2;           // pixels between two names
   scritta.larga = std::min(scritta.larga, larghissima) + aria;
   return scritta;
 }

@@ -42,7 +42,8 @@ TEST(Chiusura, SenzaCambiamentiNonScriveNulla) {
     EXPECT_EQ(sala.disco.Contenuto("C:\\ACT.DAT"), ripetute + "6|<DIT>Rossi|\r\n");
     EXPECT_FALSE(sala.disco.Esiste("C:\\MANCA.DAT"));
     EXPECT_TRUE(sala.finestra.Finita);
-    EXPECT_EQ(sala.dialoghi.UltimoTesto(), std::string_view(file).ends_with("MANCA.DAT") ? "C:\\MANCA.DAT\r\nNON trovato!" : "");
+    EXPECT_EQ(sala.dialoghi.UltimoTesto(),
+              std::string_view(file).ends_with("MANCA.DAT") ? "C:\\MANCA.DAT\r\nNON trovato!" : "");
   }
 }
 

@@ -94,21 +94,21 @@ TEST_P(Rifiuto, NonDiventaUnLibretto) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    File, Rifiuto,
-    testing::Values(CasoRifiuto{"vuoto", "", "Nessuna riga"}, CasoRifiuto{"lettera", "Cara Anna,\r\n1 | 2\r\n", ""},
-                    CasoRifiuto{"testo", "Cara Anna,\r\n12|3|\r\n", "Nessuna riga"},
-                    CasoRifiuto{"zeri", std::string("8|1|2|3|\r\n\0", 11), "byte a zero"},
-                    CasoRifiuto{"riga", "testo\r\n 8|1|2|3|\r\n", ""}),
-    [](const auto& caso) { return caso.param.nome; });
+INSTANTIATE_TEST_SUITE_P(File, Rifiuto,
+                         testing::Values(CasoRifiuto{"vuoto", "", "Nessuna riga"},
+                                         CasoRifiuto{"lettera", "Cara Anna,\r\n1 | 2\r\n", ""},
+                                         CasoRifiuto{"testo", "Cara Anna,\r\n12|3|\r\n", "Nessuna riga"},
+                                         CasoRifiuto{"zeri", std::string("8|1|2|3|\r\n\0", 11), "byte a zero"},
+                                         CasoRifiuto{"riga", "testo\r\n 8|1|2|3|\r\n", ""}),
+                         [](const auto& caso) { return caso.param.nome; });
 
 TEST(Apertura, DiceCioCheSistemaECioCheIlFileSaDelTecnico) {
   Sala sala;
   sala.disco.Metti("C:\\ACT.DAT", Testo({Zero, Nove, "8|1||", "8|1||", "8|2||<P!>|", "6|<COD>DELFILE|", "6|<ISC>|"}));
   sala.disco.Metti(Programma + "\\TECNICI\\ROSSI MARIO.PFS", "\"R\",,\r\n,,\r\n\"55\",\"DELTECNICO\"\r\n,\r\n,\r\n");
   sala.finestra.Avvia("C:\\ACT.DAT");
-  EXPECT_EQ(sala.finestra.Esito,
-            "Aperto C:\\ACT.DAT: 5 righe; al salvataggio tolta 1 riga uguale alla precedente, sistemate 2 righe con note da completare");
+  EXPECT_EQ(sala.finestra.Esito, "Aperto C:\\ACT.DAT: 5 righe; al salvataggio tolta 1 riga uguale alla precedente, "
+                                 "sistemate 2 righe con note da completare");
   EXPECT_EQ(sala.finestra.CasellaCodiceFiscale, "DELFILE");
   EXPECT_EQ(sala.finestra.CasellaIscrizione, "55") << "an empty one is none";
 }

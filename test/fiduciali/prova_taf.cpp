@@ -130,22 +130,26 @@ TEST_F(ConForm, IPuntiDelLibrettoControLaTaf) {
   EXPECT_EQ(form.List2, trovate);
   form.SostituisciRighe8();
   EXPECT_TRUE(form.Chiusa);
-  EXPECT_EQ(banco.Righe(), (Righe{Testata[0], Testata[1], "1|100|1.5|N|", form.List2[0], form.List2[1], "8|101|5|6|",
-                                  "2|PF01/0010/G224|1|2|", "8|PF01/0010/L736|1|2|", "8|PF1/0010/G224|1|2|", "6|FINE|"}));
-  EXPECT_EQ(banco.dialoghi.UltimoTesto(), "Righe 8 mantenute perché assenti in TAF:\r\n101, PF01/0010/L736, PF1/0010/G224"_w);
+  EXPECT_EQ(banco.Righe(),
+            (Righe{Testata[0], Testata[1], "1|100|1.5|N|", form.List2[0], form.List2[1], "8|101|5|6|",
+                   "2|PF01/0010/G224|1|2|", "8|PF01/0010/L736|1|2|", "8|PF1/0010/G224|1|2|", "6|FINE|"}));
+  EXPECT_EQ(banco.dialoghi.UltimoTesto(),
+            "Righe 8 mantenute perché assenti in TAF:\r\n101, PF01/0010/L736, PF1/0010/G224"_w);
   EXPECT_EQ(banco.sessione.Libretto, Testo(banco.Righe()));
 }
 
 // The points of the extract: where they lie changes, what else the libretto knows of them stays.
 TEST_F(ConForm, IPuntiDellEstratto) {
   banco.sessione.EstrattoAssociato = "A.EMP";
-  banco.disco.Metti("C:\\PREGEO\\ESTRATTI\\A.EMP", "0|1|2|\r\n8|1%|1|2|\r\n8|PF07/012A/G224|-5179.20400|-4351.1|\r\n"
-                                                   "8|PF09/012A/G224|1|2|\r\n8|pf09/012a/g224|3|4|\r\n7|2|1%|1%|NC|\r\n");
+  banco.disco.Metti("C:\\PREGEO\\ESTRATTI\\A.EMP",
+                    "0|1|2|\r\n8|1%|1|2|\r\n8|PF07/012A/G224|-5179.20400|-4351.1|\r\n"
+                    "8|PF09/012A/G224|1|2|\r\n8|pf09/012a/g224|3|4|\r\n7|2|1%|1%|NC|\r\n");
   banco.sessione.List1.Aggiungi("8|PF07/012A/G224|1|2|05|SPIGOLO|");
   banco.sessione.List1.Aggiungi("8|PF07/012A/G224|12.3|04|BASE|");
   FormImportaFiduciali estratto(banco.ambiente, FonteFiduciali::Estratto);
   estratto.AlCaricamento();
-  EXPECT_EQ(estratto.List2, (Righe{"8|PF07/012A/G224|-5179.204|-4351.100|05|SPIGOLO|", "8|PF09/012A/G224|1.000|2.000|NOTE:|"}));
+  EXPECT_EQ(estratto.List2,
+            (Righe{"8|PF07/012A/G224|-5179.204|-4351.100|05|SPIGOLO|", "8|PF09/012A/G224|1.000|2.000|NOTE:|"}));
   EXPECT_EQ(estratto.PuntiInTaf, 1U);
   estratto.SostituisciRighe8();
   const auto righe = banco.Righe();
@@ -157,7 +161,8 @@ TEST_F(ConForm, IPuntiDellEstratto) {
 TEST(QuoteMedie, SiCercanoEVannoNellaRigaNove) {
   Banco banco;
   banco.Apri(Testo(Testata));
-  banco.disco.Metti(PercorsoQuotaMedia(banco.sessione), "A001|ABANO TERME|14|\r\nG224|PADOVA|12|\r\nL736|VENEZIA|1|\r\n");
+  banco.disco.Metti(PercorsoQuotaMedia(banco.sessione),
+                    "A001|ABANO TERME|14|\r\nG224|PADOVA|12|\r\nL736|VENEZIA|1|\r\n");
   class QuoteMedie form(banco.ambiente);
   form.AlCaricamento();
   EXPECT_EQ(form.Indice, 1) << "the comune of row 0";

@@ -54,7 +54,9 @@ QHBoxLayout* FinestraImportaFiduciali::CreaElenchi() {
   elenchi->setSpacing(12);
   elenchi->addWidget(ColonnaElenco(QStringLiteral("Pieffe Trovati nel Libretto"), *libretto_), 2);
   elenchi->addWidget(ColonnaElenco(modello_.DaEstratto() ? QStringLiteral("Pieffe dell'Estratto")
-                                                  : QStringLiteral("Pieffe Trovati in Taf"), *taf_), 5);
+                                                         : QStringLiteral("Pieffe Trovati in Taf"),
+                                   *taf_),
+                     5);
   taf_->setUniformItemSizes(false); // rows of every length: the longest is what can be scrolled to
   taf_->setTextElideMode(Qt::ElideNone);
   return elenchi;

@@ -156,7 +156,7 @@ TEST(FinestraCatasto1, ElenchiTecniciECodiceFiscale) {
   EXPECT_TRUE(tavolo.banco.dialoghi.detti.empty());
   QTest::keyClicks(&mano.Casella(casella::Comune), QStringLiteral("G224"));
   EXPECT_FALSE(segnata(mano.Casella(casella::Comune))); // as soon as it is right
-  mano.Clicca(0); // the code is wrong and the answer is No
+  mano.Clicca(0);                                       // the code is wrong and the answer is No
   EXPECT_TRUE(finestra.isVisible());
   EXPECT_EQ(tavolo.banco.dialoghi.UltimoTesto(), "Probabile Codice Fiscale non Corretto!\r\nContinuare?");
   tavolo.banco.dialoghi.risposte = {Risposta::Si};

@@ -119,9 +119,8 @@ const std::string ArchivioVuoto = "finestra C:\\LIBRETTO.DAT, programma "
                                   "C:\\users\\prova\\Documents\\LIRMETO\\Trasvea.exe2, messaggio";
 
 // The workbench asks Pregeo's archive for the proposal first, and says that the libretto has no extract.
-const std::string ApreIlBanco =
-    "finestra Archivio Particelle - G224-0010  Libretto: LIBRETTO.DAT Estratto: , "
-    "programma C:\\users\\prova\\Documents\\LIRMETO\\Trasvea.exe, messaggio";
+const std::string ApreIlBanco = "finestra Archivio Particelle - G224-0010  Libretto: LIBRETTO.DAT Estratto: , "
+                                "programma C:\\users\\prova\\Documents\\LIRMETO\\Trasvea.exe, messaggio";
 
 // An entry that is shown as unavailable says so. Nothing is alive that does nothing.
 using Effetti = std::map<std::string, std::string>;

@@ -35,7 +35,8 @@ struct ConFinestraStampa : testing::Test {
   }
   void Premi(const QString& testo) {
     for (QAbstractButton* bottone : finestra->findChildren<QAbstractButton*>())
-      if (bottone->text().remove(u'&') == testo) return QTest::mouseClick(bottone, Qt::LeftButton, {}, {8, bottone->height() / 2});
+      if (bottone->text().remove(u'&') == testo)
+        return QTest::mouseClick(bottone, Qt::LeftButton, {}, {8, bottone->height() / 2});
     qFatal("no such button");
   }
   [[nodiscard]] QListView& Lista() {
