@@ -98,7 +98,6 @@ private:
   void QuotaMediaDelComune();
   void CercaComune();
   void EstMedio();
-  bool ImportaDatiEstratto();
   void ImportaEstratto();
   void UsaLibrettoSingolo();
   void CaricaTecnicoScelto();

@@ -137,29 +137,18 @@ void FormCatasto1TXT::CercaComune() {
   if (sessione.EsitoSelezione > 0) Cambia(casella::Comune, sessione.CodiceComune);
 }
 
-// False when there was nothing to import.
-bool FormCatasto1TXT::ImportaDatiEstratto() {
-  Sessione& sessione = ambiente_.sessione;
-  const auto dati = CopiaIDatiDellEstratto(ambiente_, sessione.EstrattoAssociato);
-  if (!dati || (dati->comune.empty() && dati->foglio.empty() && dati->particelle.empty())) return false;
-  sessione.CodiceComune = dati->comune;
-  sessione.Foglio = dati->foglio;
-  sessione.Mappali = dati->particelle;
-  Cambia(casella::Comune, sessione.CodiceComune);
-  Cambia(casella::Foglio, sessione.Foglio);
-  Cambia(casella::Mappali, sessione.Mappali);
-  return true;
-}
-
 // The parcels stay those of the act: an extract has more of them than are worked on.
 void FormCatasto1TXT::ImportaEstratto() {
   Sessione& sessione = ambiente_.sessione;
-  const std::string mappali = caselle_[casella::Mappali];
-  if (!ImportaDatiEstratto())
+  const auto dati = CopiaIDatiDellEstratto(ambiente_, sessione.EstrattoAssociato);
+  if (!dati || (dati->comune.empty() && dati->foglio.empty() && dati->particelle.empty()))
     return ambiente_.dialoghi.Messaggio("Nessun dato dall'Estratto " + sessione.EstrattoAssociato,
                                         "Importa dall'Estratto");
+  sessione.CodiceComune = dati->comune;
+  sessione.Foglio = dati->foglio;
+  Cambia(casella::Comune, sessione.CodiceComune);
+  Cambia(casella::Foglio, sessione.Foglio);
   EstMedio();
-  caselle_.Metti(casella::Mappali, mappali);
   if (sessione.EsitoForm > 0) Cambia(casella::Protocollo, sessione.Protocollo);
 }
 

@@ -389,4 +389,17 @@ TEST(Opzioni, SiConservanoEIGruppiNeTengonoUna) {
   EXPECT_EQ(lette.PrecisioneAngolare, 4);
 }
 
+TEST(LibrettoDaDisegno, DelleLineeNeRestanoDue) {
+  Disegno d;
+  d.Apri(Testo(Testata), "C:\\RILIEVO.LXC");
+  d.disco.Metti("C:\\RILIEVO.LXC", Testo({"P,100,0,0", "P,101,1,1", "P,102,2,2", "P,103,3,3", "L,0,0,0,1,1,0",
+                                          "L,0,0,0,2,2,0", "L,0,0,0,3,3,0"}));
+  LibrettoDaDisegno form(d.ambiente, d.condiviso);
+  form.Form_Load();
+  for (const auto& [indice, restano] : {std::pair{3U, 3U}, {0U, 2U}, {0U, 2U}}) {
+    form.DoppioClickList1(indice);
+    EXPECT_EQ(form.List1.size(), restano);
+  }
+}
+
 } // namespace lirmeto::prova
