@@ -199,6 +199,7 @@ TEST(Comandi, ProgrammiCaratterePannello) {
   KR_LibrettoOriginale altra(sala.ambiente);
   altra.Avvia("");
   EXPECT_EQ(altra.CarattereElenco, sala.dialoghi.carattereScelto);
+  EXPECT_EQ(sala.finestra.CarattereElenco, altra.CarattereElenco);
   sala.finestra.PuntatoreSuPulsante(PulsanteUtilita);
   EXPECT_TRUE(sala.finestra.PannelloStrumenti);
   sala.finestra.PuntatoreSuPulsante(4);

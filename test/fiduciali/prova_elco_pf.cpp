@@ -252,6 +252,10 @@ TEST_F(Vista, SiStampanoISelezionati) {
   EXPECT_EQ(mostrata, "PF01/0020/G224  " + std::string(8 + 3 + 7, ' ') + "200.0         0.0" + std::string(53, ' ') +
                           "angolo nuovo" + std::string(3 + 12 + 65, ' '));
   EXPECT_EQ(banco.disco.Contenuto(Temp + "Stampa_Fiduciali.TXT"), mostrata + "\r\n");
+  form.Seleziona(SelezionePF::Tutti);
+  form.Esegui(8);
+  const std::string tutti = banco.disco.Contenuto(Temp + "Stampa_Fiduciali.CSV");
+  EXPECT_EQ(QuanteParti(tutti, '\n'), 2 + form.Punti.size());
 }
 
 // The extract manager, where the user associates an extract or none.

@@ -382,6 +382,11 @@ TEST(Opzioni, SiConservanoEIGruppiNeTengonoUna) {
   EXPECT_FALSE(ImpostaOpzione(opzioni, "METTI_CS", "forse"));
   EXPECT_FALSE(ImpostaOpzione(opzioni, "ALTRO", "1"));
   ScriviOpzioni(opzioni, impostazioni);
+  std::string logiche; // written as words, the others as 0 and 1
+  for (const auto& [chiave, valore] : impostazioni.valori)
+    if (valore == "True" || valore == "False") logiche += chiave.substr(chiave.find('/')) + " ";
+  EXPECT_EQ(logiche, "/INCREMENTO_CENTESIMALE /INCREMENTO_MILLESIMALE /ORIENTA_AZIMUT /ORIENTA_LIBRETTO "
+                     "/ORIENTA_PRECEDENTE ");
   EXPECT_EQ(impostazioni.valori.at("LIBRETTO_AUTOMATICO/ORIENTA_PRECEDENTE"), "False");
   const OpzioniLibretto lette = LeggiOpzioni(impostazioni);
   EXPECT_TRUE(lette.OrientaAzimut && !lette.OrientaPrecedente);

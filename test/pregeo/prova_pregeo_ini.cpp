@@ -151,7 +151,9 @@ TEST(Tecnico, ScrittoERiletto) {
   s.CodiceFiscale = "CF";
   s.Recapito = "VIA ROMA 1";
   s.IncludiDatiTecnico = 1;
+  s.RighePregeoIni = {"numero=1", ""};
   SalvaTecnico(banco.ambiente);
+  EXPECT_TRUE(banco.disco.Contenuto(Percorso).starts_with("numero=12"));
   EXPECT_EQ(banco.disco.Contenuto(Pfs),
             Testo({"\"ROSSI MARIO\",\"GEOMETRA\",\"PADOVA\"", "\"10\",\"20\",\"STAZIONE TOTALE\"", "\"12\",\"CF\"",
                    "\" rossi \"", "\"mario\"", "\"VIA ROMA 1\""}));

@@ -46,7 +46,7 @@ TEST(Edm, ApreListeECaselle) {
   EXPECT_EQ(form.File1, (Righe{"G224_00010_35.MAP"})); // from the extract, of this sheet
   EXPECT_EQ(form.List1, (Righe{"35", "36"}));
   EXPECT_EQ(form.List3, (Righe{"35 = 12_AAA = 12"}));
-  EXPECT_TRUE(form.InArchivio("35"));
+  EXPECT_TRUE(form.Attivo(14) && form.InArchivio("35"));
   EXPECT_FALSE(form.InArchivio("36"));
   form.Premi(6);
   EXPECT_EQ(banco.dialoghi.detti.back().titolo + "/" + banco.dialoghi.UltimoTesto(),

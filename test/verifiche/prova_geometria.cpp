@@ -60,6 +60,10 @@ TEST(Geometria, IPianiSiPosanoSenzaLaCoppiaSbagliata) {
     const PuntoPiano prova{50, -70};
     EXPECT_LT(DistanzaPiana(trovata->Applica(prova), vera.Applica(prova)), 1e-6) << giro;
   }
+  // The pair that errs lies far away, turns the others and is itself not the worst.
+  const auto senza = Adatta({{{0, 0}, {0, 0}}, {{10, 0}, {10, 0}}, {{0, 10}, {0, 10}}, {{100, 0}, {100, 20}}});
+  ASSERT_TRUE(senza);
+  EXPECT_LT(DistanzaPiana(senza->Applica({50, 50}), {50, 50}), 1e-9);
   EXPECT_FALSE(Adatta({}));
   EXPECT_FALSE(Adatta({{{1, 2}, {3, 4}}}));
   EXPECT_FALSE(Adatta({{{1, 2}, {3, 4}}, {{1, 2}, {3, 4}}})); // one place: no direction

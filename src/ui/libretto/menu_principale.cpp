@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QSet>
 
+#include <array>
 #include <utility>
 
 namespace lirmeto::ui {
@@ -80,54 +81,33 @@ private:
 } // namespace
 
 QKeySequence Scorciatoia(Comando comando) {
-  switch (comando) {
-  case Comando::NuovoLibretto:
-    return QKeySequence(Qt::CTRL | Qt::Key_N);
-  case Comando::ApriDaFile:
-    return QKeySequence(Qt::CTRL | Qt::Key_O);
-  case Comando::StampaLibretto:
-    return QKeySequence(Qt::CTRL | Qt::Key_P);
-  case Comando::SalvaLibretto:
-    return QKeySequence(Qt::CTRL | Qt::Key_S);
-  case Comando::EsportaLibretto:
-    return QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
-  case Comando::ModificaDiretta:
-    return QKeySequence(Qt::Key_F2);
-  case Comando::RiordinoRighe:
-    return QKeySequence(Qt::Key_F5);
-  case Comando::IncollaDaAppunti:
-    return QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V);
-  case Comando::Annulla:
-    return QKeySequence(Qt::CTRL | Qt::Key_Z);
-  case Comando::Ripeti:
-    return QKeySequence(Qt::CTRL | Qt::Key_Y);
-  case Comando::TagliaRighe:
-    return QKeySequence(Qt::CTRL | Qt::Key_X);
-  case Comando::CopiaRighe:
-    return QKeySequence(Qt::CTRL | Qt::Key_C);
-  case Comando::IncollaRighe:
-    return QKeySequence(Qt::CTRL | Qt::Key_V);
-  case Comando::EliminaRighe:
-    return QKeySequence(Qt::Key_Delete);
-  case Comando::SelezionaTutte:
-    return QKeySequence(Qt::CTRL | Qt::Key_A);
-  case Comando::CampiRiga:
-    return QKeySequence(Qt::Key_F4);
-  case Comando::MostraVerifiche:
-    return QKeySequence(Qt::CTRL | Qt::Key_F8);
-  case Comando::SegnalazioneSuccessiva:
-    return QKeySequence(Qt::Key_F8);
-  case Comando::SegnalazionePrecedente:
-    return QKeySequence(Qt::SHIFT | Qt::Key_F8);
-  case Comando::PrendiRimedio:
-    return QKeySequence(Qt::ALT | Qt::Key_Return);
-  case Comando::MostraRilievo:
-    return QKeySequence(Qt::Key_F9);
-  case Comando::Chiudi:
-    return QKeySequence(Qt::CTRL | Qt::Key_Q);
-  default:
-    return {};
-  }
+  constexpr auto scorciatoie = std::to_array<std::pair<Comando, QKeyCombination>>({
+      {Comando::NuovoLibretto, Qt::CTRL | Qt::Key_N},
+      {Comando::ApriDaFile, Qt::CTRL | Qt::Key_O},
+      {Comando::StampaLibretto, Qt::CTRL | Qt::Key_P},
+      {Comando::SalvaLibretto, Qt::CTRL | Qt::Key_S},
+      {Comando::EsportaLibretto, Qt::CTRL | Qt::SHIFT | Qt::Key_S},
+      {Comando::ModificaDiretta, Qt::Key_F2},
+      {Comando::RiordinoRighe, Qt::Key_F5},
+      {Comando::IncollaDaAppunti, Qt::CTRL | Qt::SHIFT | Qt::Key_V},
+      {Comando::Annulla, Qt::CTRL | Qt::Key_Z},
+      {Comando::Ripeti, Qt::CTRL | Qt::Key_Y},
+      {Comando::TagliaRighe, Qt::CTRL | Qt::Key_X},
+      {Comando::CopiaRighe, Qt::CTRL | Qt::Key_C},
+      {Comando::IncollaRighe, Qt::CTRL | Qt::Key_V},
+      {Comando::EliminaRighe, Qt::Key_Delete},
+      {Comando::SelezionaTutte, Qt::CTRL | Qt::Key_A},
+      {Comando::CampiRiga, Qt::Key_F4},
+      {Comando::MostraVerifiche, Qt::CTRL | Qt::Key_F8},
+      {Comando::SegnalazioneSuccessiva, Qt::Key_F8},
+      {Comando::SegnalazionePrecedente, Qt::SHIFT | Qt::Key_F8},
+      {Comando::PrendiRimedio, Qt::ALT | Qt::Key_Return},
+      {Comando::MostraRilievo, Qt::Key_F9},
+      {Comando::Chiudi, Qt::CTRL | Qt::Key_Q},
+  });
+  for (const auto& [suo, tasti] : scorciatoie)
+    if (suo == comando) return tasti;
+  return {};
 }
 
 QAction* VoceDi(const QMenuBar& barra, Comando comando) {
