@@ -26,6 +26,11 @@ const std::vector<Caso> Casi = {
     // rows by themselves
     {"L001 3", {"3 +X|100|"}, {"3 +6|X|"}},
     {"L002 5", {"5 CHIODO>CHIODO|A"}, {"5 CHIODO>A CHIODO"}},
+    {"L002 4", {"4 |CHIODO|>|CHIODO|A|B|"}, {}},
+    {"L002 35", {"35 |102|0.00|ALLINEAMENTO|>|"}, {"35 ALLINEAMENTO>A|A"}},
+    {"L002 36", {"36 |10.000|10.000|POZZETTO|>|"}, {}},
+    {"L002 48", {"48 |1125.000|1165.000|TERMINE IN PIETRA|>|1|"}, {}},
+    {"L002 48", {"48 TERMINE>A|B|TERMINE"}, {"48 TERMINE>A|TERMINE"}},
     {"L003 5", {"5 126.4863>126.48a3"}, {"5 126.4863>126.486300"}},
     {"L003 14", {"14 100.4300>100.4x00"}, {}},
     {"L003 35", {"35 0.00>x"}, {"35 0.00|>0.00|"}},
@@ -307,6 +312,10 @@ TEST(Verifiche, RigheStraneNonFermanoNiente) {
                             "6|ESTRATTO DI MAPPA|",
                             "7|5|1E999%|NC|A|1E999|1E999|",
                             "|||||",
+                            "1|1",
+                            "2|1",
+                            "5|1",
+                            "8|1",
                             "7|"};
   for (std::size_t salta = 0; salta <= strane.size(); ++salta) {
     ConAtto c;
