@@ -102,8 +102,9 @@ std::string TempProposta(Ambiente& ambiente) {
   return CaricaFileIntero(ambiente, ambiente.sessione.CartellaProgramma + "\\temp\\TempProposta");
 }
 
-// List1, or the libretto with the memo in it.
+// List1, or the libretto with the memo in it. An error that the form absorbed is told: the rows are those before it.
 std::string Esito(Ambiente& ambiente, PropostaDerivate& form, const std::string& libretto) {
+  if (!form.Assorbito().empty()) ambiente.dialoghi.Messaggio("Le righe non sono ricomposte: " + form.Assorbito());
   if (libretto.empty()) return RigheUnite(form.List1);
   form.AggiungiAlMemo();
   SalvaPropostaFile1(ambiente, form.List2);

@@ -187,6 +187,7 @@ void PrendiCampiRigaZero(Ambiente& ambiente) {
 void LeggiTestata(Ambiente& ambiente, const KR_Estratto& estratto, const std::string& percorso) {
   Sessione& sessione = ambiente.sessione;
   sessione.EstrattoFile = percorso;
+  if (estratto.ZERO.empty()) throw Errore(errore::IndiceFuoriIntervallo, std::string("L'estratto è vuoto"_w));
   sessione.EstrattoRigaZero = estratto.ZERO[0];
   AllaRiga([] { return std::size_t{1}; }, sessione.EstrattoRigaZero, [&] { PrendiCampiRigaZero(ambiente); });
 }

@@ -157,7 +157,8 @@ std::vector<double> SuperficiDi(Ambiente& ambiente, KR_Estratto& estratto) {
   for (const auto riga : estratto.SETTE) {
     avanzamento.Fatto(superfici.size());
     anelli.SuperficieRigaSette(riga);
-    if (!std::isfinite(estratto.SuperficieCalcolata)) throw Errore(errore::Overflow);
+    if (!std::isfinite(estratto.SuperficieCalcolata))
+      throw Errore(errore::Overflow, "Particella " + std::string(CampoDaUltimo(riga, 2)) + ": coordinate fuori misura");
     superfici.push_back(estratto.SuperficieCalcolata);
   }
   return superfici;

@@ -1,11 +1,20 @@
 #include <estratti/superfici.h>
 
 #include <base/numeri.h>
+#include <base/testo.h>
 #include <estratti/campi.h>
 
 #include <cmath>
 
 namespace lirmeto {
+
+namespace {
+
+std::string TroppiVertici(std::string_view riga) {
+  return "Particella " + std::string(CampoDaUltimo(riga, 2)) + std::string(": il contorno ha più di 500 vertici"_w);
+}
+
+} // namespace
 
 double SuperficieAnello(std::span<const double> nord, std::span<const double> est) {
   double superficie = 0;
@@ -24,7 +33,6 @@ SuperficiAnelli::SuperficiAnelli(KR_Estratto& estratto) : estratto_(estratto), i
 }
 
 void SuperficiAnelli::MettiVertice(std::size_t posto, std::string_view identificativo) {
-  if (posto > KR_Estratto::MassimoVertici) throw Errore(errore::IndiceFuoriIntervallo);
   const std::uint32_t trovato = indice_.Cerca(identificativo);
   if (trovato == IndiceIdentificativi::Nessuno) return;
   estratto_.Nord.at(posto) = vertici_[trovato].nord;
@@ -39,6 +47,7 @@ std::size_t SuperficiAnelli::MettiVertici(std::string_view riga) {
   std::size_t n = 0;
   for (std::size_t i = InizioCampo(riga, primo); i <= fine; ++n) {
     const std::string_view identificativo = CampoDa(riga, i);
+    if (n == KR_Estratto::MassimoVertici) throw Errore(errore::IndiceFuoriIntervallo, TroppiVertici(riga));
     MettiVertice(n + 1, identificativo);
     i += identificativo.size() + 1;
   }

@@ -1,12 +1,14 @@
 #include <generazione/elenco_cad.h>
 
 #include <base/avanzamento.h>
+#include <base/errore.h>
 #include <base/numeri.h>
 #include <base/testo.h>
 #include <core/riga.h>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <optional>
 #include <unordered_map>
 #include <utility>
@@ -19,6 +21,7 @@ namespace lirmeto {
 //   a vertex repeated             the same row twice in turn, as a CAD prints it across a page, is one vertex
 //   a comma in a number           is a decimal sign
 //   two vertices on one place     have one number, whatever their layers
+//   a coordinate of 10^11 metres   refuses the listing: its millimetres are no longer what was drawn
 
 namespace {
 
@@ -71,7 +74,10 @@ bool RigaVertice(std::string_view riga) {
 std::optional<std::string> Coordinata(std::string_view riga, std::string_view segno) {
   const std::size_t qui = riga.find(segno);
   if (qui == std::string_view::npos) return std::nullopt;
+  constexpr double massimo = 1e11; // metres: its millimetres are the last that a number holds
   const double valore = Valore(Sostituisci(riga.substr(qui + segno.size()), ",", "."));
+  if (!(std::fabs(valore) < massimo))
+    throw Errore(errore::Overflow, "Coordinata fuori misura: \"" + std::string(riga.substr(0, 60)) + "\"");
   return Formatta(valore, "###########.##0");
 }
 

@@ -41,7 +41,7 @@ struct ElencoCad {
 };
 
 // Vertices before any layer are of RC: a contour picked on the drawing. Those under any other layer, and rows without
-// both coordinates, are passed over.
+// both coordinates, are passed over. Throws Errore 6 for a coordinate beyond 10^11 metres.
 [[nodiscard]] ElencoCad LeggiElencoCad(Dialoghi& dialoghi, std::string_view testo);
 
 } // namespace lirmeto

@@ -23,9 +23,9 @@ enum Posto : std::size_t { Nome = 2, Classe, Qualita, Superficie, Grafica, Agrar
 DatiParticella LeggiRigaParticella(std::string_view riga) {
   const std::vector<std::string_view> campi = Dividi(riga, "|");
   if (!UgualiSenzaCaso(riga.substr(0, InizioParticella.size()), InizioParticella))
-    throw Errore(errore::ArgomentoNonValido, std::string("La riga non è di una particella: "_w) + std::string(riga));
+    throw Errore(errore::ArgomentoNonValido, std::string("La riga non è di una particella"_w)).DellaRiga(1, riga);
   if (campi.size() <= Superficie)
-    throw Errore(errore::IndiceFuoriIntervallo, "La riga della particella non ha tutti i campi: " + std::string(riga));
+    throw Errore(errore::IndiceFuoriIntervallo, "La riga della particella non ha tutti i campi").DellaRiga(1, riga);
   const auto campo = [&](Posto posto) { return std::string(posto < campi.size() ? campi[posto] : std::string_view{}); };
   return {campo(Nome),    campo(Classe),  campo(Qualita),    campo(Superficie),
           campo(Grafica), campo(Agrario), campo(Dominicale), campo(SrSn)};

@@ -74,7 +74,8 @@ public:
   [[nodiscard]] std::string ParticellaCorrente() const;
 
   [[nodiscard]] const std::string& Particella() const { return scelta_.dati.nome; }
-  // Whether the proposal had an areas file.
+  // What stopped the last composition, whose rows stay as they were; empty when nothing did.
+  [[nodiscard]] const std::string& Assorbito() const { return assorbito_; }
 
 protected:
   PropostaDerivate(Ambiente& ambiente, ParticellaScelta scelta);
@@ -132,7 +133,7 @@ private:
   std::size_t ultimaLettera_ = 0; // temporary names already used
   std::string fileMemo_;          // empty: the memo is not written
   bool conProposta_ = false;
-  std::string assorbito_; // what stopped the last composition
+  std::string assorbito_;
 };
 
 } // namespace lirmeto

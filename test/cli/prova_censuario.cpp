@@ -94,6 +94,13 @@ TEST_F(Censuario, NelLibretto) {
   EXPECT_EQ(archivio.uscita, "G224_00010_AAA.MAP 6|PARTICELLA|AAA|01|001         |100|100|0|0|\r\n");
 }
 
+// More derivations than areas compose nothing, and it is said.
+TEST_F(Censuario, DerivazioniDiTroppo) {
+  const std::string modello = Metti("m.txt", "35 = 100_X = 1\n35 = 100_Y = 1\n35 = 100_Z = 1\n");
+  const auto esito = Lancia({"censuario", "frazionamento", particella, "--aree", "60,40", "--derivazioni", modello});
+  EXPECT_NE(esito.errori.find("Le righe non sono ricomposte: "), std::string::npos) << esito.errori;
+}
+
 TEST_F(Censuario, UsoSbagliato) {
   const std::vector<std::string> casi[] = {{"frazionamento", particella, "--aree", "1:X"},
                                            {"stralcio", particella, "--aree", "1", "--urbani", "1"},
@@ -106,6 +113,8 @@ TEST_F(Censuario, UsoSbagliato) {
     EXPECT_EQ(esito.codice, 1) << parole[1] << esito.errori;
     EXPECT_EQ(esito.uscita, "");
   }
+  const auto lungo = Lancia({"censuario", "variazione", Metti("l.map", "6|PARTICELLA|" + std::string(5000, '9'))});
+  EXPECT_LT(lungo.errori.size(), 500U) << "a row is shown by its beginning";
   EXPECT_EQ(Lancia({"censuario", "frazionamento", particella}).codice, 2);
   EXPECT_EQ(Lancia({"censuario", "fusione", particella + "x"}).codice, 3);
 }

@@ -192,7 +192,8 @@ std::string AnelloDi(std::size_t campi) {
 struct CasoGuasto {
   std::string nome;
   std::string file;
-  int errore; // 0: read and saved
+  int errore;        // 0: read and saved
+  std::string_view detto; // part of the report
 };
 
 class Guasto : public testing::TestWithParam<CasoGuasto> {};
@@ -205,6 +206,7 @@ TEST_P(Guasto, DettoENientePerso) {
   EXPECT_EQ(pulito, GetParam().errore == 0);
   EXPECT_EQ(banco.sessione.NumeroErrore, GetParam().errore) << banco.sessione.TestoErrore;
   EXPECT_EQ(banco.dialoghi.detti.size(), GetParam().errore == 0 ? 0U : 1U);
+  EXPECT_NE(banco.dialoghi.UltimoTesto().find(GetParam().detto), std::string::npos) << banco.dialoghi.UltimoTesto();
   if (!pulito) {
     EXPECT_EQ(banco.disco.Contenuto(Percorso), GetParam().file);
   }
@@ -215,23 +217,26 @@ const std::string Punto = Zero + "\r\n8|1%|0|0|\r\n";
 INSTANTIATE_TEST_SUITE_P(
     Prove, Guasto,
     testing::Values(
-        CasoGuasto{"vuoto", "", 9}, CasoGuasto{"rigaVuota", "\r\n8|1%|0|0|\r\n", 9},
-        CasoGuasto{"zeroCorta", "0|12062026|x|G224|00123|35|\r\n8|1%|0|0|\r\n",
-                   0}, // the sixth bar opens a seventh field
-        CasoGuasto{"zeroPiuCorta", "0|12062026|x|G224|00123|35\r\n8|1%|0|0|\r\n", 9},
-        CasoGuasto{"senzaZero", "8|1%|0|0|\r\n7|4|1%|1%|1%|1%|NC|A|A|5|\r\n", 9},
-        CasoGuasto{"soloLf", Zero + "\n8|1%|0|0|\n7|2|1%|1%|NC|A|A|5|\n", 0},
-        CasoGuasto{"ottoSenzaNome", Zero + "\r\n8\r\n", 9}, CasoGuasto{"ottoSenzaEst", Zero + "\r\n8|1%|0|\r\n", 0},
-        CasoGuasto{"ottoSenzaNord", Zero + "\r\n8|1%|\r\n", 9}, CasoGuasto{"setteNuda", Punto + "7\r\n", 9},
-        CasoGuasto{"setteCorta", Punto + "7|2|1%|NC\r\n", 9}, CasoGuasto{"setteDiCinque", Punto + "7|2|1%|NC|\r\n", 0},
-        CasoGuasto{"lineaSenzaTesta", Punto + "7|0|2L|3L|NT|\r\n", 9},
-        CasoGuasto{"campi500", Punto + AnelloDi(500) + "\r\n", 0},
-        CasoGuasto{"campi501", Punto + AnelloDi(501) + "\r\n", 9},
-        CasoGuasto{"puntoAssente", Punto + "7|4|1%|2%|3%|1%|NC|A|A|5|\r\n", 0},
-        CasoGuasto{"lettere", Zero + "\r\n8|1%|nord|NaN|\r\n7|4|1%|1%|1%|1%|NC|A|A|5|\r\n", 0},
-        CasoGuasto{"enorme", Zero + "\r\n8|1%|1e308|-1e308|\r\n8|2%|0|1e308|\r\n7|4|1%|2%|1%|1%|NC|A|A|5|\r\n", 6},
-        CasoGuasto{"inquadramentoNudo", Punto + "6|IN\r\n6|DITTA\r\n6|PA\r\n", 0},
-        CasoGuasto{"byteQualunque", Punto + std::string("\0\xFF|7|\x81\r\n7e0|||||||\r\n", 18), 0}),
+        CasoGuasto{"vuoto", "", 9, "L'estratto è vuoto"_w}, CasoGuasto{"rigaVuota", "\r\n8|1%|0|0|\r\n", 9, ""},
+        CasoGuasto{"zeroCorta", "0|12062026|x|G224|00123|35|\r\n8|1%|0|0|\r\n", 0,
+                   ""}, // the sixth bar opens a seventh field
+        CasoGuasto{"zeroPiuCorta", "0|12062026|x|G224|00123|35\r\n8|1%|0|0|\r\n", 9, ""},
+        CasoGuasto{"senzaZero", "8|1%|0|0|\r\n7|4|1%|1%|1%|1%|NC|A|A|5|\r\n", 9, ""},
+        CasoGuasto{"soloLf", Zero + "\n8|1%|0|0|\n7|2|1%|1%|NC|A|A|5|\n", 0, ""},
+        CasoGuasto{"ottoSenzaNome", Zero + "\r\n8\r\n", 9, ""},
+        CasoGuasto{"ottoSenzaEst", Zero + "\r\n8|1%|0|\r\n", 0, ""},
+        CasoGuasto{"ottoSenzaNord", Zero + "\r\n8|1%|\r\n", 9, ""}, CasoGuasto{"setteNuda", Punto + "7\r\n", 9, ""},
+        CasoGuasto{"setteCorta", Punto + "7|2|1%|NC\r\n", 9, ""},
+        CasoGuasto{"setteDiCinque", Punto + "7|2|1%|NC|\r\n", 0, ""},
+        CasoGuasto{"lineaSenzaTesta", Punto + "7|0|2L|3L|NT|\r\n", 9, ""},
+        CasoGuasto{"campi500", Punto + AnelloDi(500) + "\r\n", 0, ""},
+        CasoGuasto{"campi501", Punto + AnelloDi(501) + "\r\n", 9, "Particella A: il contorno ha più di 500 vertici"_w},
+        CasoGuasto{"puntoAssente", Punto + "7|4|1%|2%|3%|1%|NC|A|A|5|\r\n", 0, ""},
+        CasoGuasto{"lettere", Zero + "\r\n8|1%|nord|NaN|\r\n7|4|1%|1%|1%|1%|NC|A|A|5|\r\n", 0, ""},
+        CasoGuasto{"enorme", Zero + "\r\n8|1%|1e308|-1e308|\r\n8|2%|0|1e308|\r\n7|4|1%|2%|1%|1%|NC|A|A|5|\r\n", 6,
+                   "Particella A: coordinate fuori misura"},
+        CasoGuasto{"inquadramentoNudo", Punto + "6|IN\r\n6|DITTA\r\n6|PA\r\n", 0, ""},
+        CasoGuasto{"byteQualunque", Punto + std::string("\0\xFF|7|\x81\r\n7e0|||||||\r\n", 18), 0, ""}),
     [](const auto& caso) { return caso.param.nome; });
 
 TEST(Estratto, DiscoENomi) {

@@ -181,6 +181,15 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoDxfGuasto{Dxf("0 LWPOLYLINE 8 RC 10 1 20"), errore::OltreLaFine},
                     CasoDxfGuasto{"0\nSECTION\n2\nENTITIES\n10\n1e300\n0\nENDSEC", 0}));
 
+// A coordinate that no map has is told with its row, and the rows stay.
+TEST(Elenco, UnaCoordinataFuoriMisura) {
+  Form form;
+  const Righe prima = form.Da(Testo({"LAYER RC", V("1", "2"), V("3", "4")}));
+  for (const std::string enorme : {"1e300", "-1e11", "1e999"})
+    EXPECT_EQ(form.Da(Testo({"LAYER RC", V(enorme, "2"), V("3", "4")})), prima);
+  EXPECT_NE(form.banco.dialoghi.UltimoTesto().find("Coordinata fuori misura: \"al punto  X=1e999"), std::string::npos);
+}
+
 TEST(Tipol10, SenzaFileSceltoLoDice) {
   Form form;
   form.banco.dialoghi.fileScelto = "*";
