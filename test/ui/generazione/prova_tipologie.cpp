@@ -1,19 +1,14 @@
-#include <ui/tavolo.h>
+#include <ui/utente.h>
 
 #include <ui/disegno/grafica_pannello.h>
 #include <ui/disegno/grafica_superficie.h>
 #include <ui/generazione/finestra_tipol10.h>
 
-#include <QAbstractButton>
-#include <QAction>
 #include <QDialog>
 #include <QListWidget>
-#include <QMenuBar>
 #include <QTableWidget>
 
 #include <gtest/gtest.h>
-
-#include <map>
 
 namespace lirmeto::prova {
 namespace {
@@ -23,40 +18,6 @@ using Elenco = std::vector<std::string>;
 const std::string Estratto = Testo(
     {"0|12032018|1|G224|00042|35|PD|PUB|A|1|", "8|1%|10.000|10.000|", "8|2%|10.000|110.000|", "8|3%|110.000|110.000|",
      "8|4%|110.000|10.000|", "7|5|1%|2%|3%|4%|1%|NC|35|35|10000|", "6|PARTICELLA|35|  |SEMINATIVO  |1|    | | |"});
-
-// Plays the user in each dialog that comes up, by its name, until all have had their turn.
-class Utente {
-public:
-  using Gioco = std::function<void(QWidget&)>;
-  explicit Utente(std::map<QString, Gioco> giochi) : giochi_(std::move(giochi)) {
-    QObject::connect(&orologio_, &QTimer::timeout, [this] {
-      QWidget* finestra = QApplication::activeModalWidget();
-      const auto gioco = finestra == nullptr ? giochi_.end() : giochi_.find(finestra->objectName());
-      if (gioco == giochi_.end()) return;
-      const Gioco questo = gioco->second;
-      giochi_.erase(gioco);
-      questo(*finestra);
-    });
-    orologio_.start(1);
-  }
-  [[nodiscard]] bool Finito() const { return giochi_.empty(); }
-
-private:
-  std::map<QString, Gioco> giochi_;
-  QTimer orologio_;
-};
-
-void Premi(QWidget& finestra, const QString& testo) {
-  for (auto* bottone : finestra.findChildren<QAbstractButton*>())
-    if (bottone->text().remove(u'&') == testo) return QTest::mouseClick(bottone, Qt::LeftButton);
-  qFatal("no such button");
-}
-
-void Scegli(Tavolo& tavolo, const QString& inizio) {
-  for (QAction* azione : tavolo.finestra->menuBar()->findChildren<QAction*>())
-    if (azione->text().remove(u'&').startsWith(inizio)) return azione->trigger();
-  qFatal("no such entry");
-}
 
 // From the menu to the proposal in the rows, with a building drawn by the mouse on the extract.
 TEST(Tipologie, DalMenuAllaPropostaColMouse) {
