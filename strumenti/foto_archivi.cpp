@@ -9,6 +9,7 @@
 #include <ui/fiduciali/finestra_elco_pf_grafica.h>
 #include <ui/fiduciali/finestra_elco_pf_griglia.h>
 #include <ui/fiduciali/finestra_importa_fiduciali.h>
+#include <ui/fiduciali/finestra_quote_medie.h>
 #include <ui/fiduciali/finestra_seleziona_misurate.h>
 #include <ui/supporto/finestra_assegna_descrizione.h>
 #include <ui/supporto/finestra_codfis.h>
@@ -43,16 +44,19 @@ bool Fotografo::Domande() {
   AssegnaDescrizione descrizione(ambiente_);
   FormImportaFiduciali importa(ambiente_);
   KR_SelezionaMisurate misurate(ambiente_);
+  QuoteMedie quote(ambiente_);
   comuni.AlCaricamento();
   possessori.AlCaricamento();
   descrizione.AlCaricamento();
   importa.AlCaricamento();
   misurate.AlCaricamento();
+  quote.AlCaricamento();
   return Ritrai<ui::FinestraImputa>(raggio, "raggio") && Ritrai<ui::FinestraComuni>(comuni, "comuni_italiani") &&
          Ritrai<ui::FinestraPossessori>(possessori, "possessori") &&
          Ritrai<ui::FinestraAssegnaDescrizione>(descrizione, "descrizione") &&
          Ritrai<ui::FinestraImportaFiduciali>(importa, "fiduciali_importa") &&
-         Ritrai<ui::FinestraSelezionaMisurate>(misurate, "fiduciali_misurate");
+         Ritrai<ui::FinestraSelezionaMisurate>(misurate, "fiduciali_misurate") &&
+         Ritrai<ui::FinestraQuoteMedie>(quote, "quote_medie");
 }
 
 // The comuni with a TAF, the points of one, and those of a sheet selected on the plane with the distances measured.

@@ -3,6 +3,8 @@
 
 #include <ui/comune/aspetto.h>
 #include <ui/disegno/finestra_disegno.h>
+#include <ui/disegno/grafica_pannello.h>
+#include <ui/disegno/grafica_superficie.h>
 #include <ui/estratti/finestra_completa.h>
 #include <ui/estratti/finestra_estratti.h>
 #include <ui/estratti/finestra_somma.h>
@@ -10,6 +12,7 @@
 #include <ui/fiduciali/finestra_elco_pf_grafica.h>
 #include <ui/fiduciali/finestra_elco_pf_griglia.h>
 #include <ui/fiduciali/finestra_importa_fiduciali.h>
+#include <ui/fiduciali/finestra_quote_medie.h>
 #include <ui/fiduciali/finestra_seleziona_misurate.h>
 #include <ui/generazione/finestra_libretto_disegno.h>
 #include <ui/generazione/finestra_mappali.h>
@@ -160,6 +163,7 @@ TEST(Misure, OgniFinestraStaIn1280Per720) {
   tutte.Apri<CompletaAutoallestito>("A.EMP");
   tutte.Apri<FormImportaFiduciali>();
   tutte.Apri<KR_SelezionaMisurate>();
+  tutte.Apri<QuoteMedie>();
   tutte.Apri<KR_ElcoPf>();
   tutte.Apri<KR_ElcoPfGriglia>(tabella);
   tutte.Apri<KR_ElcoPFGrafica>(tabella);
@@ -173,6 +177,37 @@ TEST(Misure, OgniFinestraStaIn1280Per720) {
   tutte.Apri<KR_TMFusione>();
   for (const std::type_info* tipo : ui::ModelliConFinestra())
     EXPECT_TRUE(tutte.viste.contains(*tipo)) << tipo->name() << " non provata";
+}
+
+// Drawings and lists that are still empty say how to begin, and no longer once there is something in them.
+TEST(Inviti, LeFinestreVuoteDiconoComeCominciare) {
+  Banco banco;
+  FormDisegno vuoto(banco.ambiente);
+  ui::FinestraDisegno finestra(vuoto);
+  finestra.show();
+  const auto tinte = [&] {
+    const QImage foto = finestra.Pannello().Superficie().grab().toImage();
+    std::set<QRgb> viste;
+    for (int y = 0; y < foto.height(); ++y)
+      for (int x = 0; x < foto.width(); ++x) viste.insert(foto.pixel(x, y));
+    return viste.size();
+  };
+  EXPECT_GT(tinte(), 5U) << "letters, with their soft edges";
+  finestra.Pannello().Superficie().MettiInvito({});
+  EXPECT_EQ(tinte(), 1U);
+  const auto invito = [](QWidget& dove) {
+    const auto* scritta = dove.findChild<QLabel*>(QStringLiteral("InvitoElenco"));
+    return scritta != nullptr && scritta->isVisible() && !scritta->text().isEmpty();
+  };
+  for (const bool conEstratto : {false, true}) {
+    if (conEstratto) banco.disco.Metti("C:\\pregeo\\estratti\\A.EMP", "0|12032026|G224|0010|0000|12|6|\r\n");
+    KR_EstrattiDiMappa1 estratti(banco.ambiente);
+    estratti.AlCaricamento();
+    ui::FinestraEstratti gestore(estratti);
+    gestore.show();
+    EXPECT_EQ(estratti.File1.empty(), !conEstratto);
+    EXPECT_EQ(invito(gestore), !conEstratto);
+  }
 }
 
 // A window larger than the screen, one that was left over its edge, one left on a screen that is gone: the title and the

@@ -31,12 +31,13 @@ constexpr std::array<VoceTema, static_cast<std::size_t>(Tono::Quanti)> Tabella =
     {"Barre", 0xFF545F68, 0xFFB3BFC8},          {"Trovato", 0xFFFFE48A, 0xFF6B5A12},
     {"RigaCorrente", 0xFFEEF5FB, 0xFF24303A},   {"CellaGialla", 0xFFFFE97A, 0xFF64550F},
     {"CellaRossa", 0xFFF29B90, 0xFF7A2F27},     {"TestoErrore", 0xFFB32A1E, 0xFFFF9D92},
-    {"TestoGiusto", 0xFF2A7330, 0xFF86D08C},    {"SegnoErrore", 0xFFC62828, 0xFFFF7A6E},
-    {"SegnoDubbio", 0xFFC27700, 0xFFF0B040},    {"SegnoNota", 0xFF2F7FC1, 0xFF6AAEE4},
-    {"Carta", 0xFFFDFDFB, 0xFF1A1F23},          {"Scala", 0xFF5B6A75, 0xFFA9B7C2},
-    {"Cerchio", 0xFF2F7FC1, 0xFF6AAEE4},        {"Righello", 0xFF8A2BA8, 0xFFD79AF0},
-    {"Evidenza", 0x90FFA800, 0xA0FFA800},       {"Particella", 0xB0F08A24, 0xB0F08A24},
-    {"Foglio", 0xFFFFFFFF, 0xFFFFFFFF},         {"Ombra", 0x46000000, 0x90000000},
+    {"FondoErrore", 0xFFFDECEA, 0xFF4A2622},    {"TestoGiusto", 0xFF2A7330, 0xFF86D08C},
+    {"SegnoErrore", 0xFFC62828, 0xFFFF7A6E},    {"SegnoDubbio", 0xFFC27700, 0xFFF0B040},
+    {"SegnoNota", 0xFF2F7FC1, 0xFF6AAEE4},      {"Carta", 0xFFFDFDFB, 0xFF1A1F23},
+    {"Scala", 0xFF5B6A75, 0xFFA9B7C2},          {"Cerchio", 0xFF2F7FC1, 0xFF6AAEE4},
+    {"Righello", 0xFF8A2BA8, 0xFFD79AF0},       {"Evidenza", 0x90FFA800, 0xA0FFA800},
+    {"Particella", 0xB0F08A24, 0xB0F08A24},     {"Foglio", 0xFFFFFFFF, 0xFFFFFFFF},
+    {"Ombra", 0x46000000, 0x90000000},
 }};
 static_assert(!Tabella.back().nome.empty(), "a tone has no line");
 

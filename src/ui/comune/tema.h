@@ -56,6 +56,7 @@ enum class Tono : std::uint8_t {
   CellaGialla,
   CellaRossa,
   TestoErrore,
+  FondoErrore, // of a box whose text is wrong
   TestoGiusto,
   SegnoErrore, // signs beside a row
   SegnoDubbio,

@@ -43,9 +43,10 @@ TEST_P(Tema, OgniTestoDellaPaletteEDeiDipinti) {
        {std::pair(Tono::Testo, Tono::Trovato), std::pair(Tono::Testo, Tono::RigaCorrente),
         std::pair(Tono::Testo, Tono::CellaGialla), std::pair(Tono::Testo, Tono::CellaRossa),
         std::pair(Tono::Numeri, Tono::Margine), std::pair(Tono::Numeri, Tono::Finestra),
-        std::pair(Tono::TestoErrore, Tono::Base), std::pair(Tono::TestoErrore, Tono::Finestra),
-        std::pair(Tono::TestoGiusto, Tono::Finestra), std::pair(Tono::Scala, Tono::Carta),
-        std::pair(Tono::TestoConsiglio, Tono::Consiglio), std::pair(Tono::TestoFinestra, Tono::Acceso)})
+        std::pair(Tono::TestoErrore, Tono::Base), std::pair(Tono::Testo, Tono::FondoErrore),
+        std::pair(Tono::TestoErrore, Tono::Finestra), std::pair(Tono::TestoGiusto, Tono::Finestra),
+        std::pair(Tono::Scala, Tono::Carta), std::pair(Tono::TestoConsiglio, Tono::Consiglio),
+        std::pair(Tono::TestoFinestra, Tono::Acceso)})
     Legge(testo, fondo);
 }
 
