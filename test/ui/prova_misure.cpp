@@ -199,14 +199,17 @@ TEST(Inviti, LeFinestreVuoteDiconoComeCominciare) {
     const auto* scritta = dove.findChild<QLabel*>(QStringLiteral("InvitoElenco"));
     return scritta != nullptr && scritta->isVisible() && !scritta->text().isEmpty();
   };
-  for (const bool conEstratto : {false, true}) {
-    if (conEstratto) banco.disco.Metti("C:\\pregeo\\estratti\\A.EMP", "0|12032026|G224|0010|0000|12|6|\r\n");
+  for (const FiltroEstratti filtro : {FiltroEstratti::Smp, FiltroEstratti::Emp}) {
+    banco.disco.Metti("C:\\pregeo\\estratti\\A.EMP", "0|12032026|G224|0010|0000|12|6|\r\n");
     KR_EstrattiDiMappa1 estratti(banco.ambiente);
     estratti.AlCaricamento();
     ui::FinestraEstratti gestore(estratti);
     gestore.show();
-    EXPECT_EQ(estratti.File1.empty(), !conEstratto);
-    EXPECT_EQ(invito(gestore), !conEstratto);
+    gestore
+        .findChild<QAbstractButton*>(filtro == FiltroEstratti::Smp ? QStringLiteral("Filtro_SMP")
+                                                                   : QStringLiteral("Filtro_EMP"))
+        ->click();
+    EXPECT_EQ(invito(gestore), filtro == FiltroEstratti::Smp);
   }
 }
 
