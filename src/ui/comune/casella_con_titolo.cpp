@@ -14,6 +14,12 @@ QLabel* TitoloGruppo(const QString& testo, QWidget* padre) {
   return titolo;
 }
 
+QLabel* Unita(const QString& testo, QWidget* padre) {
+  auto* unita = new QLabel(testo, padre);
+  unita->setObjectName(QStringLiteral("Posto"));
+  return unita;
+}
+
 QLineEdit* AggiungiCasella(QGridLayout& griglia, const QString& titolo, const QString& nome, std::string& valore,
                            QWidget* padre) {
   const int riga = griglia.rowCount();

@@ -115,9 +115,12 @@ void AbbinaEtichette(const Giro& giro) {
   }
 }
 
+// The buttons of a bar are left out: a change of their action would take the letter off again.
 bool MostraTesto(const QAbstractButton& bottone) {
   const auto* strumento = qobject_cast<const QToolButton*>(&bottone);
-  return strumento == nullptr || (strumento->toolButtonStyle() != Qt::ToolButtonIconOnly || strumento->icon().isNull());
+  if (strumento == nullptr) return true;
+  return strumento->defaultAction() == nullptr &&
+         (strumento->toolButtonStyle() != Qt::ToolButtonIconOnly || strumento->icon().isNull());
 }
 
 std::vector<Didascalia> Didascalie(const QWidget& finestra, const Giro& giro) {

@@ -1,6 +1,7 @@
 #include <ui/generazione/finestra_mappali.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/colonna_elenco.h>
 #include <ui/comune/piede_scelta.h>
 #include <ui/comune/testo_qt.h>
@@ -81,6 +82,7 @@ QLayout* FinestraSelezionaMappali::CreaCaselle() {
     casella->setFixedWidth(LarghezzaCasella);
     riga->addWidget(new QLabel(QString::fromLatin1(testo), this));
     riga->addWidget(casella);
+    riga->addWidget(Unita(QStringLiteral("m"), this));
   }
   return riga;
 }

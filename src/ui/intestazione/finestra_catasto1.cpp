@@ -161,12 +161,6 @@ void FinestraCatasto1::CollegaCasella(std::size_t indice, QLineEdit* linea) {
   caselle_[indice] = linea;
 }
 
-QLabel* FinestraCatasto1::Unita(const QString& testo) {
-  auto* unita = new QLabel(testo, this);
-  unita->setObjectName(QStringLiteral("Posto"));
-  return unita;
-}
-
 QPushButton* FinestraCatasto1::Bottone(int indice) {
   const auto pulsanti = FormCatasto1TXT::Pulsanti();
   const auto pulsante = std::find_if(pulsanti.begin(), pulsanti.end(),

@@ -50,7 +50,6 @@ private:
   void CollegaCasella(std::size_t indice, QLineEdit* linea);
   [[nodiscard]] QPushButton* Bottone(int indice);
   [[nodiscard]] Parti PiuMeno(int piu, int meno);
-  [[nodiscard]] QLabel* Unita(const QString& testo);
 
   void Premi(int indice);
   void Mostra();

@@ -3,6 +3,7 @@
 #include <ui/intestazione/finestra_catasto1.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/testo_qt.h>
 
 #include <core/apri_form.h>
@@ -79,10 +80,10 @@ void FinestraCatasto1::AggiungiRilievo(QBoxLayout& colonna) {
   AggiungiScelta(griglia, Elenco::Tipologia);
   AggiungiScelta(griglia, Elenco::Strumentazione);
   AggiungiRiga(griglia, {}, {Bottone(16), Bottone(17)});
-  AggiungiCasella(griglia, casella::PrecisioneLineare, 10, {Unita(QStringLiteral("cm"))});
+  AggiungiCasella(griglia, casella::PrecisioneLineare, 10, {Unita(QStringLiteral("cm"), this)});
   AggiungiCasella(griglia, casella::PrecisioneAngolare, 10);
-  AggiungiCasella(griglia, casella::QuotaMedia, 10, {Unita(QStringLiteral("m")), Bottone(4), Bottone(5)});
-  AggiungiCasella(griglia, casella::EstMedio, 10, {Unita(QStringLiteral("m")), Bottone(7)});
+  AggiungiCasella(griglia, casella::QuotaMedia, 10, {Unita(QStringLiteral("m"), this), Bottone(4), Bottone(5)});
+  AggiungiCasella(griglia, casella::EstMedio, 10, {Unita(QStringLiteral("m"), this), Bottone(7)});
   AggiungiCasella(griglia, casella::Versione, 0);
 }
 

@@ -2,6 +2,7 @@
 
 #include <ui/comune/aspetto.h>
 #include <ui/comune/barra_a_capo.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/colonna_elenco.h>
 #include <ui/comune/invito_elenco.h>
 #include <ui/comune/testo_qt.h>
@@ -140,6 +141,8 @@ QWidget* FinestraEdm::CreaCaselle() {
   colonna->addWidget(TitoloGruppo(QStringLiteral("Particella"), this));
   auto* griglia = new QGridLayout;
   griglia->setVerticalSpacing(4);
+  const QString mq = QStringLiteral("mq");
+  const QString euro = QStringLiteral("€");
   AggiungiCasella(*griglia, QStringLiteral("Text1"), QStringLiteral("Comune"), &KR_EDM::Text1, nullptr);
   AggiungiCasella(*griglia, QStringLiteral("Text2"), QStringLiteral("Foglio"), &KR_EDM::Text2, &KR_EDM::LasciaText2);
   AggiungiCasella(*griglia, QStringLiteral("Text3"), QStringLiteral("Mappale"), &KR_EDM::Text3, nullptr);
@@ -149,10 +152,10 @@ QWidget* FinestraEdm::CreaCaselle() {
   griglia->addWidget(new QLabel(QStringLiteral("Codice qualità"), this), griglia->rowCount(), 0);
   griglia->addWidget(codice_, griglia->rowCount() - 1, 1);
   AggiungiCasella(*griglia, QStringLiteral("Text6"), QStringLiteral("Classe"), &KR_EDM::Text6, &KR_EDM::LasciaText6);
-  AggiungiCasella(*griglia, QStringLiteral("Text7"), QStringLiteral("Sup. Catastale"), &KR_EDM::Text7, nullptr);
-  AggiungiCasella(*griglia, QStringLiteral("Text8"), QStringLiteral("Sup.Grafica"), &KR_EDM::Text8, nullptr);
-  AggiungiCasella(*griglia, QStringLiteral("Text9"), QStringLiteral("Redd. Dominicale"), &KR_EDM::Text9, nullptr);
-  AggiungiCasella(*griglia, QStringLiteral("Text10"), QStringLiteral("Redd. Agrario"), &KR_EDM::Text10, nullptr);
+  AggiungiCasella(*griglia, QStringLiteral("Text7"), QStringLiteral("Sup. Catastale"), &KR_EDM::Text7, nullptr, mq);
+  AggiungiCasella(*griglia, QStringLiteral("Text8"), QStringLiteral("Sup.Grafica"), &KR_EDM::Text8, nullptr, mq);
+  AggiungiCasella(*griglia, QStringLiteral("Text9"), QStringLiteral("Redd. Dominicale"), &KR_EDM::Text9, nullptr, euro);
+  AggiungiCasella(*griglia, QStringLiteral("Text10"), QStringLiteral("Redd. Agrario"), &KR_EDM::Text10, nullptr, euro);
   AggiungiCasella(*griglia, QStringLiteral("Text4"), QStringLiteral("SN / SR"), &KR_EDM::Text4, nullptr);
   colonna->addLayout(griglia);
   colonna->addWidget(Bottoni(Particella, 2));
@@ -166,7 +169,7 @@ QWidget* FinestraEdm::CreaCaselle() {
 }
 
 void FinestraEdm::AggiungiCasella(QGridLayout& griglia, const QString& nome, const QString& etichetta,
-                                  std::string KR_EDM::*testo, void (KR_EDM::*lascia)()) {
+                                  std::string KR_EDM::*testo, void (KR_EDM::*lascia)(), const QString& unita) {
   auto* linea = new QLineEdit(this);
   linea->setObjectName(nome);
   auto* davanti = new QLabel(etichetta, this);
@@ -174,6 +177,7 @@ void FinestraEdm::AggiungiCasella(QGridLayout& griglia, const QString& nome, con
   const int riga = griglia.rowCount();
   griglia.addWidget(davanti, riga, 0);
   griglia.addWidget(linea, riga, 1);
+  if (!unita.isEmpty()) griglia.addWidget(Unita(unita, this), riga, 2);
   connect(linea, &QLineEdit::textEdited, this,
           [this, testo](const QString& scritto) { modello_.*testo = DaQString(scritto); });
   if (lascia != nullptr)

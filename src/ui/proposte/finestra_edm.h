@@ -54,7 +54,7 @@ private:
   [[nodiscard]] QWidget* CreaDisegno();
   [[nodiscard]] QWidget* Bottoni(std::span<const int> indici, int colonne);
   void AggiungiCasella(QGridLayout& griglia, const QString& nome, const QString& etichetta, std::string KR_EDM::*testo,
-                       void (KR_EDM::*lascia)());
+                       void (KR_EDM::*lascia)(), const QString& unita = {});
   void Premi(int indice);
   void Mostra();
   void MostraElenchi();

@@ -1,5 +1,6 @@
 #include <ui/proposte/finestra_proposta.h>
 
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/tema.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_pannello.h>
@@ -141,6 +142,7 @@ QWidget* FinestraProposta::CreaGriglia() {
   auto* area = new QHBoxLayout;
   area->addWidget(label2_);
   area->addWidget(text2_);
+  area->addWidget(Unita(QStringLiteral("mq"), dentro));
   area->addStretch(1);
   text2_->setObjectName(QStringLiteral("Text2"));
   text2_->setFixedWidth(120);

@@ -42,9 +42,10 @@ std::vector<Didascalia> Didascalie(const QWidget& finestra) {
   for (const QAbstractButton* bottone : finestra.findChildren<QAbstractButton*>()) {
     const bool daTastiera = (bottone->focusPolicy() & Qt::TabFocus) != 0;
     const auto* strumento = qobject_cast<const QToolButton*>(bottone);
+    const bool diBarra = strumento != nullptr && strumento->defaultAction() != nullptr;
     const bool soloFigura =
         strumento != nullptr && strumento->toolButtonStyle() == Qt::ToolButtonIconOnly && !strumento->icon().isNull();
-    if (bottone->isVisible() && daTastiera && !soloFigura && !chiamati.contains(bottone))
+    if (bottone->isVisible() && daTastiera && !diBarra && !soloFigura && !chiamati.contains(bottone))
       didascalie.push_back({bottone, bottone->text()});
   }
   return didascalie;
