@@ -5,8 +5,10 @@
 #
 # What a layer has in a folder of its own for each system it runs on, src/NAME/linux and src/NAME/windows, is built there alone.
 set(LIRMETO_OSPITE linux)
+set(LIRMETO_ALTRO_OSPITE windows)
 if(WIN32)
   set(LIRMETO_OSPITE windows)
+  set(LIRMETO_ALTRO_OSPITE linux)
 endif()
 
 function(strato nome)

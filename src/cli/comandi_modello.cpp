@@ -5,6 +5,7 @@
 #include <core/lettura.h>
 #include <core/zero_nove.h>
 #include <piattaforma/disco_dischi.h>
+#include <piattaforma/percorsi_ospite.h>
 #include <supporto/modello_stampa.h>
 
 #include <array>
@@ -23,7 +24,7 @@ constexpr ArgomentoCli ArgomentiModello[] = {
 ListaRighe RigheDellaStampa(Ambiente& ambiente, const std::string& file) {
   ListaRighe righe;
   if (file.empty()) return righe;
-  const std::string testo = ConFineRiga(CaricaFileBinario(ambiente, PercorsoDaOspite(AUtf8(file))));
+  const std::string testo = ConFineRiga(CaricaFileBinario(ambiente, PercorsoDaOspite(OspiteDaUtf8(AUtf8(file)))));
   auto linee = Dividi(testo, FineRiga);
   if (!linee.empty()) linee.pop_back(); // behind the last line end
   for (const auto linea : linee) righe.Aggiungi(linea);

@@ -13,6 +13,7 @@
 #include <piattaforma/disco_dischi.h>
 #include <piattaforma/file_ospite.h>
 #include <piattaforma/orologi.h>
+#include <piattaforma/percorsi_ospite.h>
 #include <piattaforma/processi_ospite.h>
 #include <piattaforma/trova_dischi.h>
 
@@ -35,8 +36,9 @@ bool Stampa(std::FILE* canale, std::string_view byte) {
 }
 
 // Why a file cannot be opened, Windows-1252; empty when it can.
-std::string MotivoIllegibile(const fs::path& file) {
-  const std::string nome = DaUtf8(file.string());
+std::string MotivoIllegibile(const std::string& utf8) {
+  const std::string nome = DaUtf8(utf8);
+  const fs::path file = OspiteDaUtf8(utf8);
   const GenereFile genere = GenereOspite(file);
   if (genere == GenereFile::Niente) return "Il file " + nome + " non esiste.";
   if (genere == GenereFile::Cartella) return nome + std::string(" è una cartella, non un file."_w);
@@ -76,7 +78,7 @@ std::vector<std::string> ArgomentiPerIlComando(const Opzioni& opzioni) {
   for (std::size_t i = 0; i < opzioni.argomenti.size(); ++i) {
     const GenereArgomento genere = GenereDi(*opzioni.comando, i);
     const bool percorso = EFile(genere) || genere == GenereArgomento::Percorso;
-    argomenti.push_back(percorso && !opzioni.argomenti[i].empty() ? PercorsoDaOspite(opzioni.argomenti[i])
+    argomenti.push_back(percorso && !opzioni.argomenti[i].empty() ? PercorsoDaOspite(OspiteDaUtf8(opzioni.argomenti[i]))
                                                                   : DaUtf8(opzioni.argomenti[i]));
   }
   return argomenti;

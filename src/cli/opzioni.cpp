@@ -4,6 +4,8 @@
 
 #include <applicazione/avvio.h>
 #include <base/testo.h>
+#include <piattaforma/file_ospite.h>
+#include <piattaforma/percorsi_ospite.h>
 
 #include <CLI/CLI.hpp>
 
@@ -42,8 +44,7 @@ std::optional<int> Cifre(std::string_view testo) {
 }
 
 std::string ControllaDischi(const std::string& cartella) {
-  std::error_code ignorato;
-  return std::filesystem::is_directory(cartella, ignorato) ? "" : "la cartella " + cartella + " non esiste";
+  return GenereOspite(OspiteDaUtf8(cartella)) == GenereFile::Cartella ? "" : "la cartella " + cartella + " non esiste";
 }
 
 std::string ControllaOggi(const std::string& data) {
@@ -206,9 +207,9 @@ NienteDaFare UsoSbagliato(const CLI::App& app, const CLI::ParseError& sbaglio) {
 
 Opzioni DaScritte(const CLI::App& app, const Scritte& scritte) {
   Opzioni opzioni;
-  if (!scritte.dischi.empty()) opzioni.dischi = scritte.dischi;
+  if (!scritte.dischi.empty()) opzioni.dischi = OspiteDaUtf8(scritte.dischi);
   if (!scritte.oggi.empty()) opzioni.oggi = LeggiData(scritte.oggi);
-  if (!scritte.uscita.empty()) opzioni.uscita = scritte.uscita;
+  if (!scritte.uscita.empty()) opzioni.uscita = OspiteDaUtf8(scritte.uscita);
   for (const std::string& risposta : scritte.risposte) opzioni.risposte.push_back(Risposte().at(risposta));
   opzioni.comando = ComandoScelto(app);
   for (std::size_t i = 0; i < opzioni.comando->argomenti.size(); ++i)
@@ -231,6 +232,7 @@ std::optional<Data> LeggiData(std::string_view testo) {
 
 std::variant<Opzioni, NienteDaFare> LeggiOpzioni(const std::vector<std::string>& parole) {
   CLI::App app("Lirmeto da riga di comando: lo stesso lavoro senza finestre.", "lirmeto-cli");
+  app.allow_windows_style_options(false); // "/x" is a path everywhere
   Scritte scritte;
   Etichette(app);
   AggiungiOpzioni(app, scritte);

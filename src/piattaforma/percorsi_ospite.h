@@ -30,7 +30,11 @@ struct PercorsoDiviso {
 // Folder of a drive under the folder of all drives: "c", "C", "c:" or "C:", the first that is there, else the first.
 [[nodiscard]] std::filesystem::path CartellaDisco(const std::filesystem::path& dischi, char lettera);
 
-// Each of these two belongs to the system.
+// Each of these belongs to the system.
+
+// A host path and its text in UTF-8.
+[[nodiscard]] std::filesystem::path OspiteDaUtf8(std::string_view utf8);
+[[nodiscard]] std::string Utf8DaOspite(const std::filesystem::path& ospite);
 
 // Where a path of the logic lies, whether something stands there or not; `dischi` holds the drives. Error 52.
 [[nodiscard]] std::filesystem::path PercorsoSuOspite(const std::filesystem::path& dischi, std::string_view percorso);

@@ -2,6 +2,7 @@
 
 #include <piattaforma/cartelle_utente.h>
 #include <piattaforma/file_ospite.h>
+#include <piattaforma/percorsi_ospite.h>
 #include <piattaforma/scrittura.h>
 
 #include <base/errore.h>
@@ -51,7 +52,7 @@ bool Rimesso(const fs::path& file, std::string_view contenuto) {
 Errore ConCopia(const Errore& errore, const fs::path& copia) {
   std::string perche = errore.Descrizione();
   perche += "; il vecchio contenuto è conservato in "_w;
-  return {errore.Numero(), perche + DaUtf8(copia.string())};
+  return {errore.Numero(), perche + DaUtf8(Utf8DaOspite(copia))};
 }
 
 void ScriviSulPosto(const fs::path& file, std::string_view contenuto) {

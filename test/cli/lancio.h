@@ -30,7 +30,8 @@ protected:
 
   // A file outside the drives; the answer is its path as a word of the command line.
   [[nodiscard]] std::string Metti(const std::string& nome, std::string_view byte) const {
-    return cartella.Metti("fuori/" + nome, byte).string();
+    const std::u8string utf8 = cartella.Metti("fuori/" + nome, byte).u8string();
+    return {utf8.begin(), utf8.end()};
   }
 
   CartellaProvvisoria cartella; // drives in dischi/, home in casa/, everything else in fuori/

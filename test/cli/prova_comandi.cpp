@@ -152,9 +152,10 @@ TEST_F(ProvaCli, UscitaVaNelFileEScriveSulPosto) {
   EXPECT_EQ(esito.uscita + esito.errori, "");
   EXPECT_EQ(esito.codice, 0);
   EXPECT_EQ(CartellaProvvisoria::Prendi(uscita), Lancia({"salva", file}).uscita);
-  const std::string giapponese = (cartella.Radice() / "fuori/\xE6\x97\xA5.dat").string();
+  const std::string giapponese = Metti("\xE6\x97\xA5.dat", "");
   EXPECT_EQ(Lancia({"--uscita", giapponese, "salva", file}).codice, 0) << "the result goes to any name of the host";
-  EXPECT_EQ(CartellaProvvisoria::Prendi(giapponese), CartellaProvvisoria::Prendi(uscita));
+  EXPECT_EQ(CartellaProvvisoria::Prendi(std::u8string(giapponese.begin(), giapponese.end())),
+            CartellaProvvisoria::Prendi(uscita));
 }
 
 TEST_F(ProvaCli, SenzaInstallazioneLoDiceEVaAvanti) {

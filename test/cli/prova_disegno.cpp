@@ -1,49 +1,13 @@
 #include <cli/disegno_png.h>
+#include <cli/immagine.h>
 #include <cli/lancio.h>
 
-#include <cairo.h>
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <map>
-#include <memory>
 #include <string>
 
 namespace lirmeto::prova {
-
-// A picture read back.
-class Immagine {
-public:
-  explicit Immagine(const std::string& png) : resto_(png) {
-    const auto leggi = [](void* da, unsigned char* dove, unsigned quanti) {
-      auto& resto = *static_cast<std::string_view*>(da);
-      if (resto.size() < quanti) return CAIRO_STATUS_READ_ERROR;
-      std::memcpy(dove, resto.data(), quanti);
-      resto.remove_prefix(quanti);
-      return CAIRO_STATUS_SUCCESS;
-    };
-    tela_.reset(cairo_image_surface_create_from_png_stream(leggi, &resto_));
-  }
-  [[nodiscard]] int Larga() const { return cairo_image_surface_get_width(tela_.get()); }
-  // Red, green and blue of a pixel, a byte each.
-  [[nodiscard]] std::uint32_t Tinta(int x, int y) const {
-    std::uint32_t tinta = 0;
-    const auto posto = static_cast<std::ptrdiff_t>(y) * cairo_image_surface_get_stride(tela_.get()) + x * 4L;
-    std::memcpy(&tinta, cairo_image_surface_get_data(tela_.get()) + posto, 4);
-    return tinta & 0xFFFFFF;
-  }
-  // Whether anything is painted there.
-  [[nodiscard]] bool Dipinta(int x1, int y1, int x2, int y2) const {
-    for (int y = y1; y < y2; ++y)
-      for (int x = x1; x < x2; ++x)
-        if (Tinta(x, y) != 0xFDFDFB) return true;
-    return false;
-  }
-
-private:
-  std::string_view resto_;
-  std::unique_ptr<cairo_surface_t, void (*)(cairo_surface_t*)> tela_{nullptr, cairo_surface_destroy};
-};
 
 // Five pixels a metre, the centre at 100, 50.
 TEST(DisegnoPng, OgniOperazioneAlSuoPosto) {
@@ -56,8 +20,8 @@ TEST(DisegnoPng, OgniOperazioneAlSuoPosto) {
   lista.cerchi = {{0, 0, 4, colore::Verde}, {60, 0, 4, 0}};
   lista.testi = {{-19, 0, "MMM", "", 12, 0, colore::Nero}, {15, -3, "MMM", "", 12, 900, 0}, {90, 0, "M", "", 9, 0, 0}};
   const std::string png = DisegnoPng(lista, 200, 100);
-  const Immagine immagine(png);
-  ASSERT_EQ(immagine.Larga(), 200);
+  const Immagine immagine = ImmagineDaPng(png);
+  ASSERT_EQ(immagine.larga, 200);
   EXPECT_EQ(immagine.Tinta(5, 5), 0U);
   EXPECT_EQ(immagine.Tinta(32, 5), 0xFDFDFBU) << "a dash of 24, a gap of 16";
   EXPECT_EQ(immagine.Tinta(32, 95), 0x0000FFU);

@@ -3,6 +3,7 @@
 
 #include <piattaforma/cartella_provvisoria.h>
 #include <piattaforma/disco_dischi.h>
+#include <piattaforma/trova_dischi.h>
 
 #include <base/errore.h>
 
@@ -26,7 +27,7 @@ inline int NumeroDi(const std::function<void()>& lavoro) {
 
 class ProvaDisco : public testing::Test {
 protected:
-  ProvaDisco() : disco(cartella.Radice()) {}
+  ProvaDisco() : disco(TrovaDischi(cartella.Radice())) {}
 
   CartellaProvvisoria cartella;
   DiscoDischi disco;

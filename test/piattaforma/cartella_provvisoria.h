@@ -27,7 +27,11 @@ public:
 
   [[nodiscard]] const std::filesystem::path& Radice() const { return radice_; }
 
-  // Writes a file, its folders too; the answer is where it lies.
+  // Writes a file, its folders too; the answer is where it lies. Names are UTF-8.
+  std::filesystem::path Metti(const char* nome, std::string_view byte) const { return Metti(std::string(nome), byte); }
+  std::filesystem::path Metti(const std::string& nome, std::string_view byte) const {
+    return Metti(std::filesystem::path(std::u8string(nome.begin(), nome.end())), byte);
+  }
   std::filesystem::path Metti(const std::filesystem::path& nome, std::string_view byte) const {
     std::filesystem::create_directories((radice_ / nome).parent_path());
     std::ofstream file(radice_ / nome, std::ios::binary);

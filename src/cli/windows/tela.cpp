@@ -48,6 +48,16 @@ void Prepara(Gdiplus::Pen& disegno, const Penna& penna) {
   disegno.SetDashOffset(Reale(penna.saltati / penna.larga));
 }
 
+// The family told, else the first that this system has.
+std::unique_ptr<Gdiplus::FontFamily> Famiglia(const std::wstring& detta) {
+  auto famiglia = std::make_unique<Gdiplus::FontFamily>(detta.c_str());
+  if (famiglia->IsAvailable()) return famiglia;
+  const Gdiplus::InstalledFontCollection tutte;
+  INT quante = 0;
+  tutte.GetFamilies(1, famiglia.get(), &quante);
+  return famiglia;
+}
+
 std::string Contenuto(IStream* flusso) {
   HGLOBAL memoria = nullptr;
   STATSTG dati{};
@@ -94,9 +104,8 @@ void Tela::Cerchio(double x, double y, double raggio, const Penna& penna) {
 void Tela::Testo(const std::string& utf8, const PostoTesto& posto, const CarattereTela& carattere) {
   constexpr double gradiPerMezzoGiro = 180;
   const std::wstring testo = Largo(utf8);
-  const Gdiplus::FontFamily detta(Largo(carattere.famiglia).c_str());
-  const Gdiplus::FontFamily* famiglia = detta.IsAvailable() ? &detta : Gdiplus::FontFamily::GenericSansSerif();
-  const Gdiplus::Font font(famiglia, Reale(carattere.pixel), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
+  const auto famiglia = Famiglia(Largo(carattere.famiglia));
+  const Gdiplus::Font font(famiglia.get(), Reale(carattere.pixel), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
   const Gdiplus::SolidBrush pennello(Colore(carattere.tinta));
   dentro_->disegno.TranslateTransform(Reale(posto.x), Reale(posto.y));
   dentro_->disegno.RotateTransform(Reale(posto.giro * gradiPerMezzoGiro / std::numbers::pi));

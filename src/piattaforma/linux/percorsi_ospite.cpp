@@ -49,6 +49,14 @@ fs::path Assoluto(const fs::path& ospite) {
 
 } // namespace
 
+fs::path OspiteDaUtf8(std::string_view utf8) {
+  return utf8;
+}
+
+std::string Utf8DaOspite(const fs::path& ospite) {
+  return ospite.string();
+}
+
 fs::path PercorsoSuOspite(const fs::path& dischi, std::string_view percorso) {
   const PercorsoDiviso diviso = DividiPercorso(percorso);
   fs::path ospite = diviso.lettera == 'Z' ? fs::path("/") : CartellaDisco(dischi, diviso.lettera);

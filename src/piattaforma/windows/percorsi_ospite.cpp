@@ -22,7 +22,8 @@ std::wstring NomeOspite(std::string_view nome, std::string_view percorso) {
   std::wstring largo = Largo(AUtf8(nome.substr(0, fine == nome.npos ? 0 : fine + 1)));
   const bool proibito = std::any_of(largo.begin(), largo.end(), [](wchar_t c) { return c < L' '; }) ||
                         largo.find_first_of(L"<>\"|?*") != largo.npos;
-  if (largo.empty() || proibito || NomeDiDispositivo(largo)) LanciaNome(percorso);
+  constexpr std::size_t massimo = 255; // units of UTF-16
+  if (largo.empty() || largo.size() > massimo || proibito || NomeDiDispositivo(largo)) LanciaNome(percorso);
   return largo;
 }
 
@@ -58,6 +59,14 @@ std::pair<std::string, std::size_t> Inizio(const std::wstring& pieno) {
 }
 
 } // namespace
+
+fs::path OspiteDaUtf8(std::string_view utf8) {
+  return Largo(utf8);
+}
+
+std::string Utf8DaOspite(const fs::path& ospite) {
+  return Stretto(ospite.native());
+}
 
 fs::path PercorsoSuOspite(const fs::path& dischi, std::string_view percorso) {
   const bool ospite = percorso.starts_with(DellOspite);

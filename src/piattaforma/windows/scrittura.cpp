@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <random>
+#include <vector>
 
 namespace lirmeto {
 
@@ -96,31 +97,38 @@ fs::path NomeLibero(const fs::path& cartella, std::wstring inizio) {
   return cartella / inizio;
 }
 
-// In one step, also for one that is killed meanwhile.
+// Who may do what with a file; empty where the system keeps no such list.
+std::vector<BYTE> Diritti(const std::wstring& percorso) {
+  DWORD lungo = 0;
+  ::GetFileSecurityW(percorso.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &lungo);
+  std::vector<BYTE> diritti(lungo);
+  if (lungo == 0 || ::GetFileSecurityW(percorso.c_str(), DACL_SECURITY_INFORMATION, diritti.data(), lungo, &lungo) == 0)
+    return {};
+  return diritti;
+}
+
+// Whether a new file has what the old one had but its content: who may read it, its attributes, when it was made.
+bool CopiaDiritti(const std::wstring& da, const std::wstring& a) {
+  std::vector<BYTE> diritti = Diritti(da);
+  if (diritti != Diritti(a) &&
+      (diritti.empty() || ::SetFileSecurityW(a.c_str(), DACL_SECURITY_INFORMATION, diritti.data()) == 0))
+    return false;
+  WIN32_FILE_ATTRIBUTE_DATA dati{};
+  if (::GetFileAttributesExW(da.c_str(), GetFileExInfoStandard, &dati) == 0) return false;
+  const Maniglia nuovo = ApriFile(a, FILE_WRITE_ATTRIBUTES, Tutti, OPEN_EXISTING);
+  if (!nuovo || ::SetFileTime(nuovo.Dentro(), &dati.ftCreationTime, nullptr, nullptr) == 0) return false;
+  return ::SetFileAttributesW(a.c_str(), dati.dwFileAttributes) != 0;
+}
+
+// In one step, also for one that is killed meanwhile; ReplaceFile takes the old one away first.
 bool MettiAlPosto(FileProvvisorio& nuovo, const fs::path& file) {
   const std::wstring da = PercorsoLungo(nuovo.Percorso());
   const std::wstring a = PercorsoLungo(file);
-  if (::MoveFileExW(da.c_str(), a.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) return false;
+  if (EsisteVoce(file) && !CopiaDiritti(a, da)) return false;
+  constexpr DWORD come = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+  if (!ConPazienza([&] { return ::MoveFileExW(da.c_str(), a.c_str(), come) != 0; })) return false;
   nuovo.Lascia();
   return true;
-}
-
-// As above over a file that is there: who may read it, its attributes and its further streams go over to the new one.
-bool Sostituisci(FileProvvisorio& nuovo, const fs::path& file, DWORD attributi) {
-  const std::wstring da = PercorsoLungo(nuovo.Percorso());
-  const std::wstring a = PercorsoLungo(file);
-  ::SetFileAttributesW(da.c_str(), attributi);
-  if (ConPazienza([&] { return ::ReplaceFileW(a.c_str(), da.c_str(), nullptr, 0, nullptr, nullptr) != 0; })) {
-    nuovo.Lascia();
-    return true;
-  }
-  if (EsisteVoce(file)) return false;
-  // The system took the old one away and could not put the new one there: the new one is all there is, and stays.
-  if (MettiAlPosto(nuovo, file)) return true;
-  nuovo.Lascia();
-  std::string perche = DescrizioneErrore(errore::AccessoAlFile);
-  perche += "; il nuovo contenuto è in "_w;
-  throw Errore(errore::AccessoAlFile, perche + DaUtf8(Stretto(nuovo.Percorso().native())));
 }
 
 // The same file under the name that its folder has for it: the new one must not change the spelling.
@@ -166,9 +174,8 @@ void ControllaScrittura(const fs::path& file, std::size_t byte) {
 
 bool ScriviAccanto(const fs::path& file, std::string_view contenuto) {
   const DWORD attributi = ::GetFileAttributesW(PercorsoLungo(file).c_str());
-  const bool nuovoNome = attributi == INVALID_FILE_ATTRIBUTES;
-  if (GenereOspite(file) == GenereFile::Altro) return false;
-  if (!nuovoNome && (attributi & FILE_ATTRIBUTE_REPARSE_POINT) != 0) return false;
+  const bool collegamento = attributi != INVALID_FILE_ATTRIBUTES && (attributi & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+  if (collegamento || GenereOspite(file) == GenereFile::Altro) return false;
   const auto prima = Prima(file);
   if (prima && prima->nomi > 1) return false;
   const fs::path cartella = CartellaDi(file);
@@ -176,7 +183,7 @@ bool ScriviAccanto(const fs::path& file, std::string_view contenuto) {
   FileProvvisorio nuovo(NomeLibero(cartella, L".lirmeto."));
   if (!nuovo.CE()) return false;
   nuovo.Riempi(contenuto);
-  return nuovoNome ? MettiAlPosto(nuovo, file) : Sostituisci(nuovo, file, attributi);
+  return MettiAlPosto(nuovo, file);
 }
 
 void Riscrivi(const fs::path& file, std::string_view contenuto) {

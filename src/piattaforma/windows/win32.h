@@ -64,8 +64,7 @@ template <typename Prova>
   for (int volta = 1;; ++volta) {
     if (prova()) return true;
     const DWORD codice = ::GetLastError();
-    const bool occupato = codice == ERROR_SHARING_VIOLATION || codice == ERROR_LOCK_VIOLATION ||
-                          codice == ERROR_UNABLE_TO_REMOVE_REPLACED;
+    const bool occupato = codice == ERROR_SHARING_VIOLATION || codice == ERROR_LOCK_VIOLATION;
     if (!occupato || volta == volte) return false;
     ::Sleep(pausa);
     ::SetLastError(codice);

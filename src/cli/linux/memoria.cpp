@@ -5,9 +5,6 @@
 
 #include <cstdlib>
 #include <new>
-
-#if defined(__linux__)
-
 #include <sys/mman.h>
 
 namespace {
@@ -36,5 +33,3 @@ void operator delete(void* blocco) noexcept {
 void operator delete(void* blocco, std::size_t) noexcept {
   std::free(blocco);
 }
-
-#endif
