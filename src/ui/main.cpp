@@ -15,6 +15,7 @@
 #include <core/mostra_errore.h>
 #include <piattaforma/canali.h>
 #include <piattaforma/orologi.h>
+#include <piattaforma/percorsi_ospite.h>
 #include <piattaforma/processi_ospite.h>
 #include <piattaforma/trova_dischi.h>
 
@@ -50,7 +51,8 @@ Opzioni LeggiOpzioni(const QApplication& applicazione) {
                                 QStringLiteral("['FILE|COMANDO|PARAMETRO']"));
   lettore.process(applicazione);
   Opzioni opzioni;
-  if (lettore.isSet(QStringLiteral("dischi"))) opzioni.dischi = lettore.value(QStringLiteral("dischi")).toStdString();
+  if (lettore.isSet(QStringLiteral("dischi")))
+    opzioni.dischi = OspiteDaUtf8(lettore.value(QStringLiteral("dischi")).toStdString());
   if (lettore.isSet(QStringLiteral("disegno"))) opzioni.disegno = lettore.value(QStringLiteral("disegno"));
   opzioni.comando = lettore.positionalArguments().join(u' ');
   return opzioni;

@@ -93,8 +93,10 @@ QColor ColoreTrovato() {
 }
 
 QIcon Icona(const QString& nome) {
-  const QString percorso = QStringLiteral(":/icone/%1.svg").arg(nome);
-  return QFile::exists(percorso) ? QIcon(new DisegnatoreIcona(percorso)) : QIcon();
+  const QString percorso = QStringLiteral(":/icone/%1").arg(nome);
+  const bool disegnata =
+      QFile::exists(percorso + QStringLiteral(".svg")) || QFile::exists(percorso + QStringLiteral(".png"));
+  return disegnata ? QIcon(new DisegnatoreIcona(percorso)) : QIcon();
 }
 
 QString NomeIconaPulsante(int indice) {

@@ -17,16 +17,21 @@ namespace lirmeto::ui {
 
 namespace {
 
-QPixmap Disegna(const QString& percorso, const QSize& misura, bool scuro) {
-  QFile file(percorso);
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  QByteArray svg = file.readAll();
+QPixmap DisegnaSvg(QByteArray svg, int lato, bool scuro) {
   if (scuro) svg = IconaScura(svg);
   QBuffer testo(&svg);
   QImageReader lettore(&testo, "svg");
-  const int lato = std::min(misura.width(), misura.height());
   lettore.setScaledSize(QSize(lato, lato));
   return QPixmap::fromImage(lettore.read());
+}
+
+// Where the toolkit reads no SVG the build has made large pictures of them, one for each light.
+QPixmap Disegna(const QString& percorso, const QSize& misura, bool scuro) {
+  const int lato = std::min(misura.width(), misura.height());
+  QFile file(percorso + QStringLiteral(".svg"));
+  if (file.open(QIODevice::ReadOnly)) return DisegnaSvg(file.readAll(), lato, scuro);
+  const QImage figura(percorso + (scuro ? QStringLiteral("_scura.png") : QStringLiteral(".png")));
+  return QPixmap::fromImage(figura.scaled(lato, lato, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
 } // namespace

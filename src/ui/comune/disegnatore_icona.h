@@ -15,7 +15,7 @@ public:
   [[nodiscard]] QIconEngine* clone() const override { return new DisegnatoreIcona(percorso_); }
 
 private:
-  QString percorso_; // of an SVG
+  QString percorso_; // without its extension
 };
 
 } // namespace lirmeto::ui

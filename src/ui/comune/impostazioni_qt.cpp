@@ -4,6 +4,8 @@
 
 #include <base/dialoghi.h>
 
+#include <QOperatingSystemVersion>
+
 namespace lirmeto::ui {
 
 namespace {
@@ -14,10 +16,16 @@ QString Nome(std::string_view sezione, std::string_view chiave) {
   return pulito(sezione) + u'/' + pulito(chiave);
 }
 
+// The registry where there is one, HKEY_CURRENT_USER\Software\Lirmeto\Lirmeto; elsewhere a text file.
+QSettings::Format Formato() {
+  const bool registro = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows;
+  return registro ? QSettings::NativeFormat : QSettings::IniFormat;
+}
+
 } // namespace
 
 ImpostazioniQt::ImpostazioniQt()
-    : archivio_(QSettings::IniFormat, QSettings::UserScope, AQString(TitoloProgramma), AQString(TitoloProgramma)) {}
+    : archivio_(Formato(), QSettings::UserScope, AQString(TitoloProgramma), AQString(TitoloProgramma)) {}
 
 ImpostazioniQt::ImpostazioniQt(const QString& file) : archivio_(file, QSettings::IniFormat) {}
 

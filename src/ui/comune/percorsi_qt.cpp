@@ -2,7 +2,9 @@
 
 #include <ui/comune/testo_qt.h>
 
+#include <base/testo.h>
 #include <core/mostra_errore.h>
+#include <piattaforma/percorsi_ospite.h>
 
 namespace lirmeto::ui {
 
@@ -16,16 +18,20 @@ bool HaUnita(const QString& percorso) {
 } // namespace
 
 Percorsi PercorsiDi(const DiscoDischi& disco) {
-  return {
-      [&disco](std::string_view percorso) { return QString::fromStdString(disco.PercorsoOspite(percorso).string()); },
-      [](const QString& ospite) { return PercorsoDaOspite(ospite.toStdString()); }};
+  return {[&disco](std::string_view percorso) {
+            return QString::fromStdString(Utf8DaOspite(disco.PercorsoOspite(percorso)));
+          },
+          [](const QString& ospite) { return PercorsoDaOspite(OspiteDaUtf8(ospite.toStdString())); }};
 }
 
 std::function<std::string(const QString&)> PercorsoDetto(Ambiente& ambiente) {
   return [&ambiente](const QString& percorso) {
     std::string detto;
-    (void)Intrappola(
-        ambiente, [&] { detto = HaUnita(percorso) ? DaQString(percorso) : PercorsoDaOspite(percorso.toStdString()); });
+    (void)Intrappola(ambiente, [&] {
+      const std::string utf8 = percorso.toStdString();
+      const bool siDice = HaUnita(percorso) && RappresentabileDaUtf8(utf8);
+      detto = siDice ? DaUtf8(utf8) : PercorsoDaOspite(OspiteDaUtf8(utf8));
+    });
     return detto;
   };
 }
