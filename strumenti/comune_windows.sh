@@ -82,6 +82,18 @@ libreria_opzioni() {
   cp -r /usr/share/cmake/CLI11 "$LIBRERIE/share/cmake/"
 }
 
+# What the windows need of Qt; its tools are those of this system. Tablets are off because their header is not in that source.
+libreria_qt() {
+  local spente=()
+  scarica_sorgente qt6-base || return 1
+  for voce in sql network dbus opengl dynamicgl vulkan direct2d xml testlib concurrent tabletevent; do
+    spente+=("-DFEATURE_$voce=OFF")
+  done
+  cmake_cross qt "$SORGENTI/qt6-base" "${spente[@]}" -DBUILD_SHARED_LIBS=ON -DQT_HOST_PATH=/usr \
+    -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF &&
+    cmake --build "$WINDOWS/qt" --parallel "$(nproc)" && cmake --install "$WINDOWS/qt" --strip
+}
+
 # libreria NOME: makes it once; the output goes to a log, its end to the terminal when it fails.
 libreria() {
   local nome=$1 inizio=$SECONDS
