@@ -74,7 +74,8 @@ int Fotografa(const Richiesta& chiesto) {
   Ambiente ambiente{sessione, disco, dialoghi, finestre, processi, impostazioni, appunti, orologio};
   KR_LibrettoOriginale modello(ambiente);
   const bool conUnita = chiesto.file.mid(1, 2) == QLatin1String(":\\");
-  const std::string file = conUnita ? ui::DaQString(chiesto.file) : PercorsoDaOspite(OspiteDaUtf8(chiesto.file.toStdString()));
+  const std::string file =
+      conUnita ? ui::DaQString(chiesto.file) : PercorsoDaOspite(OspiteDaUtf8(chiesto.file.toStdString()));
   Fotografo fotografo(modello, ambiente, chiesto.uscita, chiesto.massima);
   if (chiesto.genere == Genere::Disegno)
     return (FinisceConSenzaCaso(file, ".LXC") ? fotografo.LibrettoDisegno(file) : fotografo.Disegno(file)) ? 0 : 1;

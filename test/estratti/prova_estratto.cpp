@@ -192,7 +192,7 @@ std::string AnelloDi(std::size_t campi) {
 struct CasoGuasto {
   std::string nome;
   std::string file;
-  int errore;        // 0: read and saved
+  int errore;             // 0: read and saved
   std::string_view detto; // part of the report
 };
 
