@@ -1,13 +1,12 @@
 #include <applicazione/autore.h>
 
-#include <applicazione/avvio.h>
+#include <applicazione/versione.h>
 #include <core/cartelle.h>
 
 namespace lirmeto {
 
 std::vector<std::string> DatiProgramma() {
-  return {std::string(TitoloProgramma) + " - Libretto delle Misure",
-          "Versione " + std::string(NumeroMaggiore) + "." + std::string(NumeroRevisione),
+  return {std::string(TitoloProgramma) + " - Libretto delle Misure", "Versione " + std::string(VersioneProgramma),
           "Autore: gli Autori di " + std::string(TitoloProgramma),
           "I nomi di prodotti citati sono marchi dei rispettivi titolari"};
 }

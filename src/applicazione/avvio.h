@@ -3,12 +3,7 @@
 
 #include <core/ambiente.h>
 
-#include <string_view>
-
 namespace lirmeto {
-
-inline constexpr std::string_view NumeroMaggiore = "6";
-inline constexpr std::string_view NumeroRevisione = "1";
 
 // The session's folders; with a window it also tells them to the sibling
 // programs.

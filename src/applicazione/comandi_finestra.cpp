@@ -126,12 +126,14 @@ void KR_LibrettoOriginale::Esegui(Comando comando) {
   if (EseguiFile(comando)) return;
   if (comando == Comando::MostraRigheScartate) return MostraScartate();
   if (EseguiVerifiche(comando)) return;
+  const bool censuario = comando == Comando::ModelloCensuario;
   if (comando == Comando::EsportaLibretto || comando == Comando::SalvaLibretto) ContaErrori();
   Comanda(DidascaliaDi(comando), [&] {
     if (EseguiDa(Selezioni, comando, ambiente_)) return DiciSelezione(comando);
     if (const Tipologia* tipologia = TrovaTipologia(comando)) return EseguiTipologia(ambiente_, *tipologia);
     if (!EseguiDa(Comandi, comando, ambiente_) && !EseguiConForm(comando)) EseguiAltri(comando);
   });
+  if (censuario) ContaErrori(); // with what the workbench wrote
 }
 
 // Runs a command and keeps what it did to the rows. The notice of dropped rows stays until the rows change again.
@@ -149,6 +151,7 @@ void KR_LibrettoOriginale::Comanda(std::string_view nome, const std::function<vo
   RimettiScelta(scelta, cambiate);
   if (!cambiate && sessione.RigheScartate.empty()) sessione.RigheScartate = std::move(scartatePrima);
   AvvisoScartate = AvvisoRigheScartate(sessione);
+  if (sessione.FineScambio) Finita = true;
 }
 
 // One step back or forth.

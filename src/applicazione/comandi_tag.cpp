@@ -98,7 +98,8 @@ DopoComando LibrettoDaDisegno(Ambiente& ambiente) {
   if (ambiente.sessione.EsitoForm < 0) return DopoComando::Finisce;
   ambiente.sessione.EsitoForm = EsitoAnnullato;
   ApriForm(ambiente, forma::LibrettoDaDisegno);
-  if (ambiente.sessione.EsitoForm == EsitoConfermato) return DopoComando::Finisce; // made, and written
+  const bool fatto = ambiente.sessione.EsitoForm == EsitoConfermato; // made, and written
+  if (fatto || ambiente.sessione.FineScambio) return DopoComando::Finisce;
   ambiente.sessione.NomeFileLibretto = PercorsoLibretto(ambiente.sessione.NomeFileLibretto);
   return DopoComando::FinestraPrincipale;
 }

@@ -17,7 +17,8 @@ namespace lirmeto {
 
 // What could be done in more than one way:
 //
-//   a file chosen in a dialog        takes the road of one that is dropped on the rows, with its question
+//   a file chosen in a dialog        takes the road of one that is dropped, with its question
+//   a file dropped beside the rows   an extract is imported, a libretto opened; the rows take libretti alone
 //   a file that is not there         is told, and nothing changes; among the last files it leaves their list
 //   where the dialog opens           the folder of the open libretto, or of the last file, or "c:\"
 //   a command handed over            runs here: its file, when it names one, is opened first, if the user says so
@@ -94,17 +95,18 @@ void KR_LibrettoOriginale::RicordaRecente(const std::string& percorso) {
 }
 
 void KR_LibrettoOriginale::Trascina(const std::string& percorso) {
+  if (EstensioneLibretto(percorso)) return TrascinaAccanto(percorso);
+  ambiente_.dialoghi.Messaggio(FinisceConSenzaCaso(percorso, ".DXF") ? "Processo non attivo!"
+                                                                     : "Ammessi file di Testo: .TXT, .DAT, .LXB, .PDF");
+}
+
+void KR_LibrettoOriginale::TrascinaAccanto(const std::string& percorso) {
   PrendiFile("Trascina Libretto", percorso);
 }
 
 void KR_LibrettoOriginale::PrendiFile(std::string_view comando, const std::string& percorso) {
-  if (EstensioneLibretto(percorso)) {
-    if (ConsenteDiSostituire(comando)) PrendiLibretto(comando, percorso);
-    return;
-  }
-  if (EstensioneEstratto(percorso) && !FinisceConSenzaCaso(percorso, ".DXF")) return PrendiEstratto(percorso);
-  ambiente_.dialoghi.Messaggio(FinisceConSenzaCaso(percorso, ".DXF") ? "Processo non attivo!"
-                                                                     : "Ammessi file di Testo: .TXT, .DAT, .LXB, .PDF");
+  if (!EstensioneLibretto(percorso)) return PrendiEstratto(percorso);
+  if (ConsenteDiSostituire(comando)) PrendiLibretto(comando, percorso);
 }
 
 bool KR_LibrettoOriginale::ConsenteDiSostituire(std::string_view titolo) {

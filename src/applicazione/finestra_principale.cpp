@@ -5,6 +5,7 @@
 #include <applicazione/comandi_tag.h>
 #include <applicazione/consegna.h>
 #include <applicazione/libretti_recenti.h>
+#include <applicazione/versione.h>
 #include <base/numeri.h>
 #include <base/percorsi.h>
 #include <base/testo.h>
@@ -101,12 +102,12 @@ bool KR_LibrettoOriginale::Avvia(const std::string& comandoAvvio) {
 
 bool KR_LibrettoOriginale::Carica(const std::string& comandoAvvio) {
   Sessione& sessione = ambiente_.sessione;
-  Titolo = "Lirmeto V. 2022 - " + std::string(NumeroRevisione);
+  Titolo = "Lirmeto V. " + std::string(VersioneProgramma);
   CaricaInstallazione(ambiente_);
   CreaCartelle(ambiente_);
   Prova([&] {
     ambiente_.disco.Scrivi(sessione.CartellaProgramma + "\\VersioneLirmeto.TXT",
-                           "Ver 6.00 " + std::string(NumeroMaggiore) + "." + std::string(NumeroRevisione) + "\r\n");
+                           "Ver 6.00 " + std::string(VersioneProgramma) + "\r\n");
   });
   (void)PrendiConsegne(ambiente_); // of starts before this one
   DatiTecnico delFile;
@@ -135,7 +136,7 @@ bool KR_LibrettoOriginale::ApriDaComando(const std::string& comandoAvvio, DatiTe
   if (!sessione.NomeFileLibretto.empty()) {
     RicordaRecente(PercorsoInCapitali(ambiente_.disco, Sostituisci(comandoAvvio, "\"", "")));
   }
-  return resta;
+  return resta && !sessione.FineScambio;
 }
 
 // What follows once it is known that the window comes up.
@@ -197,9 +198,9 @@ void KR_LibrettoOriginale::Attivazione(bool minimizzata) {
 void KR_LibrettoOriginale::Righe_Indice() {
   Sessione& sessione = ambiente_.sessione;
   sessione.PuntoErrore = "1134";
-  Titolo = "Lirmeto V 5.00 - L'Evoluzione - Libretto Misure : [" + sessione.Protocollo + " " + sessione.DataLibretto +
-           "] [CF Comune : " + sessione.CodiceComune + " - " + sessione.NomeComune +
-           "] [Provincia : " + sessione.NomeProvincia + "]";
+  Titolo = "Lirmeto V " + std::string(VersioneProgramma) + " - L'Evoluzione - Libretto Misure : [" +
+           sessione.Protocollo + " " + sessione.DataLibretto + "] [CF Comune : " + sessione.CodiceComune + " - " +
+           sessione.NomeComune + "] [Provincia : " + sessione.NomeProvincia + "]";
   sessione.EtichettaPosizione =
       TestoIntero(sessione.List1.Indice() + 1) + "/" + TestoIntero(static_cast<long long>(sessione.List1.Quante()));
   PannelloStrumenti = false;

@@ -95,6 +95,8 @@ public:
   // A text typed into a box of the row's fields.
   void CambiaCampo(std::size_t riga, std::size_t campo, std::string_view testo);
   void Trascina(const std::string& percorso);
+  // A file dropped elsewhere on the window.
+  void TrascinaAccanto(const std::string& percorso);
   // One of the files opened last, by its place among them.
   void ApriRecente(std::size_t indice);
 

@@ -107,7 +107,8 @@ std::optional<PosizioneForm> KR_LibrettoOriginale::PostoSalvato() const {
 void KR_LibrettoOriginale::Chiusura(const PosizioneForm& posizione) {
   ambiente_.sessione.Ditta = Maiuscolo(CasellaDitta);
   ScriviPosizione(ambiente_.impostazioni, NomeForm, posizione);
-  Finita = false;
+  Finita = ambiente_.sessione.FineScambio; // it leaves everything as it was
+  if (Finita) return;
   Prova([&] { Finita = !DaSalvare(); });
   if (Finita) return;
   Prova([&] { AggiornaLibrettoMisure(ambiente_); });

@@ -62,9 +62,9 @@ public:
   // bytes. A folder that is not there has none.
   [[nodiscard]] virtual std::vector<std::string> Elenca(std::string_view cartella,
                                                         std::string_view estensione) const = 0;
-  // From now on, until told otherwise, folders that are looked into are remembered, so that many new names in one
-  // folder do not have it read for each of them. For a command that writes many files: what other programs do meanwhile
-  // is not seen. A disk that has nothing to remember does nothing.
+  // From now on, until told otherwise, folders that are looked into are remembered, so that many new names in one folder
+  // do not have it read for each, and new files need not be on the disk at once. For a command that writes many files
+  // and can be run again: what other programs do meanwhile is not seen. A disk with nothing to remember does nothing.
   virtual void RicordaCartelle(bool /*si*/) {}
 };
 

@@ -1,5 +1,6 @@
 #include <cli/comandi.h>
 
+#include <applicazione/comandi.h>
 #include <base/errore.h>
 #include <base/percorsi.h>
 #include <base/testo.h>
@@ -15,6 +16,23 @@ namespace {
 
 std::string ComandoCodiceFiscale(Ambiente& /*ambiente*/, const std::vector<std::string>& argomenti) {
   return std::string(ControllaCodiceFiscale(argomenti[0])) + "\n";
+}
+
+// Every entry of the main window: where it stands TAB its caption TAB what it does, UTF-8.
+std::string ComandoVoci(Ambiente& /*ambiente*/, const std::vector<std::string>& /*argomenti*/) {
+  std::string uscita;
+  const auto voce = [&uscita](std::string_view dove, std::string_view didascalia, Comando comando) {
+    if (didascalia == Separatore) return;
+    const std::string_view nome = didascalia.empty() ? std::string_view("(figura)") : didascalia;
+    for (const std::string_view parte :
+         {dove, std::string_view("\t"), nome, std::string_view("\t"), EffettoDi(comando)})
+      uscita += AUtf8(parte);
+    uscita += '\n';
+  };
+  for (const VoceMenu& una : VociMenu()) voce(una.menu, una.didascalia, una.comando);
+  for (const Pulsante& uno : Pulsanti()) voce("pulsante", uno.didascalia, uno.comando);
+  for (const Strumento& uno : Strumenti()) voce(DidascaliaDi(Comando::UtilitaCatastali), uno.didascalia, uno.comando);
+  return uscita;
 }
 
 // An archive of the files given, each under its own name, in the place of one that is there. Two files of one name
@@ -34,8 +52,9 @@ std::string ComandoZipCrea(Ambiente& ambiente, const std::vector<std::string>& a
   return {};
 }
 
+// What did not come out was named; the exit code says that there was something.
 std::string ComandoZipEstrai(Ambiente& ambiente, const std::vector<std::string>& argomenti) {
-  Esplodi_ZIP(ambiente, argomenti[0], argomenti[1]);
+  if (!Esplodi_ZIP(ambiente, argomenti[0], argomenti[1])) throw Errore(errore::DialogoAnnullato);
   return {};
 }
 
@@ -47,8 +66,9 @@ constexpr ArgomentoCli DaCreare[] = {{"ARCHIVIO", GenereArgomento::Percorso, "ar
 constexpr ArgomentoCli DaEstrarre[] = {{"ARCHIVIO", GenereArgomento::File, "archivio da aprire"},
                                        {"CARTELLA", GenereArgomento::Percorso, "dove vanno i file; se manca si crea"}};
 
-constexpr std::array<ComandoCli, 1> Comandi = {{
+constexpr std::array<ComandoCli, 2> Comandi = {{
     {"codice-fiscale", "CORRETTO o ERRATO", Codice, ComandoCodiceFiscale},
+    {"voci", "le voci della finestra principale: dove, voce, che cosa fa", {}, ComandoVoci},
 }};
 
 constexpr std::array<ComandoCli, 2> Zip = {{

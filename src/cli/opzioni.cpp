@@ -2,7 +2,7 @@
 
 #include <cli/console.h>
 
-#include <applicazione/avvio.h>
+#include <applicazione/versione.h>
 #include <base/testo.h>
 #include <piattaforma/file_ospite.h>
 #include <piattaforma/percorsi_ospite.h>
@@ -71,7 +71,7 @@ void Etichette(CLI::App& app) {
 }
 
 std::string Versione() {
-  return "lirmeto-cli " + std::string(NumeroMaggiore) + "." + std::string(NumeroRevisione);
+  return "lirmeto-cli " + std::string(VersioneProgramma);
 }
 
 void AggiungiOpzioni(CLI::App& app, Scritte& scritte) {

@@ -1,5 +1,6 @@
 #include <core/programmi.h>
 
+#include <base/errore.h>
 #include <base/percorsi.h>
 #include <base/testo.h>
 
@@ -16,6 +17,15 @@ int AttendiProgramma(Ambiente& ambiente, const std::string& programma, const std
   };
   const Fine fine{ambiente.dialoghi};
   return ambiente.processi.AvviaEAttendi(programma, argomenti, [&] { return ambiente.dialoghi.Attesa(cosa); });
+}
+
+void ApriDocumentoODillo(Ambiente& ambiente, const std::string& percorso) {
+  try {
+    ambiente.processi.ApriDocumento(percorso);
+  } catch (const Errore& guasto) {
+    if (guasto.Numero() != errore::AccessoAlFile) throw;
+    ambiente.dialoghi.Messaggio("Nessun programma installato apre il file" + std::string(FineRiga) + percorso);
+  }
 }
 
 void TerminaProcesso(Ambiente& ambiente, std::string_view immagine) {

@@ -13,6 +13,10 @@ namespace lirmeto {
 // answer is the program's exit code.
 int AttendiProgramma(Ambiente& ambiente, const std::string& programma, const std::vector<std::string>& argomenti);
 
+// Opens a document with the program that the desktop has for it. Where there is none that is said in a sentence, with
+// the path: the document is there all the same.
+void ApriDocumentoODillo(Ambiente& ambiente, const std::string& percorso);
+
 // Ends every process of that name; tells of it only if the last end failed.
 void TerminaProcesso(Ambiente& ambiente, std::string_view immagine);
 

@@ -125,6 +125,7 @@ struct Sessione {
   std::string ComandoTag;          // command line, later the current tag command
   std::string UltimaTag;
   std::string ParametroTag;
+  bool FineScambio = false; // the drawing is copied and the program was started for that alone: it ends, saving nothing
 
   // The last trapped error and where it happened.
   std::string PuntoErrore;

@@ -6,6 +6,8 @@
 
 #include <base/testo.h>
 #include <core/mostra_errore.h>
+#include <core/programmi.h>
+#include <grafica/file_esportati.h>
 #include <supporto/stampa_generale.h>
 
 #include <array>
@@ -105,6 +107,7 @@ void KR_ElcoPFGrafica::CopiaInFilePF() {
   ambiente_.disco.Scrivi(cartella + "CopiaInFile.txt", TestoScambioPF(Punti, Segmenti));
   ambiente_.disco.Scrivi(cartella + "EseguiIncollaDaFile.TXT", "EseguiIncolaDaFile" + std::string(FineRiga));
   ambiente_.dialoghi.Messaggio("PF copiati!", "Copia PF in Disegno");
+  ambiente_.sessione.FineScambio = SoloPerScambio(ambiente_);
 }
 
 void KR_ElcoPFGrafica::ElcoPF_SalvaDXF() {
@@ -112,7 +115,7 @@ void KR_ElcoPFGrafica::ElcoPF_SalvaDXF() {
   ambiente_.disco.Scrivi(file, TestoDxfPF(Punti, Segmenti));
   ambiente_.dialoghi.Messaggio("Salvato il file " + file, "Salva in DXF");
   if (ambiente_.dialoghi.Chiedi("Aprire il file DXF ?", "Apertura file DXF ", Bottoni::SiNo) == Risposta::Si)
-    ambiente_.processi.ApriDocumento(file);
+    ApriDocumentoODillo(ambiente_, file);
 }
 
 void KR_ElcoPFGrafica::AnteprimaStampapf() {

@@ -54,7 +54,7 @@ void Grafica::Toolbar(int indice) {
     case 1:
       return KR_CopiaImmagineGrafica();
     case 3:
-      return static_cast<void>(KR_CopiaInFile());
+      return CopiaInFileEDillo();
     case 4:
       return SalvaDXFEApri();
     case 5:
@@ -89,7 +89,7 @@ void Grafica::mnuZoom1(int indice) {
     case 3:
       return KR_Stampa();
     case 4:
-      return static_cast<void>(KR_CopiaInFile());
+      return CopiaInFileEDillo();
     case 5:
       return SalvaDXFEApri();
     case 6:
@@ -119,7 +119,14 @@ void Grafica::SalvaDXFEApri() {
   const std::string file = KR_SalvaDXF();
   ambiente_.dialoghi.Messaggio("Salvato il file " + std::string(FineRiga) + file, "Salva in DXF");
   if (ambiente_.dialoghi.Chiedi("Aprire il file DXF ?", "Apertura file DXF ", Bottoni::SiNo) == Risposta::Si)
-    ambiente_.processi.ApriDocumento(file);
+    ApriDocumentoODillo(ambiente_, file);
+}
+
+// Nobody is told who only hands over the drawing.
+void Grafica::CopiaInFileEDillo() {
+  const std::string file = KR_CopiaInFile();
+  if (ambiente_.sessione.FineScambio) return;
+  ambiente_.dialoghi.Messaggio("Salvato il file " + std::string(FineRiga) + file, "Copia in file");
 }
 
 void Grafica::StampaConProgramma() {

@@ -2,6 +2,7 @@
 
 #include <base/numeri.h>
 #include <base/testo.h>
+#include <core/programmi.h>
 #include <grafica/esportazioni.h>
 #include <grafica/scambio.h>
 
@@ -33,7 +34,7 @@ std::string ScriviPagina(Ambiente& ambiente, const DisegnoCondiviso& disegno) {
   ambiente.sessione.PuntoErrore = "GeneraHTML5_CANVAS";
   std::string percorso = NelProgramma(ambiente, "Stampe.HTML");
   ambiente.disco.Scrivi(percorso, TestoPagina(disegno.archivio, disegno.vista));
-  ambiente.processi.ApriDocumento(percorso);
+  ApriDocumentoODillo(ambiente, percorso);
   return percorso;
 }
 

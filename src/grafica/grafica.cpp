@@ -230,7 +230,7 @@ std::string Grafica::GeneraStampa() {
 
 std::string Grafica::KR_CopiaInFile() {
   std::string percorso = ScriviScambio(ambiente_, disegno_);
-  fineProgramma_ = SoloPerScambio(ambiente_);
+  ambiente_.sessione.FineScambio = SoloPerScambio(ambiente_);
   return percorso;
 }
 

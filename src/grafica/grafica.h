@@ -131,10 +131,9 @@ public:
   std::string GeneraHTML5_CANVAS();
   std::string GeneraStampa();
   std::string KR_CopiaInFile();
-  // Set when the exchange file was all that the program was started for: it ends then.
-  [[nodiscard]] bool FineProgramma() const { return fineProgramma_; }
 
 private:
+  void CopiaInFileEDillo();
   void SalvaDXFEApri();
   void StampaConProgramma();
   void Prova(std::string_view punto, const std::function<void()>& comando);
@@ -149,7 +148,6 @@ private:
   StrumentiMouse mouse_;
   Righello metro_;
   ListeGrafica liste_;
-  bool fineProgramma_ = false;
 };
 
 } // namespace lirmeto

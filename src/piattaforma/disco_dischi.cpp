@@ -27,7 +27,21 @@ bool SePossibile(const Domanda& domanda) {
 } // namespace
 
 fs::path DiscoDischi::PercorsoOspite(std::string_view percorso) const {
-  return PercorsoSuOspite(dischi_, percorso);
+  return PercorsoSuOspite(dischi_, percorso, ricordate_ ? &*ricordate_ : nullptr);
+}
+
+void DiscoDischi::RicordaCartelle(bool si) {
+  ricordate_.reset();
+  if (si) ricordate_.emplace();
+}
+
+// What has just been made, where its folder is remembered.
+void DiscoDischi::Annota(const fs::path& voce) {
+  if (!ricordate_) return;
+  const auto cartella = ricordate_->find(voce.parent_path().string());
+  const std::string utf8 = voce.filename().string();
+  const auto nome = NomeDaOspite(utf8);
+  if (cartella != ricordate_->end() && nome) cartella->second.try_emplace(Maiuscolo(*nome), utf8);
 }
 
 bool DiscoDischi::Esiste(std::string_view percorso) const {
@@ -54,7 +68,8 @@ void DiscoDischi::Scrivi(std::string_view percorso, std::string_view contenuto) 
   const fs::path ospite = PercorsoOspite(percorso);
   const GenereFile genere = GenereOspite(ospite);
   if (genere != GenereFile::Niente && genere != GenereFile::Regolare) throw Errore(errore::AccessoAlFile);
-  ScriviFileOspite(ospite, contenuto);
+  ScriviFileOspite(ospite, contenuto, !ricordate_);
+  Annota(ospite);
 }
 
 Istante DiscoDischi::Modificato(std::string_view percorso) const {
@@ -65,6 +80,7 @@ void DiscoDischi::CreaCartella(std::string_view percorso) {
   const fs::path ospite = PercorsoOspite(percorso);
   if (EsisteVoce(ospite)) throw Errore(errore::AccessoAlFile);
   CreaCartellaOspite(ospite);
+  Annota(ospite);
 }
 
 void DiscoDischi::Copia(std::string_view da, std::string_view a) {

@@ -1,9 +1,12 @@
 #pragma once
 // The drives of the logic as folders of the host.
 
+#include <piattaforma/percorsi_ospite.h>
+
 #include <base/macchina.h>
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +15,7 @@ namespace lirmeto {
 
 // A Disco over a folder that has one subfolder per drive letter: "c", "C", or "c:" as a Wine prefix names them. "Z:" is
 // always the host's own, on Linux its root. A name that Windows-1252 cannot say, or that holds "\" or ":", does not exist
-// here. Nothing is remembered between two calls: other programs work on the same folders.
+// here. Nothing is remembered between two calls, unless it is asked for: other programs work on the same folders.
 //   legal:   "C:\pregeo\x.dat", "c:/pregeo//x.dat", "Z:\home\ada\x.dat", "C:" (the drive's root)
 //   illegal: "pregeo\x.dat", "\pregeo", "C:x.dat", "C:\a\..\b", "C:\a:b" (error 52)
 //
@@ -40,8 +43,13 @@ public:
 
   [[nodiscard]] const std::filesystem::path& Dischi() const { return dischi_; }
 
+  void RicordaCartelle(bool si) override;
+
 private:
+  void Annota(const std::filesystem::path& voce);
+
   std::filesystem::path dischi_;
+  mutable std::optional<CartelleRicordate> ricordate_; // none: nothing is remembered
 };
 
 // A path of the host, made absolute, as the logic says it: "Z:\..." on Linux, as it is on Windows, or "\\?\D:\..." beside a

@@ -29,7 +29,9 @@ inline constexpr std::size_t FileIntero = std::numeric_limits<std::size_t>::max(
 // owner, rights and further names stay. Where no new file can take the old one's place it is written in place, with a
 // copy of the old content kept until the new one is known good. Errors: 61 no room; 70 not allowed; 75 a folder, or no
 // write permission for anybody; 76 its folder is not there.
-void ScriviFileOspite(const std::filesystem::path& file, std::string_view contenuto);
+// `sicuro`: it is on the disk when this returns, whatever happens to the machine. Without it a new file of many is written
+// far quicker; one in the place of another is always safe.
+void ScriviFileOspite(const std::filesystem::path& file, std::string_view contenuto, bool sicuro = true);
 
 // When it was last written, local time. Error 53 not there.
 [[nodiscard]] Istante ModificatoOspite(const std::filesystem::path& file);

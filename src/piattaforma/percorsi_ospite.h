@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace lirmeto {
@@ -13,6 +14,9 @@ struct PercorsoDiviso {
   char lettera = 'C'; // of the drive, upper case
   std::vector<std::string_view> componenti;
 };
+
+// Folders by their path: the names of their entries in capitals, and as the host spells them.
+using CartelleRicordate = std::unordered_map<std::string, std::unordered_map<std::string, std::string>>;
 
 // Error 52 with the name that cannot be.
 [[noreturn]] void LanciaNome(std::string_view nome);
@@ -36,8 +40,11 @@ struct PercorsoDiviso {
 [[nodiscard]] std::filesystem::path OspiteDaUtf8(std::string_view utf8);
 [[nodiscard]] std::string Utf8DaOspite(const std::filesystem::path& ospite);
 
-// Where a path of the logic lies, whether something stands there or not; `dischi` holds the drives. Error 52.
-[[nodiscard]] std::filesystem::path PercorsoSuOspite(const std::filesystem::path& dischi, std::string_view percorso);
+// Where a path of the logic lies, whether something stands there or not; `dischi` holds the drives. A folder that stands
+// in `ricordate` is not looked into again, and one that had to be stands there afterwards; a system that tells no
+// spellings apart looks into none. Error 52.
+[[nodiscard]] std::filesystem::path PercorsoSuOspite(const std::filesystem::path& dischi, std::string_view percorso,
+                                                     CartelleRicordate* ricordate = nullptr);
 
 // Whether two host paths lead to the same place, or would once something stands there.
 [[nodiscard]] bool StessoPercorso(const std::filesystem::path& primo, const std::filesystem::path& secondo);

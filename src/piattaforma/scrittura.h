@@ -14,7 +14,8 @@ namespace lirmeto {
 void ControllaScrittura(const std::filesystem::path& file, std::size_t byte);
 
 // Whether the file was written beside and put in its place; false where that is not possible, and then nothing happened.
-[[nodiscard]] bool ScriviAccanto(const std::filesystem::path& file, std::string_view contenuto);
+// `sicuro` as in ScriviFileOspite.
+[[nodiscard]] bool ScriviAccanto(const std::filesystem::path& file, std::string_view contenuto, bool sicuro);
 
 // In its place, from the first byte to the last; what the file had more of goes at the end.
 void Riscrivi(const std::filesystem::path& file, std::string_view contenuto);

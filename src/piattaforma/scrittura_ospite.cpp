@@ -71,11 +71,11 @@ void ScriviSulPosto(const fs::path& file, std::string_view contenuto) {
 
 } // namespace
 
-void ScriviFileOspite(const fs::path& file, std::string_view contenuto) {
+void ScriviFileOspite(const fs::path& file, std::string_view contenuto, bool sicuro) {
   // The links of a pipe or a device lead to no path.
   const fs::path vero = GenereOspite(file) == GenereFile::Altro ? file : SeguiCollegamenti(file);
   ControllaScrittura(vero, contenuto.size());
-  if (!ScriviAccanto(vero, contenuto)) ScriviSulPosto(vero, contenuto);
+  if (!ScriviAccanto(vero, contenuto, sicuro)) ScriviSulPosto(vero, contenuto);
 }
 
 } // namespace lirmeto

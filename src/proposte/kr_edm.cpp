@@ -6,6 +6,7 @@
 #include <core/apri_form.h>
 #include <core/lettura.h>
 #include <core/mostra_errore.h>
+#include <core/riga.h>
 #include <core/riga_censuaria.h>
 #include <core/zero_nove.h>
 #include <estratti/kr_estratto.h>
@@ -16,6 +17,7 @@
 #include <proposte/kr_stralcio.h>
 #include <proposte/kr_tm_fusione.h>
 #include <proposte/tipo_mappale.h>
+#include <proposte/verifica_censuario.h>
 #include <supporto/cod_fis.h>
 
 #include <algorithm>
@@ -76,6 +78,18 @@ bool KR_EDM::Attivo(int indice) const {
 }
 
 // --- opening
+
+std::string KR_EDM::AvvisoErrori() const {
+  const Sessione& sessione = ambiente_.sessione;
+  ListaRighe censuarie;
+  for (const auto riga : RigheDi(sessione.Libretto))
+    if (RigaCensuaria(riga)) censuarie.Aggiungi(riga);
+  if (censuarie.empty()) return {};
+  const auto rilievi = VerificaElencoCensuario(censuarie, sessione.TabellaQualita);
+  const auto errori = std::count_if(rilievi.begin(), rilievi.end(),
+                                    [](const Segnalazione& una) { return una.regola->severita == Severita::Errore; });
+  return "Modello Censuario del libretto: " + TestoIntero(errori) + (errori == 1 ? " errore" : " errori");
+}
 
 void KR_EDM::AlCaricamento() {
   Sessione& sessione = ambiente_.sessione;

@@ -46,6 +46,9 @@ public:
   // Whether a button can be used now.
   [[nodiscard]] bool Attivo(int indice) const;
 
+  // How many errors the census rows of the libretto have; empty when it has no such rows.
+  [[nodiscard]] std::string AvvisoErrori() const;
+
   void AlCaricamento();
   // The window comes to the front.
   void AllAttivazione();

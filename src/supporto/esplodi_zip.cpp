@@ -134,6 +134,18 @@ private:
   std::vector<std::string> nonEstratte_;
 };
 
+// While it lives the disk remembers the folders that it looks into.
+class Ricordo {
+public:
+  explicit Ricordo(Disco& disco) : disco_(disco) { disco_.RicordaCartelle(true); }
+  Ricordo(const Ricordo&) = delete;
+  Ricordo& operator=(const Ricordo&) = delete;
+  ~Ricordo() { disco_.RicordaCartelle(false); }
+
+private:
+  Disco& disco_;
+};
+
 void NominaNonEstratte(Ambiente& ambiente, const std::string& archivio, const std::vector<std::string>& voci) {
   if (voci.empty()) return;
   const std::size_t nominate = std::min(voci.size(), MassimoNominate);
@@ -158,6 +170,7 @@ bool Esplodi_ZIP(Ambiente& ambiente, const std::string& archivio, const std::str
   CreaCartella(ambiente, dove);
   ambiente.sessione.PuntoErrore = "Esplodi_ZIP";
   Esplosione esplosione(ambiente, *aperto, dove, limiti);
+  const Ricordo ricordo(ambiente.disco);
   try {
     esplosione.Tutte();
   } catch (const Errore&) {

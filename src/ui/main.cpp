@@ -11,6 +11,7 @@
 #include <ui/libretto/finestra_principale.h>
 
 #include <applicazione/avvio.h>
+#include <applicazione/versione.h>
 #include <core/cartelle.h>
 #include <core/mostra_errore.h>
 #include <piattaforma/canali.h>
@@ -100,7 +101,7 @@ int main(int argc, char** argv) {
   PreparaCanali();
   QApplication applicazione(argc, argv);
   QApplication::setApplicationName(QStringLiteral("lirmeto"));
-  QApplication::setApplicationVersion(QString::fromUtf8(NumeroMaggiore) + u'.' + QString::fromUtf8(NumeroRevisione));
+  QApplication::setApplicationVersion(QString::fromUtf8(VersioneProgramma));
   ui::VestiApplicazione(applicazione);
   return Lavora(LeggiOpzioni(applicazione));
 }

@@ -252,6 +252,24 @@ TEST(Strumento, LaPropostaDellAttoSiVedeEdIlLibrettoSiArchivia) {
   EXPECT_EQ(sala.dialoghi.UltimoTesto(), "C:\\pregeo\\exe\\Pregeo.EXE\r\nNon Trovato!");
 }
 
+// A start that only hands the drawing over ends behind the copy and leaves every file as it was.
+TEST(Scambio, ChiConsegnaSoloIlDisegnoNonScriveAltro) {
+  for (const bool solo : {false, true}) {
+    Sala sala;
+    sala.disco.Metti("C:\\ACT.DAT", Testo({Zero, Nove, "6|ESTRATTO DI MAPPA|", "8|1|0|0|", "8|2|0|9|", "7|2|1|2|NC|"}));
+    if (solo) sala.disco.Metti(Programma + "\\temp\\IncollaDaFileSiNo.TXT", "");
+    sala.finestra.Avvia("C:\\ACT.DAT");
+    sala.finestra.CambiaDitta("rossi");
+    sala.finestre.utente = [](Modello& modello) { dynamic_cast<FormDisegno&>(modello).Grafica1().mnuZoom1(4); };
+    sala.finestra.EseguiStrumento("ANTEPRIMA_PROPOSTA");
+    EXPECT_EQ(sala.finestra.Finita, solo);
+    EXPECT_EQ(sala.dialoghi.UltimoTesto(), solo ? "" : "Salvato il file \r\n" + Programma + "\\temp\\CopiaInFile.TXT");
+    sala.finestra.Chiusura({});
+    EXPECT_TRUE(sala.finestra.Finita);
+    EXPECT_EQ(Contiene(sala.disco.Contenuto("C:\\ACT.DAT"), "ROSSI"), !solo);
+  }
+}
+
 // --- what the status line says, and what stays chosen
 
 TEST(Esito, DiceAQuanteRigheETieneLaScelta) {

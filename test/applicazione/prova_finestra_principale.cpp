@@ -45,7 +45,7 @@ TEST(Avvio, ApreIlLibrettoEPreparaLaSessione) {
   EXPECT_TRUE(sala.disco.EsisteCartella(Programma + "\\MODELLI_STAMPA"));
   EXPECT_TRUE(sala.dialoghi.detti.empty()) << sala.dialoghi.UltimoTesto();
   sala.finestra.Attivazione(false);
-  EXPECT_EQ(sala.finestra.Titolo, "Lirmeto V 5.00 - L'Evoluzione - Libretto Misure : [7 01022024] "
+  EXPECT_EQ(sala.finestra.Titolo, "Lirmeto V 6.1 - L'Evoluzione - Libretto Misure : [7 01022024] "
                                   "[CF Comune : G224 - PADOVA] "
                                   "[Provincia : PADOVA]");
   EXPECT_EQ(sala.sessione.EtichettaPosizione, "0/6");
@@ -111,6 +111,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoTrascina{"C:\\a.LXB", "Trascina Libretto/Sostituire il Libretto Esistente?"},
                     CasoTrascina{"C:\\a.pdf", "Trascina Libretto/Sostituire il Libretto Esistente?"},
                     CasoTrascina{"C:\\a.dxf", "Lirmeto/Processo non attivo!"},
+                    CasoTrascina{"C:\\a.emp", "Lirmeto/Ammessi file di Testo: .TXT, .DAT, .LXB, .PDF"},
                     CasoTrascina{"C:\\a", "Lirmeto/Ammessi file di Testo: .TXT, .DAT, .LXB, .PDF"}));
 
 TEST(Trascina, SiSostituisceEMostraLaDitta) {

@@ -55,6 +55,18 @@ def letti(zip_, cartella, sorgenti):
         confronta(cartella / f"da_{archivio.stem}")
 
 
+def guasti(zip_, cartella):
+    """Of an archive with an entry that is damaged the rest comes out, and the exit code says that something did not."""
+    archivio = cartella / "guasto.zip"
+    with zipfile.ZipFile(archivio, "w") as aperto:
+        for nome in ("UNO.TXT", "DUE.TXT", "TRE.TXT"):
+            aperto.writestr(nome, nome * 9)
+    archivio.write_bytes(archivio.read_bytes().replace(b"DUE.TXTDUE", b"DUE.TXTduo"))
+    fatto = subprocess.run((*zip_, "estrai", archivio, cartella / "da_guasto"), capture_output=True)
+    assert fatto.returncode == 1 and b"DUE.TXT" in fatto.stderr and b"UNO.TXT" not in fatto.stderr, fatto
+    assert {p.name for p in (cartella / "da_guasto").iterdir()} == {"UNO.TXT", "TRE.TXT"}
+
+
 def main(cli):
     with tempfile.TemporaryDirectory() as nome:
         cartella = pathlib.Path(nome)
@@ -67,6 +79,7 @@ def main(cli):
         esegui(*zip_, "crea", cartella / "nostro.zip", *sorgenti)
         scritti(cartella / "nostro.zip", cartella)
         letti(zip_, cartella, sorgenti)
+        guasti(zip_, cartella)
     return 77 if mancanti else 0
 
 

@@ -110,7 +110,7 @@ TEST_F(Esportazioni, IlFileDiScambio) {
   const std::string attesa = "\"P\",\"1%\",0.5,-20,0.5,\"PUNTI\",-1.5,\"VIA \"\"A\"\", 1\"~"
                              "\"L\",1,2,0,3.5,-4,7,0,3,\"NP\"~\"L\",1,2,0,3.5,-4,7,7,1,\"NC\"~";
   EXPECT_EQ(File(grafica.KR_CopiaInFile()), attesa);
-  EXPECT_FALSE(grafica.FineProgramma());
+  EXPECT_FALSE(banco.sessione.FineScambio);
   EXPECT_EQ(File(programma + "\\temp\\CopiaInFile.TXT"), attesa);
   banco.disco.Metti(programma + "\\Forvale.exe", "");
   banco.disco.Metti(programma + "\\temp\\IncollaDaFileSiNo.TXT", "");
@@ -118,7 +118,7 @@ TEST_F(Esportazioni, IlFileDiScambio) {
   banco.disco.CreaCartella(banco.sessione.CartellaDocumenti + "\\Forvale\\temp");
   EXPECT_EQ(File(grafica.KR_CopiaInFile()), attesa);
   EXPECT_EQ(File(banco.sessione.CartellaDocumenti + "\\Forvale\\temp\\CopiaInFile.TXT"), attesa);
-  EXPECT_TRUE(grafica.FineProgramma());
+  EXPECT_TRUE(banco.sessione.FineScambio);
 }
 
 TEST(Pittura, ICorpiDaUnoATrecentoPunti) {

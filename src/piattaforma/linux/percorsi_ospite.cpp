@@ -6,6 +6,7 @@
 #include <base/testo.h>
 
 #include <algorithm>
+#include <optional>
 #include <system_error>
 
 namespace lirmeto {
@@ -22,17 +23,45 @@ bool StessoNome(const std::string& utf8, std::string_view nome) {
   return candidata && UgualiSenzaCaso(*candidata, nome);
 }
 
+// Does something with each name of a folder, as the host spells it.
+template <typename Azione>
+void PerOgniNome(const fs::path& cartella, const Azione& azione) {
+  std::error_code guasto;
+  for (fs::directory_iterator i(cartella, guasto), fine; !guasto && i != fine; i.increment(guasto))
+    azione(i->path().filename().string());
+}
+
+// The first name of a folder that differs in case alone.
+std::optional<std::string> Cerca(const fs::path& cartella, std::string_view nome) {
+  std::optional<std::string> trovata;
+  PerOgniNome(cartella, [&](const std::string& utf8) {
+    if (StessoNome(utf8, nome) && (!trovata || utf8 < *trovata)) trovata = utf8;
+  });
+  return trovata;
+}
+
+std::optional<std::string> CercaFraRicordate(CartelleRicordate& ricordate, const fs::path& cartella,
+                                             std::string_view nome) {
+  const auto [posto, nuova] = ricordate.try_emplace(cartella.string());
+  auto& nomi = posto->second;
+  if (nuova) {
+    PerOgniNome(cartella, [&nomi](const std::string& utf8) {
+      const auto detto = NomeDaOspite(utf8);
+      if (!detto) return;
+      const auto [voce, prima] = nomi.try_emplace(Maiuscolo(*detto), utf8);
+      if (!prima && utf8 < voce->second) voce->second = utf8;
+    });
+  }
+  const auto voce = nomi.find(Maiuscolo(nome));
+  return voce == nomi.end() ? std::nullopt : std::optional(voce->second);
+}
+
 // The entry of a folder with this name: its exact spelling, else the first that differs in case alone, else the name as
 // given.
-fs::path Voce(const fs::path& cartella, std::string_view nome) {
+fs::path Voce(const fs::path& cartella, std::string_view nome, CartelleRicordate* ricordate) {
   fs::path esatta = cartella / AUtf8(nome);
   if (EsisteVoce(esatta)) return esatta;
-  std::optional<std::string> trovata;
-  std::error_code guasto;
-  for (fs::directory_iterator i(cartella, guasto), fine; !guasto && i != fine; i.increment(guasto)) {
-    const std::string utf8 = i->path().filename().string();
-    if (StessoNome(utf8, nome) && (!trovata || utf8 < *trovata)) trovata = utf8;
-  }
+  const auto trovata = ricordate == nullptr ? Cerca(cartella, nome) : CercaFraRicordate(*ricordate, cartella, nome);
   return trovata ? cartella / *trovata : esatta;
 }
 
@@ -57,10 +86,10 @@ std::string Utf8DaOspite(const fs::path& ospite) {
   return ospite.string();
 }
 
-fs::path PercorsoSuOspite(const fs::path& dischi, std::string_view percorso) {
+fs::path PercorsoSuOspite(const fs::path& dischi, std::string_view percorso, CartelleRicordate* ricordate) {
   const PercorsoDiviso diviso = DividiPercorso(percorso);
   fs::path ospite = diviso.lettera == 'Z' ? fs::path("/") : CartellaDisco(dischi, diviso.lettera);
-  for (const std::string_view componente : diviso.componenti) ospite = Voce(ospite, componente);
+  for (const std::string_view componente : diviso.componenti) ospite = Voce(ospite, componente, ricordate);
   return ospite;
 }
 

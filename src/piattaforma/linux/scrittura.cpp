@@ -77,9 +77,9 @@ public:
 
   [[nodiscard]] int Numero() const { return aperto_.Numero(); }
 
-  void Riempi(std::string_view contenuto) {
+  void Riempi(std::string_view contenuto, bool sicuro) {
     ScriviTutto(Numero(), contenuto);
-    if (::fsync(Numero()) != 0) LanciaErrno(errno, errore::PercorsoNonTrovato);
+    if (sicuro && ::fsync(Numero()) != 0) LanciaErrno(errno, errore::PercorsoNonTrovato);
   }
 
   // Whether the host let it.
@@ -160,7 +160,7 @@ void ControllaScrittura(const fs::path& file, std::size_t byte) {
   if (liberi < byte && liberi + occupati < byte) throw Errore(errore::DiscoPieno);
 }
 
-bool ScriviAccanto(const fs::path& file, std::string_view contenuto) {
+bool ScriviAccanto(const fs::path& file, std::string_view contenuto, bool sicuro) {
   const auto vecchio = Stato(file);
   if (vecchio && (!S_ISREG(vecchio->st_mode) || vecchio->st_nlink > 1)) return false;
   const fs::path cartella = CartellaDi(file);
@@ -169,7 +169,7 @@ bool ScriviAccanto(const fs::path& file, std::string_view contenuto) {
   if (nuovo.Numero() < 0) return false;
   if (vecchio ? !CopiaDiritti(file, *vecchio, nuovo.Numero()) : ::fchmod(nuovo.Numero(), PermessiNuovi()) != 0)
     return false;
-  nuovo.Riempi(contenuto);
+  nuovo.Riempi(contenuto, sicuro || vecchio);
   return nuovo.MettiAlPostoDi(file);
 }
 

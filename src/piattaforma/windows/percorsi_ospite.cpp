@@ -68,7 +68,7 @@ std::string Utf8DaOspite(const fs::path& ospite) {
   return Stretto(ospite.native());
 }
 
-fs::path PercorsoSuOspite(const fs::path& dischi, std::string_view percorso) {
+fs::path PercorsoSuOspite(const fs::path& dischi, std::string_view percorso, CartelleRicordate* /*ricordate*/) {
   const bool ospite = percorso.starts_with(DellOspite);
   if (!ospite && percorso.size() > 1 && Barra(percorso[0]) && Barra(percorso[1])) return Condiviso(percorso);
   const PercorsoDiviso diviso = DividiPercorso(ospite ? percorso.substr(DellOspite.size()) : percorso);

@@ -172,7 +172,7 @@ void ControllaScrittura(const fs::path& file, std::size_t byte) {
   if (liberi < byte && liberi + occupati < byte) throw Errore(errore::DiscoPieno);
 }
 
-bool ScriviAccanto(const fs::path& file, std::string_view contenuto) {
+bool ScriviAccanto(const fs::path& file, std::string_view contenuto, bool /*sicuro*/) {
   const DWORD attributi = ::GetFileAttributesW(PercorsoLungo(file).c_str());
   const bool collegamento = attributi != INVALID_FILE_ATTRIBUTES && (attributi & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
   if (collegamento || GenereOspite(file) == GenereFile::Altro) return false;

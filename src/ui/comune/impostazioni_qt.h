@@ -17,7 +17,10 @@ public:
   void Scrivi(std::string_view sezione, std::string_view chiave, std::string_view valore) override;
 
 private:
+  [[nodiscard]] const QSettings& ArchivioDi(std::string_view sezione) const;
+
   QSettings archivio_;
+  QSettings pernico_; // of the sibling program that shows .CSV files: the two share the section of the viewer
 };
 
 } // namespace lirmeto::ui

@@ -31,7 +31,6 @@ FinestraDisegno::FinestraDisegno(FormDisegno& modello, QWidget* padre)
     modello_.Ricarica();
     Mostra();
   });
-  connect(pannello_, &GraficaPannello::FineRichiesta, this, &QDialog::accept);
   pannello_->MostraRighe(true);
   AdattaAlloSchermo(*this, 1240, 840);
   pannello_->Superficie().setFocus();

@@ -13,11 +13,13 @@
 #include <core/mostra_errore.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListView>
 #include <QMenu>
 #include <QSplitter>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace lirmeto::ui {
@@ -238,8 +240,13 @@ void GraficaPannello::CambiaFlag(bool VistaGrafica::*flag, bool valore) {
   if (DecideCosaSiCarica(flag)) emit RicaricaRichiesta();
 }
 
+// Every window that is open over the main one closes, the innermost first; the program ends behind them.
 void GraficaPannello::FiniscePerScambio() {
-  if (grafica_.FineProgramma()) emit FineRichiesta();
+  if (!ambiente_.sessione.FineScambio) return;
+  QTimer::singleShot(0, qApp, [] {
+    for (QWidget* finestra = QApplication::activeModalWidget(); finestra != nullptr && finestra->close();)
+      finestra = QApplication::activeModalWidget();
+  });
 }
 
 void GraficaPannello::SalvaImmagine() {

@@ -43,8 +43,6 @@ public:
 signals:
   // A flag has changed that decides what is loaded: the file must be loaded again.
   void RicaricaRichiesta();
-  // The exchange file was all that the program was started for.
-  void FineRichiesta();
 
 private:
   // A display flag as a button.

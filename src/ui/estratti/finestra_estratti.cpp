@@ -97,7 +97,6 @@ FinestraEstratti::FinestraEstratti(KR_EstrattiDiMappa1& modello, QWidget* padre)
   colonna->addWidget(piano, 1);
   connect(dopo_, &QTimer::timeout, this, [this] { Fa([this] { modello_.AnteprimaEstratto3(); }); });
   connect(disegno_, &GraficaPannello::RicaricaRichiesta, this, [this] { Fa([this] { modello_.Ricarica(); }); });
-  connect(disegno_, &GraficaPannello::FineRichiesta, this, &QDialog::accept);
   // A message about the file comes when the drop is over: the program that holds it must not wait.
   connect(
       this, &FinestraEstratti::FileLasciato, this,

@@ -1,6 +1,7 @@
 #include <ui/fiduciali/finestra_quote_medie.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/invito_elenco.h>
 #include <ui/comune/piede_scelta.h>
 #include <ui/comune/testo_qt.h>
 
@@ -22,6 +23,7 @@ FinestraQuoteMedie::FinestraQuoteMedie(QuoteMedie& modello, QWidget* padre)
   cerca->setClearButtonEnabled(true);
   comuni_->setHeaderLabels({QStringLiteral("Codice"), QStringLiteral("Comune"), QStringLiteral("Quota media (m)")});
   comuni_->setRootIsDecorated(false);
+  MettiInvito(*comuni_, QStringLiteral("Nessun comune con questo nome o codice."));
   comuni_->setUniformRowHeights(true);
   const PiedeScelta piede = CreaPiedeScelta(QStringLiteral("Metti nella Riga 9"), *this);
   auto* colonna = new QVBoxLayout(this);

@@ -2,6 +2,7 @@
 
 #include <ui/comune/aspetto.h>
 #include <ui/comune/colonna_elenco.h>
+#include <ui/comune/invito_elenco.h>
 #include <ui/comune/piede_scelta.h>
 #include <ui/comune/testo_qt.h>
 
@@ -15,6 +16,7 @@ namespace lirmeto::ui {
 
 FinestraSelezionaMisurate::FinestraSelezionaMisurate(KR_SelezionaMisurate& modello, QWidget* padre)
     : QDialog(padre), modello_(modello), file_(new QListWidget(this)) {
+  MettiInvito(*file_, QStringLiteral("Nessun archivio di distanze: premere «Importa TAF e Misurate»."));
   setWindowTitle(QStringLiteral("Selezione Database Distanze Misurate"));
   auto* colonna = new QVBoxLayout(this);
   colonna->setContentsMargins(12, 12, 12, 12);

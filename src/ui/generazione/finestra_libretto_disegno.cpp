@@ -146,7 +146,6 @@ QWidget* FinestraLibrettoDisegno::CreaDisegno() {
   sinistra->addWidget(sotto);
   sinistra->setStretchFactor(0, 1);
   sinistra->setSizes({740, 110});
-  connect(pannello_, &GraficaPannello::FineRichiesta, this, &QDialog::reject);
   return sinistra;
 }
 

@@ -80,7 +80,6 @@ FinestraTipol10::FinestraTipol10(Tipol10& modello, QWidget* padre)
       QStringLiteral("Nessun estratto associato: la proposta si compone da polilinee, coi due bottoni in basso"));
   disegno_->Superficie().installEventFilter(this);
   connect(disegno_, &GraficaPannello::RicaricaRichiesta, this, [this] { modello_.Ricarica(); });
-  connect(disegno_, &GraficaPannello::FineRichiesta, this, &QDialog::reject);
   AdattaAlloSchermo(*this, Larghezza, Altezza);
   RimettiAlPosto(*this, modello_.PostoSalvato);
   Mostra();

@@ -18,15 +18,18 @@
 #include <ui/verifiche/segni.h>
 
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTimer>
 #include <QToolButton>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -57,6 +60,7 @@ FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDa
       conta_(new QToolButton(this)), ritardo_(new QTimer(this)), scartate_(new QToolButton(this)),
       esito_(new QLabel(this)), consegne_(new QTimer(this)) {
   setObjectName(QStringLiteral("KR_LibrettoOriginale"));
+  setAcceptDrops(true);
   RiempiMenu(*menuBar(), Disponibile(), [this](Comando comando) { Comanda(comando); });
   auto* piano = new QSplitter(Qt::Horizontal, this);
   piano->setChildrenCollapsible(false);
@@ -210,7 +214,9 @@ void FinestraPrincipale::CollegaElenco() {
     righe_->setFocus();
   });
   // The question comes after the drop is over: the program that holds the file must not wait for the answer.
-  connect(righe_, &VistaRighe::FileLasciato, this, &FinestraPrincipale::Lascia, Qt::QueuedConnection);
+  connect(
+      righe_, &VistaRighe::FileLasciato, this,
+      [this](const QString& percorso) { Lascia(percorso, &KR_LibrettoOriginale::Trascina); }, Qt::QueuedConnection);
 }
 
 void FinestraPrincipale::CollegaRicerca() {
@@ -353,9 +359,23 @@ void FinestraPrincipale::Comanda(Comando comando) {
   if (storia && Elenco().Indice() >= 0) righe_->VaiA(static_cast<std::size_t>(Elenco().Indice()));
 }
 
-void FinestraPrincipale::Lascia(const QString& percorsoOspite) {
+void FinestraPrincipale::Lascia(const QString& percorsoOspite, void (KR_LibrettoOriginale::*dove)(const std::string&)) {
   const std::string percorso = percorso_(percorsoOspite);
-  if (!percorso.empty()) Fa([&] { modello_.Trascina(percorso); });
+  if (!percorso.empty()) Fa([&] { (modello_.*dove)(percorso); });
+}
+
+void FinestraPrincipale::dragEnterEvent(QDragEnterEvent* evento) {
+  if (evento->mimeData()->hasUrls()) evento->acceptProposedAction();
+}
+
+// As over the rows: taken once the drag is over.
+void FinestraPrincipale::dropEvent(QDropEvent* evento) {
+  const QList<QUrl> indirizzi = evento->mimeData()->urls();
+  if (indirizzi.isEmpty() || !indirizzi.first().isLocalFile()) return;
+  evento->acceptProposedAction();
+  QTimer::singleShot(0, this, [this, percorso = indirizzi.first().toLocalFile()] {
+    Lascia(percorso, &KR_LibrettoOriginale::TrascinaAccanto);
+  });
 }
 
 void FinestraPrincipale::ChiudiSeFinita() {

@@ -46,6 +46,8 @@ protected:
   void resizeEvent(QResizeEvent* evento) override;
   void closeEvent(QCloseEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
+  void dragEnterEvent(QDragEnterEvent* evento) override;
+  void dropEvent(QDropEvent* evento) override;
 
 private:
   [[nodiscard]] QWidget* CreaCentro();
@@ -60,7 +62,7 @@ private:
   void CreaScorciatoie();
   void Comanda(Comando comando);
   void Fa(const std::function<void()>& azione);
-  void Lascia(const QString& percorsoOspite);
+  void Lascia(const QString& percorsoOspite, void (KR_LibrettoOriginale::*dove)(const std::string&));
   void MostraElenco();
   void MostraStoria();
   void MostraEsito();

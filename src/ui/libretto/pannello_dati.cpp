@@ -105,6 +105,9 @@ void PannelloDati::AggiungiDitta(QVBoxLayout& colonna) {
   ditta_->setObjectName(QStringLiteral("CasellaDitta"));
   ditta_->setAccessibleName(QStringLiteral("Ditta"));
   ditta_->setTabChangesFocus(true);
+  for (QWidget* casella : {static_cast<QWidget*>(iscrizione_), static_cast<QWidget*>(codiceFiscale_),
+                           static_cast<QWidget*>(ditta_), ditta_->viewport()})
+    casella->setAcceptDrops(false); // a file dropped there is for the window
   ditta_->setMinimumHeight(90);
   colonna.addWidget(ditta_, 1);
   connect(ditta_, &QPlainTextEdit::textChanged, this, &PannelloDati::DittaCambiata);

@@ -1,6 +1,7 @@
 #include <ui/pregeo/finestra_dapregeo.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/invito_elenco.h>
 #include <ui/comune/modello_classe.h>
 #include <ui/comune/piede_scelta.h>
 #include <ui/comune/testo_qt.h>
@@ -79,6 +80,8 @@ FinestraDapregeo::FinestraDapregeo(KR_Dapregeo& modello, QWidget* padre)
   setObjectName(QStringLiteral("KR_Dapregeo"));
   setWindowTitle(AQString(modello_.Titolo));
   disegno_->Superficie().MettiInvito(QStringLiteral("Scegliere un libretto dell'archivio per vederne la proposta"));
+  MettiInvito(*archivio_,
+              QStringLiteral("L'archivio di Pregeo non ha libretti, o il programma di scambio non risponde."));
   auto* sotto = new QSplitter(this);
   sotto->addWidget(CreaLibretto());
   sotto->addWidget(disegno_);
@@ -101,7 +104,6 @@ FinestraDapregeo::FinestraDapregeo(KR_Dapregeo& modello, QWidget* padre)
     MostraLibretto();
   });
   connect(disegno_, &GraficaPannello::RicaricaRichiesta, this, [this] { modello_.Ricarica(); });
-  connect(disegno_, &GraficaPannello::FineRichiesta, this, &QDialog::reject);
   AdattaAlloSchermo(*this, Larghezza, Altezza);
   RimettiAlPosto(*this, modello_.PostoSalvato);
 }

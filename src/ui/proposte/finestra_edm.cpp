@@ -61,7 +61,8 @@ QVariant ModelloNomi::data(const QModelIndex& indice, int ruolo) const {
 
 FinestraEdm::FinestraEdm(KR_EDM& modello, QWidget* padre)
     : QDialog(padre, Qt::Window), modello_(modello), list1_(new QListWidget(this)), nomi_(modello.File1),
-      file1_(new QListView(this)), label1_(new QLabel(this)), label2_(new QLabel(this)), codice_(new QLabel(this)),
+      file1_(new QListView(this)), label1_(new QLabel(this)), label2_(new QLabel(this)), errori_(new QLabel(this)),
+      codice_(new QLabel(this)),
       disegno_(new GraficaPannello(modello.Dintorni(), modello.Grafica1(), host::KR_EDM, this)),
       evidenza_(new EvidenzaParticella(disegno_->Superficie())) {
   setObjectName(QString::fromLatin1(NomeForm));
@@ -203,6 +204,8 @@ QWidget* FinestraEdm::CreaDisegno() {
   colonna->addWidget(label1_);
   colonna->addWidget(disegno_, 1);
   colonna->addWidget(label2_);
+  errori_->setObjectName(QStringLiteral("ErroriCensuario"));
+  colonna->addWidget(errori_);
   return dentro;
 }
 
@@ -223,6 +226,7 @@ void FinestraEdm::Mostra() {
   label1_->setText(modello_.Label1.empty() ? QStringLiteral("Nessun estratto associato")
                                            : QStringLiteral("Estratto: ") + AQString(modello_.Label1));
   label2_->setText(AQString(modello_.Label2));
+  errori_->setText(AQString(modello_.AvvisoErrori()));
   for (const auto& [bottone, indice] : bottoni_) bottone->setEnabled(modello_.Attivo(indice));
   evidenza_->Illumina(ContornoParticella(modello_.Grafica1(), modello_.Text3));
 }

@@ -65,6 +65,7 @@ private:
   QListView* file1_;
   QLabel* label1_;
   QLabel* label2_;
+  QLabel* errori_; // how many errors the census rows have
   QLabel* codice_;
   GraficaPannello* disegno_;
   EvidenzaParticella* evidenza_;

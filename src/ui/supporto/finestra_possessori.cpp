@@ -2,6 +2,7 @@
 
 #include <ui/comune/aspetto.h>
 #include <ui/comune/colonna_elenco.h>
+#include <ui/comune/invito_elenco.h>
 #include <ui/comune/piede_scelta.h>
 #include <ui/comune/testo_qt.h>
 
@@ -15,6 +16,7 @@ namespace lirmeto::ui {
 
 FinestraPossessori::FinestraPossessori(ArchivioPossessori& modello, QWidget* padre)
     : QDialog(padre), modello_(modello), file_(new QListWidget(this)), righe_(new QListWidget(this)) {
+  MettiInvito(*file_, QStringLiteral("Nessun archivio di possessori nella cartella dei dati."));
   setWindowTitle(QStringLiteral("Archivio Possessori"));
   const PiedeScelta piede = CreaPiedeScelta(QStringLiteral("Associa"), *this);
   auto* elimina = new QPushButton(Icona(QStringLiteral("elimina")), QStringLiteral("Elimina File"), this);

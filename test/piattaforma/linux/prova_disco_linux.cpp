@@ -23,6 +23,23 @@ TEST_F(ProvaDisco, UnDiscoDiUnPrefissoHaIDuePunti) {
   EXPECT_EQ(NumeroDi([&] { (void)disco.Leggi("\\\\host\\x.dat"); }), 52) << "shares are mounted here";
 }
 
+// Many new names in one folder: what was made meanwhile is found, in any case, and what others made is seen afterwards.
+TEST_F(ProvaDisco, RicordaLeCartelleFinoAQuandoGliSiDice) {
+  for (const char* nome : {"c/abc.dat", "c/ABC.dat"}) cartella.Metti(nome, nome);
+  disco.RicordaCartelle(true);
+  EXPECT_EQ(disco.Leggi("C:\\aBC.DAT"), "c/ABC.dat");
+  disco.CreaCartella("C:\\Dentro");
+  disco.Scrivi("C:\\dentro\\Nuovo.txt", "1");
+  disco.Scrivi("C:\\DENTRO\\NUOVO.TXT", "2");
+  EXPECT_EQ(CartellaProvvisoria::Prendi(cartella.Radice() / "c/Dentro/Nuovo.txt"), "2");
+  disco.Elimina("C:\\DENTRO\\NUOVO.TXT");
+  EXPECT_FALSE(disco.Esiste("C:\\dentro\\nuovo.txt"));
+  cartella.Metti("c/Dentro/altri.txt", "3");
+  EXPECT_FALSE(disco.Esiste("C:\\dentro\\ALTRI.TXT"));
+  disco.RicordaCartelle(false);
+  EXPECT_TRUE(disco.Esiste("C:\\dentro\\ALTRI.TXT"));
+}
+
 TEST_F(ProvaDisco, TubiDispositiviEGiriNonSonoFile) {
   cartella.Metti("c/x.dat", "x");
   ASSERT_EQ(::mkfifo((cartella.Radice() / "c/tubo").c_str(), 0666), 0);

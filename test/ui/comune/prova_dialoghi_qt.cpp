@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QSettings>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -206,6 +207,15 @@ TEST(ImpostazioniQt, RestanoNelFile) {
   ui::ImpostazioniQt(file).Scrivi("FORMx", "Modulo/uno", valore);
   EXPECT_EQ(ui::ImpostazioniQt(file).Leggi("FORMx", "Modulo/uno", "-"), valore);
   EXPECT_EQ(ui::ImpostazioniQt(file).Leggi("FORMy", "Modulo/uno", "-"), "-");
+  // The program that shows .CSV files keeps the viewer in a file of its own.
+  const QString pernico = cartella.filePath(QStringLiteral("Pernico.ini"));
+  QSettings(pernico, QSettings::IniFormat)
+      .setValue(QStringLiteral("VisualizzatoreXLS/Visualizzatore"), QStringLiteral("X.EXE"));
+  EXPECT_EQ(ui::ImpostazioniQt(file).Leggi("VisualizzatoreXLS", "Visualizzatore", ""), "X.EXE");
+  ui::ImpostazioniQt(file).Scrivi("VisualizzatoreXLS", "Visualizzatore", "Y.EXE");
+  EXPECT_EQ(
+      QSettings(pernico, QSettings::IniFormat).value(QStringLiteral("VisualizzatoreXLS/Visualizzatore")).toString(),
+      QStringLiteral("Y.EXE"));
 }
 
 } // namespace

@@ -199,7 +199,7 @@ TEST(FinestraEstratti, UnFileLasciatoEntraEUnoMilleSiElencano) {
     QCoreApplication::processEvents();
     EXPECT_FALSE(sala.tavolo.banco.dialoghi.detti.empty()) << "a file that is not there is told";
   });
-  sala.tavolo.modello.Trascina("Z:\\TMP\\N.EMP");
+  sala.tavolo.modello.TrascinaAccanto("Z:\\TMP\\N.EMP");
   EXPECT_EQ(sala.tavolo.banco.sessione.EstrattoAssociato, "N.EMP") << "the same import by a drop on the main window";
   EXPECT_TRUE(sala.Disco().Esiste(Cartella + "N.PNG"));
 }

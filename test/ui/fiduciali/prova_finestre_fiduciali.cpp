@@ -40,7 +40,8 @@ TEST(FinestreFiduciali, LeRighe8VengonoDallaTafESiAnnulla) {
     Premi(finestra, QStringLiteral("Conferma"));
   });
   tavolo.modello.Esegui(Comando::ImportaFiduciali);
-  EXPECT_EQ(tavolo.Elenco().Quante(), RigheDiProva().size() + 1);
+  EXPECT_EQ(tavolo.Elenco().Quante(), RigheDiProva().size() + 2) << "place and height; the row of 101 stays";
+  EXPECT_EQ(tavolo.banco.dialoghi.UltimoTesto(), "Righe 8 mantenute perché assenti in TAF:\r\n101"_w);
   tavolo.modello.Esegui(Comando::Annulla);
   EXPECT_EQ(tavolo.Elenco().Riga(RigheDiProva().size()), "8|101|1|2|");
 }

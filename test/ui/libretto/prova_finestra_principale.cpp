@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -26,10 +27,10 @@ namespace {
 using Indici = std::vector<std::size_t>;
 
 // As a drag from another program: it enters, moves, is let go. The answer is whether the list took it.
-bool Lascia(Tavolo& tavolo, const QList<QUrl>& indirizzi) {
+bool Lascia(Tavolo& tavolo, const QList<QUrl>& indirizzi, QWidget* dove = nullptr) {
   QMimeData dati;
   dati.setUrls(indirizzi);
-  QWidget* sotto = tavolo.vista->viewport();
+  QWidget* sotto = dove == nullptr ? tavolo.vista->viewport() : dove;
   QDragEnterEvent entra({100, 30}, Qt::CopyAction, &dati, Qt::LeftButton, {});
   QCoreApplication::sendEvent(sotto, &entra);
   QDragMoveEvent muove({100, 31}, Qt::CopyAction, &dati, Qt::LeftButton, {});
@@ -205,6 +206,31 @@ TEST_P(FileNonAmmessi, DannoUnMessaggio) {
 INSTANTIATE_TEST_SUITE_P(Estensioni, FileNonAmmessi,
                          testing::Values(FileLasciato{"/a/b.dxf", "Processo non attivo!"},
                                          FileLasciato{"/a/b.doc", "Ammessi file di Testo: .TXT, .DAT, .LXB, .PDF"}));
+
+// Beside the rows an extract is imported and a libretto opened; the boxes do not take the path as a text.
+TEST(FinestraPrincipale, AccantoAlleRighe) {
+  Tavolo tavolo;
+  QWidget* ditta = Figlio<QPlainTextEdit>(tavolo, "CasellaDitta").viewport();
+  EXPECT_FALSE(ditta->acceptDrops());
+  for (const char* nome : {"A.EMP", "A.PNG"}) tavolo.banco.disco.Metti("Z:\\ALTRI\\" + std::string(nome), "8|1|");
+  EXPECT_TRUE(Lascia(tavolo, File({QStringLiteral("/altri/A.EMP")}), &*tavolo.finestra));
+  EXPECT_EQ(tavolo.banco.sessione.EstrattoAssociato, "A.EMP");
+  EXPECT_TRUE(Lascia(tavolo, File({QStringLiteral("/altri/A.TXT")}), &*tavolo.finestra));
+  EXPECT_EQ(tavolo.banco.dialoghi.UltimoTesto(), "Sostituire il Libretto Esistente?");
+}
+
+// What a second start hands over is taken while the window waits for its user, and the menu has the file afterwards.
+TEST(FinestraPrincipale, UnSecondoAvvioConsegnaAllaPrima) {
+  Tavolo tavolo;
+  tavolo.banco.disco.Metti("C:\\ALTRO.DAT", Testo({RigheDiProva()[0], RigheDiProva()[1], "8|1|1|1|"}));
+  tavolo.banco.disco.Metti(tavolo.banco.sessione.CartellaProgramma + "\\TEMP\\9.consegna", "C:\\ALTRO.DAT");
+  tavolo.banco.dialoghi.risposte = {Risposta::Si};
+  EXPECT_TRUE(QTest::qWaitFor([&] { return tavolo.Elenco().Quante() == 3; }, 3000));
+  const auto* recenti = tavolo.finestra->menuBar()->findChild<QMenu*>(QStringLiteral("LibrettiRecenti"));
+  ASSERT_EQ(recenti->actions().size(), 2);
+  EXPECT_EQ(recenti->actions().first()->text(), QStringLiteral("&1 C:\\ALTRO.DAT"));
+  EXPECT_EQ(Figlio<QLabel>(tavolo, "Esito").text(), QStringLiteral("Aperto C:\\ALTRO.DAT: 3 righe"));
+}
 
 TEST(FinestraPrincipale, UnIndirizzoDellaReteNonEUnFile) {
   Tavolo tavolo;
