@@ -108,6 +108,7 @@ struct ConForm : testing::Test {
 
 TEST_F(ConForm, IPuntiDelLibrettoControLaTaf) {
   form.AlCaricamento();
+  EXPECT_EQ(banco.sessione.EsitoForm, EsitoAnnullato);
   EXPECT_EQ(form.List1, (Righe{"PF01/0010/L736", "PF07/012A/G224"}));
   EXPECT_EQ(form.List2, (Righe{"8|PF07/012A/G224||||SPIGOLO 'NORD'|"})) << "the first record of a name, cut as it is";
   EXPECT_EQ(form.PuntiInTaf, 1U);

@@ -80,6 +80,7 @@ TEST_F(Mouse, ISovrappostiSiLeggonoTutti) {
   grafica.MouseMove({-200'000, 0}, TastoMouse::Nessuno); // all too far: the first one
   EXPECT_EQ(mouse.Etichetta().testo, "1% PF01");
   grafica.KR_Clear();
+  EXPECT_FALSE(disegno.archivio.PrimoDiNome("1%"));
   grafica.MouseMove({5, 5}, TastoMouse::Nessuno);
   EXPECT_EQ(mouse.Etichetta().testo, "");
 }

@@ -182,6 +182,10 @@ TEST(Catasto1, ElenchiAllungatiAccorciatiTenuti) {
   EXPECT_TRUE(Contiene(sala.dialoghi.UltimoTesto(), "nell'Archivio!"));
   sala.form.Premi(17);
   EXPECT_EQ(sala.disco.Contenuto(strumenti), "a=\"b\"\r\n");
+  sala.form.Cambia(casella::Commento, "DEROGA");
+  sala.form.Premi(20);
+  sala.form.Cambia(casella::Qualifica, "GEOMETRA");
+  sala.form.Premi(11);
   sala.form.Premi(30);
   EXPECT_EQ(sala.form.Elenchi().Voci(Elenco::Strumentazione).size(), 12U);
   EXPECT_EQ(sala.form.Elenchi().Voci(Elenco::Commento).size(), 9U);

@@ -1,5 +1,7 @@
 #include <verifiche/atto_base.h>
 
+#include <verifiche/pannello_verifiche.h>
+
 #include <base/testo.h>
 
 #include <algorithm>
@@ -295,6 +297,39 @@ TEST(Verifiche, UnAltroEstrattoSiLegge) {
     c.verificatore.Aggiorna();
     EXPECT_EQ(c.Trovate("E003").size(), *nome == 0 ? 1U : 0U);
   }
+}
+
+TEST(Pannello, FiltraOrdinaECammina) {
+  ConAtto c;
+  c.ApriCon({"5 126.4863>126.48a3", "9 TERMINE IN PIETRA>Note:", "0 |PADOVA>|VENEZIA"});
+  c.sessione.EstrattoAssociato.clear();
+  PannelloVerifiche pannello(c.ambiente);
+  EXPECT_TRUE(pannello.Aggiorna());
+  EXPECT_FALSE(pannello.Aggiorna());
+  const auto codici = [&] {
+    std::string testo;
+    for (std::size_t i = 0; i < pannello.Quante(); ++i)
+      testo +=
+          std::string(pannello.Voce(i).regola->codice) + "/" + PannelloVerifiche::NumeroRiga(pannello.Voce(i)) + " ";
+    return testo;
+  };
+  EXPECT_EQ(codici(), "T004/1 L003/6 L011/10 E003/ ");
+  EXPECT_EQ(pannello.Successiva(true, 5), 2U);
+  EXPECT_EQ(pannello.Successiva(true, 900), 0U) << "round the end";
+  pannello.Ordina(OrdineVerifiche::Gravita);
+  EXPECT_EQ(codici(), "L003/6 L011/10 T004/1 E003/ ");
+  pannello.Ordina(OrdineVerifiche::Gravita);
+  EXPECT_EQ(codici(), "E003/ T004/1 L011/10 L003/6 ");
+  EXPECT_EQ(pannello.Successiva(true, 0), 2U) << "one of the whole act is no row behind";
+  pannello.Mostra(Severita::Nota, false);
+  EXPECT_EQ(codici(), "L011/10 L003/6 ");
+  pannello.Scegli(0);
+  EXPECT_EQ(pannello.Successiva(false, 5), 1U);
+  pannello.Cerca("l003");
+  EXPECT_EQ(codici(), "L003/6 ");
+  EXPECT_EQ(pannello.Riepilogo(), "1 errore, 1 avviso, 2 note");
+  EXPECT_EQ(pannello.SegnoDi(9), Severita::Avviso);
+  EXPECT_EQ(pannello.SegnoDi(10), std::nullopt);
 }
 
 TEST(Verifiche, OgniControlloHaIlSuoCaso) {
