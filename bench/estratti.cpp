@@ -2,6 +2,7 @@
 #include "sostituti/banco.h"
 
 #include <estratti/da_cxf.h>
+#include <estratti/estratti_di_mappa.h>
 #include <estratti/kr_estratto.h>
 #include <estratti/modifiche_estratto.h>
 #include <estratti/unione_estratti.h>
@@ -124,6 +125,19 @@ void Somma(benchmark::State& stato) {
   stato.SetComplexityN(stato.range(0));
 }
 
+// The manager as it opens, with the start of the associated extract, and then with its drawing: 650,000 points are 50 MB.
+void Gestore(benchmark::State& stato, bool conDisegno) {
+  prova::Banco banco;
+  banco.disco.Metti(Percorso, EstrattoDi(stato.range(0), false));
+  banco.sessione.EstrattoAssociato = "X.EMP";
+  for (auto _ : stato) {
+    KR_EstrattiDiMappa1 form(banco.ambiente);
+    form.AlCaricamento();
+    if (conDisegno) form.AnteprimaEstratto3();
+    benchmark::DoNotOptimize(form.TestoFile.size());
+  }
+}
+
 BENCHMARK(Esplodi)->RangeMultiplier(10)->Range(PochiPunti, MoltiPunti)->Complexity()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(EsplodiESalva, ordinati, false)
     ->RangeMultiplier(10)
@@ -137,6 +151,8 @@ BENCHMARK_CAPTURE(EsplodiESalva, mescolati, true)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(Elimina)->Arg(125'000)->Arg(1'250'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(Pulisci)->Arg(125'000)->Arg(1'250'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Gestore, aperto, false)->Arg(65'000)->Arg(650'000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Gestore, disegnato, true)->Arg(65'000)->Arg(650'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(Cxf)->RangeMultiplier(10)->Range(100, 100'000)->Complexity()->Unit(benchmark::kMillisecond);
 BENCHMARK(Somma)->RangeMultiplier(10)->Range(1'000, 1'000'000)->Complexity()->Unit(benchmark::kMillisecond);
 BENCHMARK(Pulisci)->RangeMultiplier(10)->Range(PochiPunti, MoltiPunti)->Complexity()->Unit(benchmark::kMillisecond);
