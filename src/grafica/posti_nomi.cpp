@@ -6,7 +6,10 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <functional>
 #include <numbers>
+#include <unordered_set>
+#include <utility>
 
 namespace lirmeto {
 
@@ -63,24 +66,22 @@ public:
     occupati_.reserve(quanti);
   }
 
-  struct Occupato {
-    Rettangolo dove;
-    std::size_t quale = 0;
-  };
-
-  // Calls `visita` with those that touch a rectangle, some more than once, until it says that it has seen enough.
-  template <typename Visita>
-  void Toccati(const Rettangolo& dove, Visita&& visita) const {
-    bool basta = false;
+  [[nodiscard]] bool Libero(const Rettangolo& dove) {
+    if (ultimo_ < occupati_.size() && Tocca(occupati_[ultimo_], dove)) return false;
+    bool libero = true;
     Celle(dove, [&](std::size_t cella) {
-      for (std::uint32_t anello = teste_[cella]; !basta && anello != Nessuno; anello = anelli_[anello].dopo)
-        if (const Occupato& uno = occupati_[anelli_[anello].occupato]; Tocca(uno.dove, dove)) basta = visita(uno);
-      return !basta;
+      for (std::uint32_t anello = teste_[cella]; libero && anello != Nessuno; anello = anelli_[anello].dopo)
+        if (Tocca(occupati_[anelli_[anello].occupato], dove)) {
+          libero = false;
+          ultimo_ = anelli_[anello].occupato;
+        }
+      return libero;
     });
+    return libero;
   }
 
-  void Occupa(const Rettangolo& dove, std::size_t quale) {
-    occupati_.push_back({dove, quale});
+  void Occupa(const Rettangolo& dove) {
+    occupati_.push_back(dove);
     Celle(dove, [&](std::size_t cella) {
       anelli_.push_back({static_cast<std::uint32_t>(occupati_.size() - 1), teste_[cella]});
       teste_[cella] = static_cast<std::uint32_t>(anelli_.size() - 1);
@@ -118,7 +119,8 @@ private:
 
   std::vector<std::uint32_t> teste_; // the last ring of each cell
   std::vector<Anello> anelli_;
-  std::vector<Occupato> occupati_;
+  std::vector<Rettangolo> occupati_;
+  std::size_t ultimo_ = 0; // what stood in the way last often does so again
 };
 
 // The room of a text. One that is longer than any surface takes no more than that: its cells would be beyond number.
@@ -133,52 +135,49 @@ bool SiPosa(const Scritta& scritta) {
   return !scritta.testo.empty() && std::abs(scritta.x) < Lontano && std::abs(scritta.y) < Lontano;
 }
 
-class Dispositore {
-public:
-  explicit Dispositore(std::span<const Scritta> scritte)
-      : scritte_(scritte), griglia_(scritte.size()), posti_(scritte.size()) {}
+// The first text that is the same at the same point, for each; its own index for the first one itself.
+std::vector<std::size_t> Gemelle(std::span<const Scritta> scritte) {
+  const auto impronta = [&](std::size_t i) {
+    const std::hash<double> numero;
+    return std::hash<std::string_view>()(scritte[i].testo) ^ numero(scritte[i].x) * 3 ^ numero(scritte[i].y) * 7;
+  };
+  const auto uguali = [&](std::size_t i, std::size_t k) {
+    const Scritta& una = scritte[i];
+    const Scritta& altra = scritte[k];
+    return una.x == altra.x && una.y == altra.y && una.decimi == altra.decimi && una.testo == altra.testo;
+  };
+  std::unordered_set<std::size_t, decltype(impronta), decltype(uguali)> prime(scritte.size(), impronta, uguali);
+  std::vector<std::size_t> gemelle;
+  gemelle.reserve(scritte.size());
+  for (std::size_t i = 0; i < scritte.size(); ++i) gemelle.push_back(SiPosa(scritte[i]) ? *prime.insert(i).first : i);
+  return gemelle;
+}
 
-  [[nodiscard]] std::vector<std::optional<Scarto>> Disponi() && {
-    for (std::size_t i = 0; i < scritte_.size(); ++i)
-      if (SiPosa(scritte_[i])) Posa(i);
-    return std::move(posti_);
-  }
-
-private:
-  void Posa(std::size_t quale) {
-    const Scritta scritta = Spaziosa(scritte_[quale]);
-    for (const Scarto& scarto : Posti(scritta)) {
-      const Rettangolo dove = Ingombro(scritta, scarto);
-      bool libero = true;
-      griglia_.Toccati(dove, [&](const Griglia::Occupato& altro) {
-        libero = false;
-        const bool gemella = Gemelle(scritta, scritte_[altro.quale]);
-        if (gemella) posti_[quale] = posti_[altro.quale];
-        return gemella;
-      });
-      if (posti_[quale]) return;
-      if (libero) {
-        griglia_.Occupa(dove, quale);
-        posti_[quale] = scarto;
-        return;
-      }
-      if (scritta.decimi != 0) return;
+std::optional<Scarto> Posa(const Scritta& scritta, Griglia& griglia) {
+  for (const Scarto& scarto : Posti(scritta)) {
+    const Rettangolo dove = Ingombro(scritta, scarto);
+    if (griglia.Libero(dove)) {
+      griglia.Occupa(dove);
+      return scarto;
     }
+    if (scritta.decimi != 0) break;
   }
-
-  static bool Gemelle(const Scritta& una, const Scritta& altra) {
-    return una.x == altra.x && una.y == altra.y && una.testo == altra.testo && una.decimi == altra.decimi;
-  }
-
-  std::span<const Scritta> scritte_;
-  Griglia griglia_;
-  std::vector<std::optional<Scarto>> posti_;
-};
+  return {};
+}
 
 } // namespace
 
 std::vector<std::optional<Scarto>> DisponiScritte(std::span<const Scritta> scritte) {
-  return Dispositore(scritte).Disponi();
+  const std::vector<std::size_t> gemelle = Gemelle(scritte);
+  Griglia griglia(scritte.size());
+  std::vector<std::optional<Scarto>> posti(scritte.size());
+  for (std::size_t i = 0; i < scritte.size(); ++i) {
+    if (gemelle[i] != i)
+      posti[i] = posti[gemelle[i]];
+    else if (SiPosa(scritte[i]))
+      posti[i] = Posa(Spaziosa(scritte[i]), griglia);
+  }
+  return posti;
 }
 
 } // namespace lirmeto
