@@ -118,7 +118,18 @@ bool Fotografo::Intestazione() {
   form.AlCaricamento();
   ui::FinestraCatasto1 finestra(form);
   Mostra(finestra, 1040, 620);
-  return Salva(finestra, "intestazione");
+  return Salva(finestra, "intestazione") && IntestazioneErrata(form);
+}
+
+// With what is wrong marked at its boxes.
+bool Fotografo::IntestazioneErrata(FormCatasto1TXT& form) {
+  form.Cambia(casella::Data, "30022026");
+  form.Cambia(casella::Comune, "G22");
+  form.Cambia(casella::Foglio, "12AB");
+  form.Cambia(casella::CodiceFiscale, "RSSMTN84C52G224X");
+  ui::FinestraCatasto1 finestra(form);
+  Mostra(finestra, 1040, 620);
+  return Salva(finestra, "intestazione_errata");
 }
 
 // The rows of the libretto as a report.

@@ -1,6 +1,9 @@
 #include "fotografo.h"
 
+#include <ui/comune/prepara_finestra.h>
+
 #include <QApplication>
+#include <QDialog>
 #include <QTextStream>
 
 namespace lirmeto::foto {
@@ -15,6 +18,7 @@ QString Coda() {
 } // namespace
 
 void Fotografo::Mostra(QWidget& finestra, int larghezza, int altezza) const {
+  if (qobject_cast<QDialog*>(&finestra) != nullptr) ui::PreparaFinestra(finestra); // as every form is shown
   if (larghezza > 0) finestra.resize(larghezza, altezza);
   finestra.show();
   if (massima_.isValid()) finestra.resize(finestra.size().boundedTo(massima_));

@@ -16,8 +16,9 @@ class FinestraPrincipale;
 } // namespace lirmeto::ui
 
 namespace lirmeto {
+class FormCatasto1TXT;
 struct ParticellaScelta;
-}
+} // namespace lirmeto
 
 namespace lirmeto::foto {
 
@@ -47,6 +48,7 @@ private:
   bool Riordino();
   bool ConfiguraPregeo();
   bool Intestazione();
+  bool IntestazioneErrata(FormCatasto1TXT& form);
   bool Stampa();
   bool Comuni();
   bool Domande();

@@ -103,13 +103,16 @@ void FinestraCatasto1::AggiungiCasella(QGridLayout& griglia, std::size_t indice,
   linea->setSizePolicy(lettere > 0 ? QSizePolicy::Fixed : QSizePolicy::Expanding, QSizePolicy::Fixed);
   CollegaCasella(indice, linea);
   dietro.insert(dietro.begin(), linea);
+  constexpr int lettereConPosto = 10; // behind a wider box the reason has no room: it stands below
   if (lettere > 0) {
     difetti_[indice] = new QLabel(this);
     difetti_[indice]->setObjectName(QStringLiteral("Difetto"));
     difetti_[indice]->setTextFormat(Qt::PlainText);
-    dietro.push_back(difetti_[indice]);
+    difetti_[indice]->hide();
   }
+  if (lettere > 0 && lettere <= lettereConPosto) dietro.push_back(difetti_[indice]);
   AggiungiRiga(griglia, AQString(EtichetteCaselle()[indice]), dietro);
+  if (lettere > lettereConPosto) AggiungiRiga(griglia, {}, {difetti_[indice]});
 }
 
 void FinestraCatasto1::AggiungiScelta(QGridLayout& griglia, Elenco elenco, Parti dietro) {
