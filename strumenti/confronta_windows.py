@@ -79,7 +79,9 @@ def prepara(corsia):
 def esegui(programma, dischi, parole):
     comando = [*programma, "--dischi", dischi, "--oggi", "2026-11-22", *parole]
     esito = subprocess.run([str(p) for p in comando], cwd=dischi, stdin=subprocess.DEVNULL, capture_output=True, timeout=300)
-    return esito.returncode, esito.stdout, esito.stderr
+    # What Wine says of itself is none of the program's messages.
+    messaggi = b"".join(r for r in esito.stderr.splitlines(keepends=True) if not r.startswith(b"wine: "))
+    return esito.returncode, esito.stdout, messaggi
 
 
 def impronta(cartella):
