@@ -175,7 +175,8 @@ bool KR_LibrettoOriginale::EseguiConForm(Comando comando) {
   if (form.empty()) return false;
   Verifiche.Dimentica(); // a form may change the extract or install an archive
   if (SoloConsulta(comando)) {
-    if (ApriForm(ambiente_, form)) DecoZeroNove(ambiente_);
+    const bool letto = comando == Comando::ConfiguraPregeo; // PREGEO.INI has the last word until row 0 is read again
+    if (ApriForm(ambiente_, form) && !letto) DecoZeroNove(ambiente_);
     MostraSessione();
     return true;
   }

@@ -38,8 +38,8 @@ void DiscoDischi::RicordaCartelle(bool si) {
 // What has just been made, where its folder is remembered.
 void DiscoDischi::Annota(const fs::path& voce) {
   if (!ricordate_) return;
-  const auto cartella = ricordate_->find(voce.parent_path().string());
-  const std::string utf8 = voce.filename().string();
+  const auto cartella = ricordate_->find(Utf8DaOspite(voce.parent_path()));
+  const std::string utf8 = Utf8DaOspite(voce.filename());
   const auto nome = NomeDaOspite(utf8);
   if (cartella != ricordate_->end() && nome) cartella->second.try_emplace(Maiuscolo(*nome), utf8);
 }

@@ -266,7 +266,7 @@ TEST(Scambio, ChiConsegnaSoloIlDisegnoNonScriveAltro) {
     EXPECT_EQ(sala.dialoghi.UltimoTesto(), solo ? "" : "Salvato il file \r\n" + Programma + "\\temp\\CopiaInFile.TXT");
     sala.finestra.Chiusura({});
     EXPECT_TRUE(sala.finestra.Finita);
-    EXPECT_EQ(Contiene(sala.disco.Contenuto("C:\\ACT.DAT"), "ROSSI"), !solo);
+    EXPECT_EQ(Contiene(sala.disco.Contenuto("C:\\ACT.DAT"), "<DIT>ROSSI"), !solo);
   }
 }
 

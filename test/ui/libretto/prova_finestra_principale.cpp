@@ -79,7 +79,8 @@ TEST(FinestraPrincipale, OgniPulsanteDellaTabellaHaFiguraEStato) {
     EXPECT_EQ(bottone->text().left(didascalia.size()), didascalia) << pulsante.indice;
     EXPECT_FALSE(bottone->icon().isNull()) << pulsante.indice;
     EXPECT_EQ(bottone->isEnabled(), tavolo.modello.Disponibile(pulsante.comando)) << pulsante.indice;
-    EXPECT_EQ(bottone->toolTip() == QStringLiteral("Non ancora disponibile"), !bottone->isEnabled()) << pulsante.indice;
+    EXPECT_EQ(bottone->toolTip() == ui::AQString(EffettoDi(Comando::NessunaAzione)), !bottone->isEnabled())
+        << pulsante.indice;
   }
   EXPECT_TRUE(pannello->Bottone(PulsanteProvincia)->text().endsWith(QStringLiteral("[PD]")));
 }
@@ -282,6 +283,7 @@ void Voce(Tavolo& tavolo, const QString& titolo) {
 TEST(FinestraPrincipale, IncollaPrendeIlTestoDegliAppunti) {
   Tavolo tavolo;
   tavolo.banco.appunti.testo = Testo({RigheDiProva()[0], RigheDiProva()[1], "6|INCOLLATA|"});
+  tavolo.banco.dialoghi.risposte = {Risposta::Si};
   Voce(tavolo, QStringLiteral("Incolla da Appunti"));
   ASSERT_EQ(tavolo.Elenco().Quante(), 3U);
   EXPECT_EQ(tavolo.Elenco().Riga(2), "6|INCOLLATA|");
