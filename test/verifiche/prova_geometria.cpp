@@ -112,10 +112,11 @@ TEST(Figura, DisegnaCioCheLeRigheDicono) {
   EXPECT_EQ(archivio.Punti()[archivio.PrimoDiNome("101").value()].Colore, colore::Nero);
   EXPECT_TRUE(archivio.PrimoDiNome("10000"));
   ConAtto lontano;
-  lontano.ApriCon(
-      {"31 -170.775>-12170.775", "32 -190.115>-12190.115", "33 -218.765>-12218.765", "34 -181.867>-12181.867"});
+  lontano.ApriCon({"41 |RC|>|VC|", "31 -170.775>-12170.775", "32 -190.115>-12190.115", "33 -218.765>-12218.765",
+                   "34 -181.867>-12181.867"});
   ArchivioGrafica vicino;
   DisegnaRilievo({lontano.verificatore.Righe(), lontano.verificatore.Posti(), lontano.verificatore.Archivi()}, vicino);
+  EXPECT_EQ(Linee(vicino, colore::Verde), 5U) << "the contour too";
   EXPECT_FALSE(vicino.PrimoDiNome("10000")) << "the picture would be a speck in a corner";
   for (const auto& [nome, x, y] :
        {std::tuple{"103", 1165.0, 1125.0}, {"105", 1140.0, 1090.0}, {"300", 1150.0, 1140.0}}) {
