@@ -15,7 +15,6 @@ PACCHETTI_CROSS=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev patch xz
 prepara_wine() {
   export WINEPREFIX="$WINDOWS/wine" WINEDEBUG=-all WINEARCH=win64 WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe="
   [ -f "$WINEPREFIX/system.reg" ] || timeout 300 wine wineboot --init >"$WINDOWS/wine.log" 2>&1 || return 1
-  wineserver -p >/dev/null 2>&1 || true # stays between two programs, so that each starts quickly
 }
 
 # Ends the machine of Wine that prepara_wine has started.
