@@ -1,5 +1,6 @@
 #include <ui/comune/cursore_attesa.h>
 
+#include <QCursor>
 #include <QGuiApplication>
 
 namespace lirmeto::ui {
