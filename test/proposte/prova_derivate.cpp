@@ -318,10 +318,11 @@ void FrazionaACaso(BancoCensuario& banco, std::mt19937& caso, std::size_t giro) 
   }
 }
 
-TEST(Derivate, DuemilaFrazionamentiACaso) {
+TEST(Derivate, DiecimilaFrazionamentiACaso) {
   std::mt19937 caso(7);
   BancoCensuario banco;
-  for (std::size_t giro = 0; giro < 2000 && !testing::Test::HasFatalFailure(); ++giro) FrazionaACaso(banco, caso, giro);
+  for (std::size_t giro = 0; giro < 10000 && !testing::Test::HasFatalFailure(); ++giro)
+    FrazionaACaso(banco, caso, giro);
 }
 
 } // namespace
