@@ -12,7 +12,7 @@ namespace {
 constexpr std::string_view Sezione = "LIBRETTI_RECENTI";
 
 std::string Chiave(std::size_t indice) {
-  return TestoIntero(static_cast<long long>(indice + 1));
+  return TestoIntero(static_cast<long long>(indice) + 1);
 }
 
 std::vector<std::string> SenzaPercorso(std::vector<std::string> recenti, std::string_view percorso) {

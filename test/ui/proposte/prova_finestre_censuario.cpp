@@ -135,11 +135,28 @@ TEST_F(Censuario, NomeEScambioDiUnaNuovaCostruzione) {
   auto& nomi = Figlio<QListWidget>(finestra, "List3");
   QTest::mouseClick(nomi.viewport(), Qt::LeftButton, {}, nomi.visualItemRect(nomi.item(1)).center());
   Premi(finestra, 4);
-  EXPECT_EQ(Mostrate(Figlio<QListView>(finestra, "List1")).back(),
-            "6|C|     |000|a |AAB  |000000100|SR|  |     |282|  |                 |");
+  EXPECT_EQ(Mostrate(Figlio<QListView>(finestra, "List1")),
+            (Righe{std::string(censuario::Intestazione), RigaConteggio(censuario::Stralcio, 3),
+                   "6|O|35   |000|  |     |000000100|SR|  |     |001|01|                 |",
+                   "6|S|35   |000|  |     |000000000|  |  |     |000|  |                 |",
+                   "6|C|     |000|a |AAB  |000000100|SR|  |     |282|  |                 |"}));
   Premi(finestra, 2);
   DoppioClic(Figlio<QListView>(finestra, "Memo"), 4, 0);
   EXPECT_EQ(form.List2.Quante(), 4U);
+}
+
+TEST_F(Censuario, LaVariazioneNelLibretto) {
+  KR_TMVariazione form(tavolo.ambiente, ScegliParticella(tavolo.banco.sessione, Cento, {}));
+  form.Form_Load();
+  ui::FinestraTipoMappale finestra(form);
+  Mostra(finestra);
+  const Righe righe = {std::string(censuario::Intestazione), RigaConteggio(censuario::Stralcio, 2),
+                       "6|O|35   |000|  |     |000000100|SN|  |     |001|01|                 |",
+                       "6|V|35   |000|  |     |000000100|SN|  |     |282|  |                 |"};
+  EXPECT_EQ(Mostrate(Figlio<QListView>(finestra, "List1")), righe);
+  Premi(finestra, 4);
+  Premi(finestra, 1);
+  EXPECT_TRUE(tavolo.banco.sessione.Libretto.ends_with(Testo(righe))) << tavolo.banco.sessione.Libretto;
 }
 
 TEST_F(Censuario, LaFusioneDiDueParticelle) {
