@@ -57,14 +57,14 @@ void Tingi(QApplication& applicazione, bool scuro) {
 
 void VestiApplicazione(QApplication& applicazione, Luce luce) {
   RegistraRisorse();
-  applicazione.setStyle(new StileFinestre);
+  bool scuro = luce == Luce::Scura;
   if (luce == Luce::Sistema) {
     auto* sistema = new LuceDiSistema(&applicazione);
     QObject::connect(sistema, &LuceDiSistema::Cambiata, &applicazione, [&](bool scura) { Tingi(applicazione, scura); });
-    Tingi(applicazione, sistema->Scura());
-  } else {
-    Tingi(applicazione, luce == Luce::Scura);
+    scuro = sistema->Scura();
   }
+  applicazione.setStyle(new StileFinestre);
+  Tingi(applicazione, scuro); // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style
   applicazione.setWindowIcon(Icona(QStringLiteral("lirmeto")));
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   TraduciDialoghi(applicazione);
