@@ -64,7 +64,7 @@ void VestiApplicazione(QApplication& applicazione, Luce luce) {
     scuro = sistema->Scura();
   }
   applicazione.setStyle(new StileFinestre);
-  Tingi(applicazione, scuro); // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style
+  Tingi(applicazione, scuro);
   applicazione.setWindowIcon(Icona(QStringLiteral("lirmeto")));
   QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
   TraduciDialoghi(applicazione);

@@ -181,11 +181,11 @@ void DipingiPagina(QPainter& pittore, const Operazioni& lista, const QRectF& are
   pittore.restore();
 }
 
-PittoreSchermo::PittoreSchermo(Inchiostri inchiostri) : inchiostri_(std::move(inchiostri)) {}
+PittoreSchermo::PittoreSchermo(Inchiostri inchiostri) : inchiostri_(inchiostri) {}
 PittoreSchermo::~PittoreSchermo() = default;
 
 void PittoreSchermo::Cambia(Inchiostri inchiostri) {
-  inchiostri_ = std::move(inchiostri);
+  inchiostri_ = inchiostri;
   timbri_.clear();
 }
 
