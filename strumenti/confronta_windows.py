@@ -17,6 +17,7 @@ import pathlib
 import shutil
 import subprocess
 import sys
+import tempfile
 
 RADICE = pathlib.Path(__file__).resolve().parent.parent
 CORSIE = os.cpu_count() or 1
@@ -78,10 +79,15 @@ def prepara(corsia):
 
 def esegui(programma, dischi, parole):
     comando = [*programma, "--dischi", dischi, "--oggi", "2026-11-22", *parole]
-    esito = subprocess.run([str(p) for p in comando], cwd=dischi, stdin=subprocess.DEVNULL, capture_output=True, timeout=300)
-    # What Wine says of itself is none of the program's messages.
-    messaggi = b"".join(r for r in esito.stderr.splitlines(keepends=True) if not r.startswith(b"wine: "))
-    return esito.returncode, esito.stdout, messaggi
+    # Into files: Wine's own processes hold a pipe for seconds after the program's end.
+    with tempfile.TemporaryFile() as uscita, tempfile.TemporaryFile() as errori:
+        esito = subprocess.run([str(p) for p in comando], cwd=dischi, stdin=subprocess.DEVNULL, stdout=uscita, stderr=errori,
+                               timeout=300)
+        uscita.seek(0)
+        errori.seek(0)
+        # What Wine says of itself is none of the program's messages.
+        messaggi = b"".join(r for r in errori if not r.startswith(b"wine: "))
+        return esito.returncode, uscita.read(), messaggi
 
 
 def impronta(cartella):
