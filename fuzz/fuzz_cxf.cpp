@@ -39,7 +39,8 @@ void ProvaSomma(const std::string& estratto) {
     const std::string somma = UnisciEstratti(estratto, estratto);
     Pretendi(UnisciEstratti(somma, "") == somma, "a sum with nothing changes nothing");
   } catch (const Errore& errore) {
-    Pretendi(errore.Numero() == errore::IndiceFuoriIntervallo, "a sum is refused for coordinates that lack");
+    Pretendi(errore.Numero() == errore::IndiceFuoriIntervallo || errore.Numero() == errore::Overflow,
+             "a sum is refused for coordinates that lack, or numbers of vertices beyond measure");
   }
 }
 
