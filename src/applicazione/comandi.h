@@ -11,7 +11,6 @@ namespace lirmeto {
 
 enum class Comando {
   NessunaAzione,      // nothing in the system stands behind it: its place is kept, shown as unavailable
-  NonDisponibile,     // its work is still to come: shown disabled
   NuovoLibretto,      // needs the header form
   NuovoLibrettoVuoto, // the same from its button
   ApriDaFile,

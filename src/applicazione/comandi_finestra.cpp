@@ -102,7 +102,7 @@ void KR_LibrettoOriginale::EseguiStrumento(std::string_view tag) {
 bool KR_LibrettoOriginale::Disponibile(Comando comando) const {
   const std::string_view form = FormDi(comando);
   if (!form.empty()) return ambiente_.finestre.Disponibile(form);
-  return comando != Comando::NonDisponibile && comando != Comando::NessunaAzione;
+  return comando != Comando::NessunaAzione;
 }
 
 bool KR_LibrettoOriginale::Attivo(Comando comando) const {

@@ -9,7 +9,7 @@
 
 namespace lirmeto {
 
-// Names, those of forms whose work is still to come too; core/nomi_forme.h has those that lower layers open.
+// Names; core/nomi_forme.h has those that lower layers open.
 namespace forma {
 inline constexpr std::string_view ConfiguraPregeo = "FormConfiguraPregeo";
 inline constexpr std::string_view Intestazione = "FormCatasto1TXT";
@@ -36,7 +36,7 @@ struct Forma {
 // The forms that this program has.
 [[nodiscard]] std::span<const Forma> Forme();
 
-// The form of this name; null when the program has it not yet.
+// The form of this name; null when there is none.
 [[nodiscard]] const Forma* TrovaForma(std::string_view nome);
 
 } // namespace lirmeto

@@ -1,6 +1,5 @@
 #include <core/appunti_righe.h>
 
-#include <base/numeri.h>
 #include <base/testo.h>
 #include <core/salvataggio.h>
 
@@ -28,22 +27,18 @@ void MettiNegliAppunti(Ambiente& ambiente, const std::vector<std::size_t>& quali
   ambiente.appunti.MettiTesto(testo);
 }
 
-std::string Quante(std::size_t righe) {
-  return TestoIntero(static_cast<long long>(righe)) + (righe == 1 ? " riga" : " righe");
-}
-
 void DiciEscluse(Ambiente& ambiente, const std::vector<std::string_view>& escluse, std::size_t ripetute) {
   constexpr std::size_t mostrate = 10;
   std::string detto;
   if (!escluse.empty()) {
-    detto = Quante(escluse.size()) + " non si possono incollare:";
+    detto = QuanteRighe(escluse.size()) + " non si possono incollare:";
     for (std::size_t i = 0; i < std::min(escluse.size(), mostrate); ++i) detto.append(FineRiga).append(escluse[i]);
     if (escluse.size() > mostrate) detto.append(FineRiga).append("...");
   }
   if (ripetute > 0) {
     if (!detto.empty()) detto.append(FineRiga);
-    detto +=
-        ripetute == 1 ? "1 riga uguale alla precedente: tolta" : Quante(ripetute) + " uguali alla precedente: tolte";
+    detto += ripetute == 1 ? "1 riga uguale alla precedente: tolta"
+                           : QuanteRighe(ripetute) + " uguali alla precedente: tolte";
   }
   if (!detto.empty()) ambiente.dialoghi.Messaggio(detto, "Incolla Righe");
 }

@@ -1,10 +1,10 @@
 #include <core/riordino.h>
 
-#include <base/numeri.h>
 #include <base/testo.h>
 #include <core/apertura.h>
 #include <core/apri_form.h>
 #include <core/libretto_in_classi.h>
+#include <core/salvataggio.h>
 
 #include <algorithm>
 #include <unordered_map>
@@ -26,10 +26,6 @@ void ContaEliminate(const ListaRighe& tutte, const ListaRighe& restate, Conteggi
     else
       ++eliminate[riga];
   }
-}
-
-std::string Quante(std::size_t righe) {
-  return TestoIntero(static_cast<long long>(righe)) + (righe == 1 ? " riga" : " righe");
 }
 
 } // namespace
@@ -100,7 +96,7 @@ bool FormRiordinoRighe::Domanda(const Classe& classe, std::string_view cosa) {
 void FormRiordinoRighe::EliminaClasse(std::size_t classe) {
   if (classe >= Classi().size() || Classi()[classe].domanda.empty()) return;
   ListaRighe& lista = Righe[Classi()[classe].classe];
-  if (Domanda(Classi()[classe], Quante(lista.size()))) lista.clear();
+  if (Domanda(Classi()[classe], QuanteRighe(lista.size()))) lista.clear();
 }
 
 void FormRiordinoRighe::DoppioClick(std::size_t classe, std::size_t riga) {

@@ -1,7 +1,7 @@
 // Undo and redo of each command, and the notice of dropped rows that comes and goes with them.
+#include "forme_vere.h"
 #include "sala.h"
 
-#include <applicazione/forme.h>
 #include <base/testo.h>
 #include <core/righe_scartate.h>
 #include <core/riordino.h>
@@ -15,6 +15,7 @@
 namespace lirmeto {
 namespace {
 
+using prova::FormeVere;
 using prova::Nove;
 using prova::Sala;
 using prova::Testo;
@@ -99,26 +100,16 @@ INSTANTIATE_TEST_SUITE_P(
                                 }}),
     [](const auto& caso) { return caso.param.nome; });
 
-// Forms opened by name are the real ones.
-struct FinestreVere : prova::FinestreDiProva {
-  Ambiente* ambiente = nullptr;
-  [[nodiscard]] bool Disponibile(std::string_view nome) const override { return TrovaForma(nome) != nullptr; }
-  void Apri(std::string_view nome) override { TrovaForma(nome)->apri(*ambiente); }
-};
-
 TEST(Annulla, LIntestazioneConfermata) {
   Sala sala;
-  FinestreVere finestre;
-  Ambiente vero{sala.sessione, sala.disco,        sala.dialoghi, finestre,
-                sala.processi, sala.impostazioni, sala.appunti,  sala.orologio};
-  finestre.ambiente = &vero;
-  finestre.utente = [](Modello& modello) {
+  FormeVere vere(sala);
+  vere.utente = [](Modello& modello) {
     auto& form = dynamic_cast<FormCatasto1TXT&>(modello);
     form.Cambia(1, "99");
     form.Premi(0);
   };
   sala.dialoghi.risposte = {Risposta::Si}; // a fiscal code that is none
-  KR_LibrettoOriginale finestra(vero);
+  KR_LibrettoOriginale finestra(vere.ambiente);
   finestra.Avvia("C:\\ACT.DAT");
   const auto prima = sala.Foto();
   finestra.DoppioClick(0);
@@ -132,11 +123,8 @@ TEST(Annulla, LIntestazioneConfermata) {
 // A header confirmed inside the reorder holds; what the dialog deleted, the comment too, stays deleted.
 TEST(Riordino, LIntestazioneConfermataDentroNonTornaQuellaDiPrima) {
   Sala sala;
-  FinestreVere finestre;
-  Ambiente vero{sala.sessione, sala.disco,        sala.dialoghi, finestre,
-                sala.processi, sala.impostazioni, sala.appunti,  sala.orologio};
-  finestre.ambiente = &vero;
-  finestre.utente = [](Modello& modello) {
+  FormeVere vere(sala);
+  vere.utente = [](Modello& modello) {
     if (auto* intestazione = dynamic_cast<FormCatasto1TXT*>(&modello)) {
       intestazione->Cambia(1, "99");
       intestazione->Cambia(16, "777");
@@ -152,7 +140,7 @@ TEST(Riordino, LIntestazioneConfermataDentroNonTornaQuellaDiPrima) {
     form.Conferma();
   };
   sala.dialoghi.risposte = {Risposta::Si};
-  KR_LibrettoOriginale finestra(vero);
+  KR_LibrettoOriginale finestra(vere.ambiente);
   finestra.Avvia("C:\\ACT.DAT");
   finestra.Esegui(Comando::MostraRiordino);
   EXPECT_EQ(Parte(sala.Righe()[0], '|', 2), "99");

@@ -1,4 +1,4 @@
-#include "sostituti/banco.h"
+#include "forme_vere.h"
 
 #include <applicazione/comandi_tag.h>
 #include <applicazione/finestra_principale.h>
@@ -20,6 +20,7 @@ namespace lirmeto {
 namespace {
 
 using prova::Banco;
+using prova::FormeVere;
 using prova::Testo;
 
 const std::string Nuovo = "C:\\users\\prova\\Documents\\LIRMETO\\Nuovo.DAT";
@@ -174,13 +175,6 @@ INSTANTIATE_TEST_SUITE_P(Casi, Disegno,
                          testing::Values(CasoDisegno{true, 1, Resta, 3}, CasoDisegno{false, 1, Resta, 2},
                                          CasoDisegno{true, -1, Finisce, 3}));
 
-// Forms by their name are the real ones, played by `utente`.
-struct FinestreVere : prova::FinestreDiProva {
-  Ambiente* ambiente = nullptr;
-  [[nodiscard]] bool Disponibile(std::string_view nome) const override { return TrovaForma(nome) != nullptr; }
-  void Apri(std::string_view nome) override { TrovaForma(nome)->apri(*ambiente); }
-};
-
 struct CasoGenera {
   bool preme;
   bool siScrive;
@@ -195,11 +189,8 @@ TEST_P(DalDisegno, FinisceSoloSeIlLibrettoCE) {
   const std::string disegno = Testo({"P,100,0,0,1,N,1.5", "P,101,3,4,2,N,1.5", "L,0,0,1,3,4,2", "7,|100|101|RC|,PD,"});
   const CasoGenera& caso = GetParam();
   Banco banco;
-  FinestreVere finestre;
-  Ambiente ambiente{banco.sessione, banco.disco,        banco.dialoghi, finestre,
-                    banco.processi, banco.impostazioni, banco.appunti,  banco.orologio};
-  finestre.ambiente = &ambiente;
-  finestre.utente = [&](Modello& modello) {
+  FormeVere vere(banco);
+  vere.utente = [&](Modello& modello) {
     if (dynamic_cast<FormCatasto1TXT*>(&modello) != nullptr) banco.sessione.EsitoForm = EsitoConfermato;
     auto* form = dynamic_cast<LibrettoDaDisegno*>(&modello);
     if (form == nullptr || !caso.preme) return;
@@ -210,7 +201,7 @@ TEST_P(DalDisegno, FinisceSoloSeIlLibrettoCE) {
   banco.disco.cartelle.emplace_back("C:\\R.LXC"); // the folder keeps its name
   banco.disco.Metti("C:\\R.LXC\\D.LXC", disegno);
   banco.sessione.ComandoTag = "c:\\r.lxc\\d.lxc|LIBRETTO_DA_DISEGNO|";
-  EXPECT_EQ(ComandoTag1(ambiente), caso.dopo);
+  EXPECT_EQ(ComandoTag1(vere.ambiente), caso.dopo);
   EXPECT_EQ(banco.sessione.NomeFileLibretto, "C:\\R.LXC\\D.TXT");
   EXPECT_EQ(banco.disco.Contenuto("C:\\R.LXC\\D.LXC"), disegno);
   EXPECT_EQ(Contiene(banco.sessione.Libretto, "\r\n2|101|"), caso.preme);

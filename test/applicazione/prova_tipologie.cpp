@@ -18,9 +18,8 @@ namespace {
 
 using prova::Banco;
 using prova::Testo;
+using prova::Zero;
 using Elenco = std::vector<std::string>;
-
-const std::string Zero = "0|01022024|7|G224|0010|12,3|ROSSI MARIO|GEOMETRA|PADOVA|";
 
 // Parcel 35 is land, 36 urban, 37 rural, 38 divided.
 const Elenco Estratto = {"0|12032018|1|G224|00042|35,36|PD|PUB|A|1|",

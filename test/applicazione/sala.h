@@ -10,8 +10,6 @@
 
 namespace lirmeto::prova {
 
-inline const std::string Zero = "0|01022024|7|G224|0010|12,3|ROSSI MARIO|GEOMETRA|PADOVA|";
-inline const std::string Nove = "9|12|10|20|0|VER|FR|TOTALE|";
 inline const std::string Programma = "C:\\users\\prova\\Documents\\LIRMETO";
 
 struct Sala : Banco {

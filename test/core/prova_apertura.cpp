@@ -13,9 +13,9 @@ namespace {
 
 using prova::Banco;
 using prova::Testo;
+using prova::Zero;
 using Righe = std::vector<std::string>;
 
-const std::string Zero = "0|01022024|7|G224|0010|1|ROSSI MARIO|GEOMETRA|PADOVA|";
 const std::string Nove = "9|12|10|20|-1000|VER|FR|TOTALE|";
 const std::string ZeroPredefinita = "0|21112026|1|G693|0010|1|COGNOME NOME|GEOMETRA|PADOVA|";
 const std::string NovePredefinita = "9|20|10|20|1070|10.00-G,STDA 2.08|18|TIPO SENZA GEOMETRIA|";

@@ -10,11 +10,11 @@ namespace lirmeto {
 namespace {
 
 using prova::Banco;
+using prova::Nove;
 using prova::Testo;
+using prova::Zero;
 using Righe = std::vector<std::string>;
 
-const std::string Zero = "0|01022024|7|G224|0010|1|ROSSI MARIO|GEOMETRA|PADOVA|";
-const std::string Nove = "9|12|10|20|0|VER|FR|TOTALE|";
 const std::string Originale = "6|O|35   |000|  |     |000029390|SN|  |     |001|1 |                 |";
 
 struct CasoCaselle {

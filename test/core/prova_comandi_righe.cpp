@@ -10,11 +10,11 @@ namespace lirmeto {
 namespace {
 
 using prova::Banco;
+using prova::Nove;
 using prova::Testo;
+using prova::Zero;
 using Righe = std::vector<std::string>;
 
-const std::string Zero = "0|01022024|7|G224|0010|12,3|ROSSI MARIO|GEOMETRA|PADOVA|";
-const std::string Nove = "9|12|10|20|0|VER|FR|TOTALE|";
 const std::string Base = "1|100|4410603.370,653928.450,4545947.070|0.000|";
 std::string Gps(const std::string& nome, const std::string& nota) {
   return "2|" + nome + "|1.0,2.0,3.0|0.1,0.2|PDOP=2|0.000|" + nota + "|";

@@ -58,8 +58,7 @@ void Cambia(Banco& banco, std::mt19937& caso) {
 
 TEST(Storia, IndietroEAvantiDopoOgniCambiamento) {
   Banco banco;
-  banco.Apri(Testo({"0|01022024|7|G224|0010|12,3|ROSSI MARIO|GEOMETRA|PADOVA|", "9|12|10|20|0|VER|FR|TOTALE|", "1|1|2|",
-                    "8|9|1|2|", "2|5|6|7|"}));
+  banco.Apri(Testo({prova::Zero, prova::Nove, "1|1|2|", "8|9|1|2|", "2|5|6|7|"}));
   Storia storia;
   storia.Ricomincia(banco.sessione);
   std::mt19937 caso(20);
@@ -90,7 +89,7 @@ TEST(Storia, IndietroEAvantiDopoOgniCambiamento) {
 
 TEST(Storia, CioCheSiScriveFraDueComandiNonSiPerde) {
   Banco banco;
-  banco.Apri(Testo({"0|01022024|7|G224|0010|12,3|ROSSI MARIO|GEOMETRA|PADOVA|", "9|12|10|20|0|VER|FR|TOTALE|"}));
+  banco.Apri(Testo({prova::Zero, prova::Nove}));
   Storia storia;
   storia.Ricomincia(banco.sessione);
   banco.sessione.Ditta = "SCRITTA";

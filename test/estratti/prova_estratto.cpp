@@ -21,7 +21,7 @@ using prova::Testo;
 using Righe = std::vector<std::string>;
 
 const std::string Percorso = "C:\\pregeo\\estratti\\X.EMP";
-const std::string Zero = "0|12062026|PD0041877/2026|G224|00123|35,36|PD|PUB|RSSMTN|10000000000017|";
+const std::string ZeroEstratto = "0|12062026|PD0041877/2026|G224|00123|35,36|PD|PUB|RSSMTN|10000000000017|";
 
 // Loads and saves in place.
 Righe Salvate(Banco& banco, const Righe& righe) {
@@ -40,7 +40,7 @@ Righe Salvate(Banco& banco, const Righe& righe) {
 // rows that no list wants.
 const Righe Mista = {
     // clang-format off
-    Zero, "8|1%|0.0|0.0|", "8|10%|100.0|0.0|", "8|2%|100.0|100.0|", "8|30%|0.0|100.0|",
+    ZeroEstratto, "8|1%|0.0|0.0|", "8|10%|100.0|0.0|", "8|2%|100.0|100.0|", "8|30%|0.0|100.0|",
     "8|7T|50.0|50.0|1.57|VIA ROMA|", "8|PF01/1230/G224|1.0|2.0|", "7|5|1%|10%|2%|30%|1%|NC|35|35|1376.6562654372|",
     "7|5|1%|2%|30%|1%|1%|NC|35-|35-|7|", "8|8L|1.0|1.0|", "8|9L|2.0|2.0|",
     "7|10|1%|10%|10%|10%|10%|2%|2%|2%|2%|1%|NC|36|36|1|",
@@ -54,7 +54,7 @@ const Righe Mista = {
 
 const Righe MistaSalvata = {
     // clang-format off
-    Zero, "8|1%|0.0|0.0|", "8|2%|100.0|100.0|", "8|3%|100.0|0.0|", "8|4%|0.0|100.0|",
+    ZeroEstratto, "8|1%|0.0|0.0|", "8|2%|100.0|100.0|", "8|3%|100.0|0.0|", "8|4%|0.0|100.0|",
     "8|5T|50.0|50.0|1.57|VIA ROMA|", "8|6L|1.0|1.0|", "8|7L|2.0|2.0|", "8|PF01/1230/G224|1.0|2.0|",
     "7|11|1%|3%|2%|4%|4%|4%|4%|4%|4%|4%|NC|37+|37+|10000|", "7|0|1%|NC|",
     "7|10|1%|3%|3%|3%|3%|2%|2%|2%|2%|1%|NC|36|36|5000|", "7|5|1%|2%|4%|1%|1%|NC|35-|35-|5000|",
@@ -84,7 +84,7 @@ TEST(Estratto, LeStringheDellaSessione) {
   ASSERT_TRUE(EsplodiEstratto(banco.ambiente, estratto, "x.emp"));
   const Sessione& s = banco.sessione;
   EXPECT_EQ(s.EstrattoFile, "C:\\pregeo\\estratti\\x.emp");
-  EXPECT_EQ(s.EstrattoRigaZero, Zero);
+  EXPECT_EQ(s.EstrattoRigaZero, ZeroEstratto);
   EXPECT_EQ(s.EstrattoData + s.EstrattoComune + s.EstrattoFoglio + s.EstrattoParticelle + s.EstrattoProvincia,
             "12062026G2240012335,36PD");
   EXPECT_EQ(s.EstrattoMesi, "5");
@@ -158,8 +158,8 @@ TEST(Estratto, QuelCheTornaDiUnAnello) {
   };
   for (auto [righe, attese] : casi) {
     Banco banco;
-    righe.insert(righe.begin(), Zero);
-    attese.insert(attese.begin(), Zero);
+    righe.insert(righe.begin(), ZeroEstratto);
+    attese.insert(attese.begin(), ZeroEstratto);
     EXPECT_EQ(Salvate(banco, righe), attese);
   }
 }
@@ -212,7 +212,7 @@ TEST_P(Guasto, DettoENientePerso) {
   }
 }
 
-const std::string Punto = Zero + "\r\n8|1%|0|0|\r\n";
+const std::string Punto = ZeroEstratto + "\r\n8|1%|0|0|\r\n";
 
 INSTANTIATE_TEST_SUITE_P(
     Prove, Guasto,
@@ -222,19 +222,19 @@ INSTANTIATE_TEST_SUITE_P(
                    ""}, // the sixth bar opens a seventh field
         CasoGuasto{"zeroPiuCorta", "0|12062026|x|G224|00123|35\r\n8|1%|0|0|\r\n", 9, ""},
         CasoGuasto{"senzaZero", "8|1%|0|0|\r\n7|4|1%|1%|1%|1%|NC|A|A|5|\r\n", 9, ""},
-        CasoGuasto{"soloLf", Zero + "\n8|1%|0|0|\n7|2|1%|1%|NC|A|A|5|\n", 0, ""},
-        CasoGuasto{"ottoSenzaNome", Zero + "\r\n8\r\n", 9, ""},
-        CasoGuasto{"ottoSenzaEst", Zero + "\r\n8|1%|0|\r\n", 0, ""},
-        CasoGuasto{"ottoSenzaNord", Zero + "\r\n8|1%|\r\n", 9, ""}, CasoGuasto{"setteNuda", Punto + "7\r\n", 9, ""},
-        CasoGuasto{"setteCorta", Punto + "7|2|1%|NC\r\n", 9, ""},
+        CasoGuasto{"soloLf", ZeroEstratto + "\n8|1%|0|0|\n7|2|1%|1%|NC|A|A|5|\n", 0, ""},
+        CasoGuasto{"ottoSenzaNome", ZeroEstratto + "\r\n8\r\n", 9, ""},
+        CasoGuasto{"ottoSenzaEst", ZeroEstratto + "\r\n8|1%|0|\r\n", 0, ""},
+        CasoGuasto{"ottoSenzaNord", ZeroEstratto + "\r\n8|1%|\r\n", 9, ""},
+        CasoGuasto{"setteNuda", Punto + "7\r\n", 9, ""}, CasoGuasto{"setteCorta", Punto + "7|2|1%|NC\r\n", 9, ""},
         CasoGuasto{"setteDiCinque", Punto + "7|2|1%|NC|\r\n", 0, ""},
         CasoGuasto{"lineaSenzaTesta", Punto + "7|0|2L|3L|NT|\r\n", 9, ""},
         CasoGuasto{"campi500", Punto + AnelloDi(500) + "\r\n", 0, ""},
         CasoGuasto{"campi501", Punto + AnelloDi(501) + "\r\n", 9, "Particella A: il contorno ha più di 500 vertici"_w},
         CasoGuasto{"puntoAssente", Punto + "7|4|1%|2%|3%|1%|NC|A|A|5|\r\n", 0, ""},
-        CasoGuasto{"lettere", Zero + "\r\n8|1%|nord|NaN|\r\n7|4|1%|1%|1%|1%|NC|A|A|5|\r\n", 0, ""},
-        CasoGuasto{"enorme", Zero + "\r\n8|1%|1e308|-1e308|\r\n8|2%|0|1e308|\r\n7|4|1%|2%|1%|1%|NC|A|A|5|\r\n", 6,
-                   "Particella A: coordinate fuori misura"},
+        CasoGuasto{"lettere", ZeroEstratto + "\r\n8|1%|nord|NaN|\r\n7|4|1%|1%|1%|1%|NC|A|A|5|\r\n", 0, ""},
+        CasoGuasto{"enorme", ZeroEstratto + "\r\n8|1%|1e308|-1e308|\r\n8|2%|0|1e308|\r\n7|4|1%|2%|1%|1%|NC|A|A|5|\r\n",
+                   6, "Particella A: coordinate fuori misura"},
         CasoGuasto{"inquadramentoNudo", Punto + "6|IN\r\n6|DITTA\r\n6|PA\r\n", 0, ""},
         CasoGuasto{"byteQualunque", Punto + std::string("\0\xFF|7|\x81\r\n7e0|||||||\r\n", 18), 0, ""}),
     [](const auto& caso) { return caso.param.nome; });

@@ -18,7 +18,7 @@ using prova::Estratto;
 using prova::Scegli;
 using prova::Tavolo;
 using prova::Testo;
-using prova::Zero;
+using prova::ZeroEstratto;
 using Righe = std::vector<std::string>;
 
 TEST(Manager, SelezionareMostraTestoEtichetteEDisegno) {
@@ -76,7 +76,7 @@ TEST(Manager, UnaCartellaVuotaOCheMancaHaDueEsempi) {
 
 TEST(Manager, DiUnFileGrandeLeSoleRigheIntereDellInizio) {
   Tavolo tavolo;
-  std::string grande = Zero + "\n";
+  std::string grande = ZeroEstratto + "\n";
   while (grande.size() < 200'000) grande += "6|DISTANZA|0123456789|\n";
   tavolo.disco.Metti(Cartella + "G.EMP", grande);
   KR_EstrattiDiMappa1 form(tavolo.ambiente);
@@ -136,9 +136,10 @@ std::string Con(const std::string& da, const std::string& a) {
 }
 
 const std::string FotoA = "foto";
-const std::string Salvato = Testo({Zero, "8|1%|0|0|", "8|2%|10|0|", "8|3%|10|10|", "7|4|1%|3%|2%|1%|NC|36|36|50|",
-                                   "7|4|1%|2%|3%|1%|NC|35|35|50|", "6|DITTA|1|ROSSI|2|X|",
-                                   "6|PARTICELLA|35/A|  |SEMINATIVO  |1|1| | |", "6|DISTORSIONE|1.5|"});
+const std::string Salvato =
+    Testo({ZeroEstratto, "8|1%|0|0|", "8|2%|10|0|", "8|3%|10|10|", "7|4|1%|3%|2%|1%|NC|36|36|50|",
+           "7|4|1%|2%|3%|1%|NC|35|35|50|", "6|DITTA|1|ROSSI|2|X|", "6|PARTICELLA|35/A|  |SEMINATIVO  |1|1| | |",
+           "6|DISTORSIONE|1.5|"});
 
 INSTANTIATE_TEST_SUITE_P(
     Casi, Comandi,
@@ -163,7 +164,7 @@ INSTANTIATE_TEST_SUITE_P(
                     "A.EMP",
                     {},
                     {"Vuota Estratto/Vuotare Estratto?"},
-                    {{"A.EMP", Testo({Zero, "6|DISTORSIONE|1.5|"})}},
+                    {{"A.EMP", Testo({ZeroEstratto, "6|DISTORSIONE|1.5|"})}},
                     "A.EMP"},
         CasoComando{"VuotaUnaRiga", 9, "C.SMP", {}, {}, {}, "C.SMP"},
         CasoComando{"Autoallestito",
@@ -312,7 +313,7 @@ TEST(Manager, FormDiAltriSoloSeCiSono) {
       for (const auto& pulsante : KR_EstrattiDiMappa1::Pulsanti())
         EXPECT_EQ(form.Abilitato(pulsante), ci || (pulsante.indice != 16 && pulsante.indice != 23));
       if (!ci) return;
-      tavolo.disco.Metti(Cartella + "ESTRATTOPROVVISORIO.EMP", Testo({Zero}));
+      tavolo.disco.Metti(Cartella + "ESTRATTOPROVVISORIO.EMP", Testo({ZeroEstratto}));
       form.Premi(23);
       EXPECT_EQ(form.File1.at(static_cast<std::size_t>(form.Indice)), "ESTRATTOPROVVISORIO.EMP");
       form.Premi(16);
@@ -359,12 +360,12 @@ TEST(Manager, IntestatariArchiviatiUnoPerFile) {
 
 TEST(Manager, ImportareDicePortaEAssocia) {
   Tavolo tavolo;
-  tavolo.disco.Metti("C:\\DATI\\N.EMP", Testo({Zero}));
+  tavolo.disco.Metti("C:\\DATI\\N.EMP", Testo({ZeroEstratto}));
   KR_EstrattiDiMappa1 form(tavolo.ambiente);
   form.AlCaricamento();
   form.Lascia("C:\\dati\\n.emp");
   EXPECT_EQ(tavolo.sessione.NumeroErrore, errore::FileNonTrovato) << "no raster beside it";
-  EXPECT_EQ(tavolo.File("N.EMP"), Testo({Zero}));
+  EXPECT_EQ(tavolo.File("N.EMP"), Testo({ZeroEstratto}));
   EXPECT_EQ(tavolo.sessione.EstrattoAssociato, "");
   tavolo.disco.Metti("C:\\DATI\\N.PNG", "foto n");
   for (const char* dato : {"C:\\DATI\\N.EMP", "C:\\DATI\\N.PNG"}) {

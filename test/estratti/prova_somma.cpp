@@ -24,7 +24,7 @@ using prova::Testo;
 using Righe = std::vector<std::string>;
 
 const std::string Autoallestito = "0|AUTOALLESTITO|0|0|0|0|0|0|0|0|";
-const std::string Zero = "0|12062026|PD0041877/2026|G224|00123|35,36|PD|PUB|RSSMTN|10000000000017|";
+const std::string ZeroEstratto = "0|12062026|PD0041877/2026|G224|00123|35,36|PD|PUB|RSSMTN|10000000000017|";
 const Righe Dieci = {"7|12|1%|2%|3%|4%|5%|6%|7%|8%|9%|10%|NC|9|9|1|", "7|0|11%|1%|NC|"};
 
 Righe Insieme(const std::vector<Righe>& pezzi) {
@@ -49,22 +49,23 @@ TEST_P(Trasforma, TieneVerticiParticelleEInquadramento) {
 
 INSTANTIATE_TEST_SUITE_P(
     Casi, Trasforma,
-    testing::Values(
-        CasoTrasforma{"Vuoto", {}, {}}, CasoTrasforma{"SoloRigaZero", {"8|1%|0|0|"}, {}},
-        CasoTrasforma{"PuntiLineeToponimi",
-                      {Zero, "8|1%|0|0|", "8|2T|0|0|0|VIA|", "8|3L|1|1|", "8|PF01/1|1|1|", "7|2|3L|3L|NR|",
-                       "7|3|1%|1%|1%|NC|35|35|4|"},
-                      {"8|1%|0|0|", "7|3|1%|1%|1%|NC|35|35|4|"}},
-        CasoTrasforma{"ParticelleConLettera",
-                      {Zero, "7|3|1%|1%|1%|NC|P1|P1|4|", "7|3|1%|1%|1%|NC|1l|1l|4|", "7|3|1%|1%|1%|NC|A|A|4|"},
-                      {"7|3|1%|1%|1%|NC|A|A|4|"}},
-        CasoTrasforma{"LAnelloConLeSueContinuazioni",
-                      {Zero, "7|11|1%|1%|1%|1%|1%|1%|1%|1%|1%|1%|NC|P1|P1|4|", "7|0|1%|NC|", Dieci[0], Dieci[1],
-                       "7|3|1%|1%|1%|NC|8|8|4|", "7|0|1%|NT|"},
-                      Dieci},
-        CasoTrasforma{"AltreRighe",
-                      {Zero, "6|DISTORSIONE|1.5|", "6|PARTICELLA|35|", "", "6|INQUADRAMENTO|1|2|", "x INQUADRAMENTO"},
-                      {"6|INQUADRAMENTO|1|2|", "x INQUADRAMENTO"}}),
+    testing::Values(CasoTrasforma{"Vuoto", {}, {}}, CasoTrasforma{"SoloRigaZero", {"8|1%|0|0|"}, {}},
+                    CasoTrasforma{"PuntiLineeToponimi",
+                                  {ZeroEstratto, "8|1%|0|0|", "8|2T|0|0|0|VIA|", "8|3L|1|1|", "8|PF01/1|1|1|",
+                                   "7|2|3L|3L|NR|", "7|3|1%|1%|1%|NC|35|35|4|"},
+                                  {"8|1%|0|0|", "7|3|1%|1%|1%|NC|35|35|4|"}},
+                    CasoTrasforma{"ParticelleConLettera",
+                                  {ZeroEstratto, "7|3|1%|1%|1%|NC|P1|P1|4|", "7|3|1%|1%|1%|NC|1l|1l|4|",
+                                   "7|3|1%|1%|1%|NC|A|A|4|"},
+                                  {"7|3|1%|1%|1%|NC|A|A|4|"}},
+                    CasoTrasforma{"LAnelloConLeSueContinuazioni",
+                                  {ZeroEstratto, "7|11|1%|1%|1%|1%|1%|1%|1%|1%|1%|1%|NC|P1|P1|4|", "7|0|1%|NC|",
+                                   Dieci[0], Dieci[1], "7|3|1%|1%|1%|NC|8|8|4|", "7|0|1%|NT|"},
+                                  Dieci},
+                    CasoTrasforma{"AltreRighe",
+                                  {ZeroEstratto, "6|DISTORSIONE|1.5|", "6|PARTICELLA|35|", "", "6|INQUADRAMENTO|1|2|",
+                                   "x INQUADRAMENTO"},
+                                  {"6|INQUADRAMENTO|1|2|", "x INQUADRAMENTO"}}),
     [](const auto& caso) { return caso.param.nome; });
 
 // Two squares of ten metres that share a side.
@@ -93,32 +94,35 @@ TEST_P(Somma, UnaSolaNumerazione) {
 INSTANTIATE_TEST_SUITE_P(
     Casi, Somma,
     testing::Values(
-        CasoSomma{"LatoInComune", Insieme({{Zero}, PuntiA, {AnelloA}}), Insieme({{Zero}, PuntiB, {AnelloB}}),
+        CasoSomma{"LatoInComune", Insieme({{ZeroEstratto}, PuntiA, {AnelloA}}),
+                  Insieme({{ZeroEstratto}, PuntiB, {AnelloB}}),
                   Insieme({PuntiA, {"8|5%|0|20|", "8|6%|10|20|", AnelloA, "7|5|5%|4%|3%|6%|5%|NC|36|36|100|"}})},
         CasoSomma{"DueMillimetriDuePunti",
-                  {Zero, "8|1%|0|0|"},
-                  {Zero, "8|1%|0|0.002|", "8|2%|0.0009|0|"},
+                  {ZeroEstratto, "8|1%|0|0|"},
+                  {ZeroEstratto, "8|1%|0|0.002|", "8|2%|0.0009|0|"},
                   {"8|1%|0|0|", "8|2%|0|0.002|"}},
-        CasoSomma{
-            "UnMillimetroEsattoDuePunti", {Zero, "8|1%|0|0|"}, {Zero, "8|1%|0|0.001|"}, {"8|1%|0|0|", "8|2%|0|0.001|"}},
-        CasoSomma{"ConSeStesso", Insieme({{Zero}, Undici, {AnelloA}, Dieci}),
-                  Insieme({{Zero}, Undici, {AnelloA}, Dieci}), Insieme({Undici, {AnelloA}, Dieci})},
+        CasoSomma{"UnMillimetroEsattoDuePunti",
+                  {ZeroEstratto, "8|1%|0|0|"},
+                  {ZeroEstratto, "8|1%|0|0.001|"},
+                  {"8|1%|0|0|", "8|2%|0|0.001|"}},
+        CasoSomma{"ConSeStesso", Insieme({{ZeroEstratto}, Undici, {AnelloA}, Dieci}),
+                  Insieme({{ZeroEstratto}, Undici, {AnelloA}, Dieci}), Insieme({Undici, {AnelloA}, Dieci})},
         CasoSomma{"UgualiSoloConLeContinuazioni", Insieme({Undici, Dieci}),
                   Insieme({Undici, {Dieci[0], "7|0|2%|1%|NC|"}}),
                   Insieme({Undici, Dieci, {Dieci[0], "7|0|2%|1%|NC|"}})},
         CasoSomma{"SuperficieDiversaAltroAnello", Insieme({PuntiA, {AnelloA}}),
                   Insieme({PuntiA, {"7|5|1%|2%|3%|4%|1%|NC|35|35|99|"}}),
                   Insieme({PuntiA, {AnelloA, "7|5|1%|2%|3%|4%|1%|NC|35|35|99|"}})},
-        CasoSomma{
-            "LAltroNonSopravvive",
-            {Zero, "8|1%|0|0|", "8|2T|1|1|0|SCONTO 50%|", "8|PF01|2|2|", "7|2|1%|1%|NC|T|T|1|", "6|DISTORSIONE|1|"},
-            {Zero, "8|3L|1|1|", "7|2|3L|3L|NR|", "7|11|1%|NC|P|P|1|", "7|0|1%|NC|", "7|1|1%|NC|t|t|1|"},
-            {"8|1%|0|0|", "7|1|2%|NC|t|t|1|"}},
+        CasoSomma{"LAltroNonSopravvive",
+                  {ZeroEstratto, "8|1%|0|0|", "8|2T|1|1|0|SCONTO 50%|", "8|PF01|2|2|", "7|2|1%|1%|NC|T|T|1|",
+                   "6|DISTORSIONE|1|"},
+                  {ZeroEstratto, "8|3L|1|1|", "7|2|3L|3L|NR|", "7|11|1%|NC|P|P|1|", "7|0|1%|NC|", "7|1|1%|NC|t|t|1|"},
+                  {"8|1%|0|0|", "7|1|2%|NC|t|t|1|"}},
         CasoSomma{"IlGenereNonSiRinumera",
-                  {Zero, "8|1%|0|0|"},
-                  {Zero, "8|1%|5|5|", "7%|1|1%|NC|1|1|1|"},
+                  {ZeroEstratto, "8|1%|0|0|"},
+                  {ZeroEstratto, "8|1%|5|5|", "7%|1|1%|NC|1|1|1|"},
                   {"8|1%|0|0|", "8|2%|5|5|", "7%|1|2%|NC|1|1|1|"}},
-        CasoSomma{"SenzaPunti", {}, {Zero, "7|2|1%|9%|NC|1|1|1|"}, {"7|2|1%|9%|NC|1|1|1|"}},
+        CasoSomma{"SenzaPunti", {}, {ZeroEstratto, "7|2|1%|9%|NC|1|1|1|"}, {"7|2|1%|9%|NC|1|1|1|"}},
         CasoSomma{"NumeriConBuchi",
                   {"8|5%|0|0|", "8|9%|5|5|", "7|2|5%|9%|NC|1|1|1|"},
                   {"8|2%|5|5|", "8|7%|8|8|", "7|2|2%|7%|NC|2|2|1|"},
@@ -193,7 +197,7 @@ std::string ComeSiRacconta(const Righe& primo, const Righe& secondo) {
 
 // Few places a fraction of a millimetre apart, names out of order or missing, repeated too.
 Righe EstrattoCasuale(std::mt19937& caso, bool inOrdine) {
-  Righe righe = {Zero};
+  Righe righe = {ZeroEstratto};
   const std::size_t punti = caso() % 12;
   for (std::size_t i = 1; i <= punti; ++i)
     righe.push_back("8|" + std::to_string(inOrdine ? i : 1 + caso() % 15) + "%|" + std::to_string(caso() % 3) + ".000" +
@@ -226,8 +230,8 @@ std::multiset<std::string> Posti(const std::string& somma) {
 TEST(SommaGenerata, NeiDueVersiGliStessiPunti) {
   std::mt19937 caso(5);
   for (int giro = 0; giro < 50; ++giro) {
-    Righe a = {Zero};
-    Righe b = {Zero};
+    Righe a = {ZeroEstratto};
+    Righe b = {ZeroEstratto};
     for (unsigned i = 1; i < 30; ++i) { // a metre apart at least: what is common is the very same
       a.push_back("8|" + std::to_string(i) + "%|" + std::to_string(i) + "|" + std::to_string(caso() % 4) + "|");
       b.push_back("8|" + std::to_string(i) + "%|" + std::to_string(i) + "|" + std::to_string(caso() % 4) + "|");

@@ -12,8 +12,8 @@
 namespace lirmeto::prova {
 
 inline const std::string Cartella = "C:\\PREGEO\\ESTRATTI\\";
-inline const std::string Zero = "0|12062026|PD0041877/2026|G224|00123|35,36|PD|PUB|RSSMTN|1|";
-inline const std::vector<std::string> Estratto = {Zero,
+inline const std::string ZeroEstratto = "0|12062026|PD0041877/2026|G224|00123|35,36|PD|PUB|RSSMTN|1|";
+inline const std::vector<std::string> Estratto = {ZeroEstratto,
                                                   "8|1%|0|0|",
                                                   "8|2%|10|0|",
                                                   "8|3%|10|10|",
@@ -34,8 +34,8 @@ struct Tavolo : Banco {
     disco.Metti(Cartella + "A.EMP", Testo(Estratto));
     disco.Metti(Cartella + "A.PNG", "foto");
     disco.Metti(Cartella + "A.JPG", "foto j");
-    disco.Metti(Cartella + "B.EMP", Testo({Zero, "8|1%|0|0.0001|", "8|2%|50|50|"}));
-    disco.Metti(Cartella + "C.SMP", Testo({Zero}));
+    disco.Metti(Cartella + "B.EMP", Testo({ZeroEstratto, "8|1%|0|0.0001|", "8|2%|50|50|"}));
+    disco.Metti(Cartella + "C.SMP", Testo({ZeroEstratto}));
     disco.Metti(Cartella + "NOTE.TXT", "no");
     dialoghi.risposte = {Risposta::Si};
   }

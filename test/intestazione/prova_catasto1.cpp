@@ -18,7 +18,7 @@ using prova::Nove;
 using prova::Programma;
 using prova::Sportello;
 using prova::Testo;
-using prova::Zero;
+using prova::ZeroDiOggi;
 using Testi = std::vector<std::string>;
 
 // --- load
@@ -142,7 +142,7 @@ TEST(Catasto1, EstMedioEQuotaMediaDalleRigheGiuste) {
   EXPECT_EQ(QuotaMediaDelleRighe(righe), (1 + 16.7) / 2);
   EXPECT_FALSE(EstMedioDelleRighe(Lista({"8|1|2|"})));
   EXPECT_FALSE(QuotaMediaDelleRighe(Lista({"8|1|", "7|1|2|"})));
-  Sportello sala({Zero, Nove, "8|a|1.0|1.0e308|n|", "8|b|2.0|9.0e307|n|"});
+  Sportello sala({ZeroDiOggi, Nove, "8|a|1.0|1.0e308|n|", "8|b|2.0|9.0e307|n|"});
   sala.Apri();
   sala.form.Premi(7); // does not overflow
   EXPECT_TRUE(sala.Casella(casella::EstMedio).starts_with("95000000"));

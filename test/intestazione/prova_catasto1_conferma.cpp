@@ -16,7 +16,7 @@ using prova::Nove;
 using prova::Programma;
 using prova::Sportello;
 using prova::Testo;
-using prova::Zero;
+using prova::ZeroDiOggi;
 using Testi = std::vector<std::string>;
 
 struct CasoConferma {
@@ -30,7 +30,7 @@ struct CasoConferma {
 class Conferma : public testing::TestWithParam<CasoConferma> {};
 
 TEST_P(Conferma, RigheDelCommento) {
-  Testi righe = {Zero, Nove};
+  Testi righe = {ZeroDiOggi, Nove};
   righe.insert(righe.end(), GetParam().righe.begin(), GetParam().righe.end());
   Sportello sala(righe);
   sala.Apri();
@@ -38,7 +38,7 @@ TEST_P(Conferma, RigheDelCommento) {
   sala.form.Cambia(casella::Tipologia, GetParam().tipo);
   sala.form.Premi(0);
   Testi dopo = sala.Righe();
-  EXPECT_EQ(dopo[0], Zero.substr(0, 18) + "0010|3,12|ROSSI MARIO|GEOMETRA|PADOVA|");
+  EXPECT_EQ(dopo[0], ZeroDiOggi.substr(0, 18) + "0010|3,12|ROSSI MARIO|GEOMETRA|PADOVA|");
   EXPECT_EQ(dopo[1], "9|12|10|20|0|VER|" + GetParam().tipo + "|TOTALE|");
   EXPECT_EQ(sala.sessione.Libretto, Testo(dopo));
   EXPECT_EQ(Testi(dopo.begin() + 2, dopo.end()), GetParam().dopo);
@@ -208,7 +208,7 @@ TEST(Catasto1, ChiudereNonCambiaNullaEChiedeSeQualcosaECambiato) {
 }
 
 TEST(Catasto1, CodiceFiscaleRifiutatoNonCambiaNulla) {
-  Sportello sala({Zero, Nove, "8|a|1|2|"});
+  Sportello sala({ZeroDiOggi, Nove, "8|a|1|2|"});
   sala.Apri();
   sala.form.Cambia(casella::Protocollo, "x");
   sala.form.Cambia(casella::Cognome, "VERDI");

@@ -11,15 +11,14 @@
 
 namespace lirmeto::prova {
 
-inline const std::string Zero = "0|21112026|7|G224|0010|12,3|ROSSI MARIO|GEOMETRA|PADOVA|";
-inline const std::string Nove = "9|12|10|20|0|VER|FR|TOTALE|";
+inline const std::string ZeroDiOggi = "0|21112026|7|G224|0010|12,3|ROSSI MARIO|GEOMETRA|PADOVA|";
 inline const std::string Programma = "C:\\users\\prova\\Documents\\LIRMETO";
 inline const std::string Catasto = Programma + "\\Catasto1.txt";
 inline const std::string CodiceGiusto = "RSSMRA85T10A562S";
 
 struct Sportello : Banco {
   FormCatasto1TXT form{ambiente};
-  explicit Sportello(const std::vector<std::string>& righe = {Zero, Nove}) {
+  explicit Sportello(const std::vector<std::string>& righe = {ZeroDiOggi, Nove}) {
     KR_LibrettoOriginale finestra(ambiente);
     disco.Metti("C:\\ACT.DAT", Testo(righe));
     finestra.Avvia("C:\\ACT.DAT");

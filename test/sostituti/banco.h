@@ -16,6 +16,10 @@
 
 namespace lirmeto::prova {
 
+// The two rows that a small act begins with.
+inline const std::string Zero = "0|01022024|7|G224|0010|12,3|ROSSI MARIO|GEOMETRA|PADOVA|";
+inline const std::string Nove = "9|12|10|20|0|VER|FR|TOTALE|";
+
 // Files by their path, folders apart; upper case decides which is which.
 class DiscoInMemoria : public Disco {
 public:

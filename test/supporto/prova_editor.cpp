@@ -8,11 +8,10 @@ namespace lirmeto {
 namespace {
 
 using prova::Banco;
+using prova::Nove;
 using prova::Testo;
+using prova::Zero;
 using Righe = std::vector<std::string>;
-
-const std::string Zero = "0|01022024|7|G224|0010|1|ROSSI MARIO|GEOMETRA|PADOVA|";
-const std::string Nove = "9|12|10|20|0|VER|FR|TOTALE|";
 
 // Plays the user: changes the box and closes with the answers given.
 void Modifica(Banco& banco, const std::string& testo) {

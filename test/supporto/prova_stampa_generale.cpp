@@ -11,13 +11,13 @@ namespace {
 
 using prova::Banco;
 using prova::Copia;
+using prova::Nove;
 using prova::Testo;
 using Righe = std::vector<std::string>;
 
 const std::string Programma = "C:\\users\\prova\\Documents\\LIRMETO";
 const std::string Modelli = Programma + "\\MODELLI_STAMPA\\";
 const std::string Zero = "0|12032024|7|G224|0010|1,2|ROSSI {M}|GEOMETRA|PADOVA|";
-const std::string Nove = "9|12|10|20|0|VER|FR|TOTALE|";
 
 struct Compilato {
   std::string modello;

@@ -14,10 +14,10 @@ QLabel* TitoloGruppo(const QString& testo, QWidget* padre) {
   return titolo;
 }
 
-QLabel* Unita(const QString& testo, QWidget* padre) {
-  auto* unita = new QLabel(testo, padre);
-  unita->setObjectName(QStringLiteral("Posto"));
-  return unita;
+QLabel* Tenue(const QString& testo, QWidget* padre) {
+  auto* etichetta = new QLabel(testo, padre);
+  etichetta->setObjectName(QStringLiteral("Posto"));
+  return etichetta;
 }
 
 QLineEdit* AggiungiCasella(QGridLayout& griglia, const QString& titolo, const QString& nome, std::string& valore,

@@ -13,8 +13,8 @@ namespace lirmeto::ui {
 
 [[nodiscard]] QLabel* TitoloGruppo(const QString& testo, QWidget* padre);
 
-// The unit of a number, to stand behind its box.
-[[nodiscard]] QLabel* Unita(const QString& testo, QWidget* padre);
+// What stands back behind the boxes: the unit of a number, a word of advice.
+[[nodiscard]] QLabel* Tenue(const QString& testo, QWidget* padre);
 
 // A box in the next row of a grid, its title to its left. What is typed goes to `valore`, which must outlive it; the
 // title names the box for screen readers too.

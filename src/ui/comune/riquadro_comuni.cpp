@@ -1,11 +1,10 @@
 #include <ui/comune/riquadro_comuni.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/frecce_elenco.h>
 #include <ui/comune/testo_qt.h>
 
-#include <QApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -89,7 +88,7 @@ QWidget* RiquadroComuni::CreaCaselle() {
 }
 
 void RiquadroComuni::Collega(QLineEdit& casella, const std::function<void(std::string_view)>& cambia) {
-  casella.installEventFilter(this);
+  FrecceAllElenco(casella, *elenco_); // Enter is the window's, for its button
   connect(&casella, &QLineEdit::textEdited, this, [this, cambia](const QString& testo) {
     cambia(DaQString(testo));
     Mostra();
@@ -112,22 +111,6 @@ void RiquadroComuni::Mostra() {
   const QModelIndex posto = righe_.index(static_cast<int>(modello_.Indice));
   if (posto != elenco_->currentIndex()) elenco_->setCurrentIndex(posto);
   if (!posto.isValid()) elenco_->clearSelection();
-}
-
-// From the boxes the arrows move through the list. Enter is the window's, for its button.
-bool RiquadroComuni::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (evento->type() != QEvent::KeyPress) return QWidget::eventFilter(oggetto, evento);
-  const int tasto = static_cast<QKeyEvent*>(evento)->key();
-  switch (tasto) {
-  case Qt::Key_Up:
-  case Qt::Key_Down:
-  case Qt::Key_PageUp:
-  case Qt::Key_PageDown:
-    QApplication::sendEvent(elenco_, evento);
-    return true;
-  default:
-    return QWidget::eventFilter(oggetto, evento);
-  }
 }
 
 } // namespace lirmeto::ui

@@ -28,9 +28,6 @@ signals:
   // A double click took a comune.
   void Scelto();
 
-protected:
-  bool eventFilter(QObject* oggetto, QEvent* evento) override;
-
 private:
   [[nodiscard]] QWidget* CreaCaselle();
   void Collega(QLineEdit& casella, const std::function<void(std::string_view)>& cambia);

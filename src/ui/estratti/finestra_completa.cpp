@@ -106,7 +106,7 @@ QWidget* FinestraCompleta::CreaParticella() {
   (void)AggiungiCasella(*griglia, QStringLiteral("Classe"), QStringLiteral("QualitaParticella"),
                         modello_.QualitaParticella);
   (void)AggiungiCasella(*griglia, QStringLiteral("Superficie"), QStringLiteral("Superficie"), modello_.Superficie);
-  griglia->addWidget(Unita(QStringLiteral("mq"), gruppo), griglia->rowCount() - 1, 2);
+  griglia->addWidget(Tenue(QStringLiteral("mq"), gruppo), griglia->rowCount() - 1, 2);
   griglia->addWidget(CreaBottone(QStringLiteral("Aggiorna Particella"), QStringLiteral("RicalcolaParticella"),
                                  [this] { modello_.RicalcolaParticella(); }),
                      griglia->rowCount(), 1, 1, 2, Qt::AlignRight);

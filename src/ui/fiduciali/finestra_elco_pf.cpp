@@ -1,15 +1,14 @@
 #include <ui/fiduciali/finestra_elco_pf.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/frecce_elenco.h>
 #include <ui/comune/piede_scelta.h>
 #include <ui/comune/testo_qt.h>
 
 #include <base/testo.h>
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -65,7 +64,7 @@ QWidget* FinestraElcoPf::CreaRicerca() {
   titolo->setBuddy(nome_);
   nome_->setObjectName(QStringLiteral("Text1"));
   nome_->setPlaceholderText(QStringLiteral("inizio del nome o del codice"));
-  nome_->installEventFilter(this);
+  FrecceAllElenco(*nome_, *elenco_);
   riga->addWidget(titolo);
   riga->addWidget(nome_, 1);
   riga->addWidget(installati_);
@@ -94,21 +93,6 @@ void FinestraElcoPf::Mostra() {
   invito_->setText(righe.isEmpty() ? QStringLiteral("Nessun comune trovato: togliere la spunta mostra anche quelli "
                                                     "senza TAF.")
                                    : QStringLiteral("Comuni %L1").arg(righe.size()));
-}
-
-// From the box the arrows move through the list.
-bool FinestraElcoPf::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (evento->type() != QEvent::KeyPress) return QDialog::eventFilter(oggetto, evento);
-  switch (static_cast<QKeyEvent*>(evento)->key()) {
-  case Qt::Key_Up:
-  case Qt::Key_Down:
-  case Qt::Key_PageUp:
-  case Qt::Key_PageDown:
-    QApplication::sendEvent(elenco_, evento);
-    return true;
-  default:
-    return QDialog::eventFilter(oggetto, evento);
-  }
 }
 
 } // namespace lirmeto::ui

@@ -19,9 +19,6 @@ public:
   // The model must be loaded and outlive the window.
   explicit FinestraElcoPf(KR_ElcoPf& modello, QWidget* padre = nullptr);
 
-protected:
-  bool eventFilter(QObject* oggetto, QEvent* evento) override;
-
 private:
   [[nodiscard]] QWidget* CreaRicerca();
   void Seleziona();

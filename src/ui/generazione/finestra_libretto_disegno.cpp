@@ -1,6 +1,7 @@
 #include <ui/generazione/finestra_libretto_disegno.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/invito_elenco.h>
 #include <ui/comune/modello_classe.h>
 #include <ui/comune/testo_qt.h>
@@ -80,15 +81,8 @@ QString Didascalia(const VoceOpzione& voce) {
   return stacco < 0 ? testo : testo.replace(stacco, 1, u'\n');
 }
 
-QLabel* Titolo(const QString& testo, QWidget* padre) {
-  auto* titolo = new QLabel(testo, padre);
-  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
-  return titolo;
-}
-
 QLabel* Consiglio(const QString& testo, QWidget* padre) {
-  auto* consiglio = new QLabel(testo, padre);
-  consiglio->setObjectName(QStringLiteral("Posto"));
+  auto* consiglio = Tenue(testo, padre);
   consiglio->setTextFormat(Qt::PlainText);
   return consiglio;
 }
@@ -98,7 +92,7 @@ QLabel* Consiglio(const QString& testo, QWidget* padre) {
 FinestraLibrettoDisegno::FinestraLibrettoDisegno(LibrettoDaDisegno& modello, QWidget* padre)
     : QDialog(padre, Qt::Window), modello_(modello),
       pannello_(new GraficaPannello(modello.Dintorni(), modello.Grafica1, host::LibrettoDaDisegno, this)),
-      linee_(new QListView(this)), testiLinee_(new QStringListModel(this)), quanteLinee_(Titolo({}, this)),
+      linee_(new QListView(this)), testiLinee_(new QStringListModel(this)), quanteLinee_(TitoloGruppo({}, this)),
       lunghezza_(Consiglio({}, this)), dislivello_(new QLineEdit(this)), avviso_(new QLabel(this)),
       genera_(new QPushButton(QStringLiteral("Genera"), this)), precisione_(new QButtonGroup(this)) {
   setObjectName(QStringLiteral("LibrettoDaDisegno"));
@@ -136,7 +130,7 @@ QWidget* FinestraLibrettoDisegno::CreaDisegno() {
   auto* colonna = new QVBoxLayout(sotto);
   colonna->setContentsMargins(10, 0, 10, 0);
   colonna->setSpacing(4);
-  colonna->addWidget(Titolo(QStringLiteral("Libretto esistente: %L1 righe").arg(righe->rowCount()), sotto));
+  colonna->addWidget(TitoloGruppo(QStringLiteral("Libretto esistente: %L1 righe").arg(righe->rowCount()), sotto));
   colonna->addWidget(vecchie, 1);
   pannello_->NascondiCaricamento();
   auto* sinistra = new QSplitter(Qt::Vertical, this);
@@ -199,7 +193,7 @@ QVBoxLayout& FinestraLibrettoDisegno::AggiungiGruppo(QBoxLayout& colonna, const 
   auto* gruppo = new QVBoxLayout(riquadro);
   gruppo->setContentsMargins(0, 0, 0, 0);
   gruppo->setSpacing(4);
-  gruppo->addWidget(Titolo(titolo, riquadro));
+  gruppo->addWidget(TitoloGruppo(titolo, riquadro));
   colonna.addWidget(riquadro);
   return *gruppo;
 }

@@ -82,7 +82,7 @@ QLayout* FinestraSelezionaMappali::CreaCaselle() {
     casella->setFixedWidth(LarghezzaCasella);
     riga->addWidget(new QLabel(QString::fromLatin1(testo), this));
     riga->addWidget(casella);
-    riga->addWidget(Unita(QStringLiteral("m"), this));
+    riga->addWidget(Tenue(QStringLiteral("m"), this));
   }
   return riga;
 }

@@ -2,6 +2,7 @@
 
 #include <ui/comune/aspetto.h>
 #include <ui/comune/barra_a_capo.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/modello_classe.h>
 #include <ui/comune/piede_scelta.h>
 #include <ui/comune/testo_qt.h>
@@ -50,12 +51,6 @@ constexpr std::array<Strumento, 7> Strumenti = {{
     {4, "contorno_righe", "Contorno in Righe", "Il contorno disegnato diventa righe della proposta", false},
 }};
 
-QLabel* Titolo(const QString& testo, QWidget* padre) {
-  auto* titolo = new QLabel(testo, padre);
-  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
-  return titolo;
-}
-
 } // namespace
 
 FinestraTipol10::FinestraTipol10(Tipol10& modello, QWidget* padre)
@@ -90,7 +85,7 @@ QWidget* FinestraTipol10::CreaDisegno() {
   auto* colonna = new QVBoxLayout(riquadro);
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->setSpacing(6);
-  colonna->addWidget(Titolo(QStringLiteral("Disegno Proposta"), riquadro));
+  colonna->addWidget(TitoloGruppo(QStringLiteral("Disegno Proposta"), riquadro));
   colonna->addWidget(CreaStrumenti());
   colonna->addWidget(disegno_, 1);
   return riquadro;
@@ -130,10 +125,10 @@ QWidget* FinestraTipol10::CreaProposta() {
   auto* colonna = new QVBoxLayout(riquadro);
   colonna->setContentsMargins(6, 0, 0, 0);
   colonna->setSpacing(6);
-  colonna->addWidget(Titolo(QStringLiteral("Righe della Proposta"), riquadro));
+  colonna->addWidget(TitoloGruppo(QStringLiteral("Righe della Proposta"), riquadro));
   colonna->addWidget(elenco, 1);
   colonna->addLayout(CreaNumeri());
-  colonna->addWidget(Titolo(QStringLiteral("Annotazioni per questa Tipologia"), riquadro));
+  colonna->addWidget(TitoloGruppo(QStringLiteral("Annotazioni per questa Tipologia"), riquadro));
   colonna->addWidget(testo_);
   return riquadro;
 }

@@ -48,8 +48,6 @@ QWidget* FinestraCatasto1::CreaCaselle() {
 }
 
 QGridLayout& FinestraCatasto1::AggiungiGruppo(QBoxLayout& colonna, const QString& titolo) {
-  auto* etichetta = new QLabel(titolo, this);
-  etichetta->setObjectName(QStringLiteral("TitoloGruppo"));
   auto* griglia = new QGridLayout;
   griglia->setHorizontalSpacing(10);
   griglia->setVerticalSpacing(5);
@@ -57,7 +55,7 @@ QGridLayout& FinestraCatasto1::AggiungiGruppo(QBoxLayout& colonna, const QString
   // The captions of all groups of a column stand in one line.
   griglia->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(QStringLiteral("Nome x Backup Arch2 ")));
   colonna.addSpacing(colonna.isEmpty() ? 0 : SpazioGruppi);
-  colonna.addWidget(etichetta);
+  colonna.addWidget(TitoloGruppo(titolo, this));
   colonna.addLayout(griglia);
   return *griglia;
 }
@@ -80,10 +78,10 @@ void FinestraCatasto1::AggiungiRilievo(QBoxLayout& colonna) {
   AggiungiScelta(griglia, Elenco::Tipologia);
   AggiungiScelta(griglia, Elenco::Strumentazione);
   AggiungiRiga(griglia, {}, {Bottone(16), Bottone(17)});
-  AggiungiCasella(griglia, casella::PrecisioneLineare, 10, {Unita(QStringLiteral("cm"), this)});
+  AggiungiCasella(griglia, casella::PrecisioneLineare, 10, {Tenue(QStringLiteral("cm"), this)});
   AggiungiCasella(griglia, casella::PrecisioneAngolare, 10);
-  AggiungiCasella(griglia, casella::QuotaMedia, 10, {Unita(QStringLiteral("m"), this), Bottone(4), Bottone(5)});
-  AggiungiCasella(griglia, casella::EstMedio, 10, {Unita(QStringLiteral("m"), this), Bottone(7)});
+  AggiungiCasella(griglia, casella::QuotaMedia, 10, {Tenue(QStringLiteral("m"), this), Bottone(4), Bottone(5)});
+  AggiungiCasella(griglia, casella::EstMedio, 10, {Tenue(QStringLiteral("m"), this), Bottone(7)});
   AggiungiCasella(griglia, casella::Versione, 0);
 }
 
@@ -149,10 +147,8 @@ void FinestraCatasto1::AggiungiArchivi(QBoxLayout& colonna) {
 }
 
 void FinestraCatasto1::AggiungiOpzioni(QBoxLayout& colonna) {
-  auto* titolo = new QLabel(QStringLiteral("Alla Conferma"), this);
-  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
   colonna.addSpacing(SpazioGruppi);
-  colonna.addWidget(titolo);
+  colonna.addWidget(TitoloGruppo(QStringLiteral("Alla Conferma"), this));
   aggiornaIni_->setObjectName(QStringLiteral("AggiornaPregeoIni"));
   aggiornaData_->setObjectName(QStringLiteral("AggiornaData"));
   connect(aggiornaIni_, &QCheckBox::toggled, this, [this](bool si) { modello_.AggiornaPregeoIni = si; });

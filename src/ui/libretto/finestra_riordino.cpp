@@ -1,6 +1,7 @@
 #include <ui/libretto/finestra_riordino.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/modello_classe.h>
 #include <ui/comune/testo_qt.h>
 
@@ -41,9 +42,7 @@ FinestraRiordino::FinestraRiordino(FormRiordinoRighe& modello, QWidget* padre)
   piano->addWidget(CreaColonna());
   auto* testata = new QHBoxLayout;
   testata->addWidget(titolo_, 1);
-  auto* consiglio = new QLabel(QStringLiteral("Canc o doppio clic su una riga per eliminarla"), this);
-  consiglio->setObjectName(QStringLiteral("Posto"));
-  testata->addWidget(consiglio, 0, Qt::AlignBottom);
+  testata->addWidget(Tenue(QStringLiteral("Canc o doppio clic su una riga per eliminarla"), this), 0, Qt::AlignBottom);
   titolo_->setObjectName(QStringLiteral("TitoloGruppo"));
   auto* destra = new QVBoxLayout;
   destra->addLayout(testata);

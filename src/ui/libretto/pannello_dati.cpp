@@ -1,6 +1,7 @@
 #include <ui/libretto/pannello_dati.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/difetto.h>
 #include <ui/comune/senza_barre.h>
 #include <ui/comune/testo_qt.h>
@@ -19,12 +20,6 @@
 namespace lirmeto::ui {
 
 namespace {
-
-void AggiungiTitolo(QVBoxLayout& colonna, const QString& testo, QWidget* padre) {
-  auto* titolo = new QLabel(testo, padre);
-  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
-  colonna.addWidget(titolo);
-}
 
 QLabel* EtichettaElastica(QWidget* padre) {
   auto* etichetta = new QLabel(padre);
@@ -59,7 +54,7 @@ PannelloDati::PannelloDati(KR_LibrettoOriginale& modello, QWidget* padre)
 }
 
 void PannelloDati::AggiungiEtichette(QVBoxLayout& colonna) {
-  AggiungiTitolo(colonna, QStringLiteral("Atto"), this);
+  colonna.addWidget(TitoloGruppo(QStringLiteral("Atto"), this));
   estratto_->setObjectName(QStringLiteral("EtichettaEstratto"));
   estratto_->setIcon(Icona(QStringLiteral("estratti")));
   estratto_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -77,7 +72,7 @@ void PannelloDati::AggiungiEtichette(QVBoxLayout& colonna) {
 }
 
 void PannelloDati::AggiungiTecnico(QVBoxLayout& colonna) {
-  AggiungiTitolo(colonna, QStringLiteral("Tecnico"), this);
+  colonna.addWidget(TitoloGruppo(QStringLiteral("Tecnico"), this));
   iscrizione_->setObjectName(QStringLiteral("CasellaIscrizione"));
   codiceFiscale_->setObjectName(QStringLiteral("CasellaCodiceFiscale"));
   auto* modulo = new QFormLayout;
@@ -101,7 +96,7 @@ void PannelloDati::AggiungiTecnico(QVBoxLayout& colonna) {
 }
 
 void PannelloDati::AggiungiDitta(QVBoxLayout& colonna) {
-  AggiungiTitolo(colonna, QStringLiteral("Ditta"), this);
+  colonna.addWidget(TitoloGruppo(QStringLiteral("Ditta"), this));
   ditta_->setObjectName(QStringLiteral("CasellaDitta"));
   ditta_->setAccessibleName(QStringLiteral("Ditta"));
   ditta_->setTabChangesFocus(true);
@@ -114,7 +109,7 @@ void PannelloDati::AggiungiDitta(QVBoxLayout& colonna) {
 }
 
 void PannelloDati::AggiungiOpzioni(QVBoxLayout& colonna) {
-  AggiungiTitolo(colonna, QStringLiteral("Opzioni del Libretto Automatico"), this);
+  colonna.addWidget(TitoloGruppo(QStringLiteral("Opzioni del Libretto Automatico"), this));
   opzioni_->setObjectName(QStringLiteral("Opzioni"));
   opzioni_->setSelectionMode(QAbstractItemView::NoSelection);
   opzioni_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -1,6 +1,7 @@
 #include <ui/libretto/pannello_pulsanti.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/libretto/menu_principale.h>
 
@@ -47,9 +48,7 @@ PannelloPulsanti::PannelloPulsanti(Disponibile disponibile, QWidget* padre)
 }
 
 void PannelloPulsanti::AggiungiGruppo(QVBoxLayout& colonna, const QString& titolo) {
-  auto* etichetta = new QLabel(titolo, this);
-  etichetta->setObjectName(QStringLiteral("TitoloGruppo"));
-  colonna.addWidget(etichetta);
+  colonna.addWidget(TitoloGruppo(titolo, this));
   QHBoxLayout* figure = nullptr;
   for (const Pulsante& pulsante : Pulsanti()) {
     if (AQString(pulsante.gruppo) != titolo) continue;

@@ -1,6 +1,7 @@
 #include <ui/libretto/pannello_strumenti.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/testo_qt.h>
 
 #include <QGraphicsDropShadowEffect>
@@ -15,9 +16,7 @@ PannelloStrumenti::PannelloStrumenti(QWidget* padre) : QFrame(padre) {
   auto* colonna = new QVBoxLayout(this);
   colonna->setContentsMargins(10, 8, 10, 10);
   colonna->setSpacing(2);
-  auto* titolo = new QLabel(QStringLiteral("Utilità Catastali"), this);
-  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
-  colonna->addWidget(titolo);
+  colonna->addWidget(TitoloGruppo(QStringLiteral("Utilità Catastali"), this));
   for (const Strumento& strumento : Strumenti()) {
     auto* bottone = new QPushButton(this);
     bottone->setText(AQString(strumento.didascalia));

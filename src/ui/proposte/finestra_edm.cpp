@@ -178,7 +178,7 @@ void FinestraEdm::AggiungiCasella(QGridLayout& griglia, const QString& nome, con
   const int riga = griglia.rowCount();
   griglia.addWidget(davanti, riga, 0);
   griglia.addWidget(linea, riga, 1);
-  if (!unita.isEmpty()) griglia.addWidget(Unita(unita, this), riga, 2);
+  if (!unita.isEmpty()) griglia.addWidget(Tenue(unita, this), riga, 2);
   connect(linea, &QLineEdit::textEdited, this,
           [this, testo](const QString& scritto) { modello_.*testo = DaQString(scritto); });
   if (lascia != nullptr)

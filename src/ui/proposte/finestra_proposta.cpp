@@ -142,7 +142,7 @@ QWidget* FinestraProposta::CreaGriglia() {
   auto* area = new QHBoxLayout;
   area->addWidget(label2_);
   area->addWidget(text2_);
-  area->addWidget(Unita(QStringLiteral("mq"), dentro));
+  area->addWidget(Tenue(QStringLiteral("mq"), dentro));
   area->addStretch(1);
   text2_->setObjectName(QStringLiteral("Text2"));
   text2_->setFixedWidth(120);

@@ -1,5 +1,6 @@
 #include <ui/proposte/finestra_tipo_mappale.h>
 
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/proposte/parti_censuario.h>
 
@@ -14,8 +15,7 @@ namespace {
 constexpr int Larghezza = 1120;
 
 QLabel* Spiegazione(const QString& testo, QWidget* padre) {
-  auto* etichetta = new QLabel(testo, padre);
-  etichetta->setObjectName(QStringLiteral("Posto"));
+  auto* etichetta = Tenue(testo, padre);
   etichetta->setContentsMargins(0, 8, 0, 0); // NOLINT(readability-magic-numbers)
   etichetta->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   return etichetta;

@@ -1,6 +1,7 @@
 #include <ui/supporto/finestra_comuni.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/piede_scelta.h>
 #include <ui/comune/riquadro_comuni.h>
 #include <ui/comune/testo_qt.h>
@@ -48,9 +49,7 @@ QWidget* FinestraComuni::CreaProvince() {
   auto* riquadro = new QWidget(this);
   auto* colonna = new QVBoxLayout(riquadro);
   colonna->setContentsMargins(0, 0, 0, 0);
-  auto* titolo = new QLabel(QStringLiteral("Province"), this);
-  titolo->setObjectName(QStringLiteral("TitoloGruppo"));
-  colonna->addWidget(titolo);
+  colonna->addWidget(TitoloGruppo(QStringLiteral("Province"), this));
   colonna->addWidget(province_, 1);
   riquadro->setMaximumWidth(fontMetrics().horizontalAdvance(QLatin1Char('W')) * 20);
   return riquadro;
