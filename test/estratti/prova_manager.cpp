@@ -100,11 +100,19 @@ TEST(Manager, UnFileGuastoSiDiceENonMostraQuelloDiPrima) {
   EXPECT_TRUE(form.Etichette.foglio.empty() && form.TestoDitte.empty());
 }
 
+using Caselle = std::array<std::string, 3>; // new name, parcel, its new name
+
+void Compila(KR_EstrattiDiMappa1& form, const std::string& scelto, const Caselle& caselle) {
+  Scegli(form, scelto);
+  std::tie(form.NuovoNome, form.NomeParticella, form.NuovoNomeParticella) =
+      std::tie(caselle[0], caselle[1], caselle[2]);
+}
+
 struct CasoComando {
   std::string nome;
   int indice;
-  std::string scelto;                                    // "": nothing selected
-  std::array<std::string, 3> caselle;                    // new name, parcel, its new name
+  std::string scelto; // "": nothing selected
+  Caselle caselle;
   Righe detti;                                           // title/text, questions too
   std::vector<std::pair<std::string, std::string>> file; // what they hold afterwards, "(manca)": not there
   std::string selezionato;
@@ -117,10 +125,7 @@ TEST_P(Comandi, DicoELasciano) {
   Tavolo tavolo;
   KR_EstrattiDiMappa1 form(tavolo.ambiente);
   form.AlCaricamento();
-  Scegli(form, caso.scelto);
-  form.NuovoNome = caso.caselle[0];
-  form.NomeParticella = caso.caselle[1];
-  form.NuovoNomeParticella = caso.caselle[2];
+  Compila(form, caso.scelto, caso.caselle);
   const auto prima = tavolo.disco.file;
   form.Premi(caso.indice);
   EXPECT_EQ(tavolo.Detti(), caso.detti);
@@ -230,7 +235,7 @@ TEST(Manager, QuelloCheMancaSiDice) {
   const struct {
     int indice;
     std::string scelto;
-    std::array<std::string, 3> caselle;
+    Caselle caselle;
     std::string detto;
   } casi[] = {
       {6, "", {}, "Lirmeto/Selezionare un Estratto!"},
@@ -249,9 +254,7 @@ TEST(Manager, QuelloCheMancaSiDice) {
     Tavolo tavolo;
     KR_EstrattiDiMappa1 form(tavolo.ambiente);
     form.AlCaricamento();
-    Scegli(form, caso.scelto);
-    std::tie(form.NuovoNome, form.NomeParticella, form.NuovoNomeParticella) =
-        std::tie(caso.caselle[0], caso.caselle[1], caso.caselle[2]);
+    Compila(form, caso.scelto, caso.caselle);
     const auto prima = tavolo.disco.file;
     form.Premi(caso.indice);
     EXPECT_EQ(tavolo.Detti(), Righe{caso.detto}) << caso.indice;
@@ -262,7 +265,7 @@ TEST(Manager, QuelloCheMancaSiDice) {
 struct CasoNegato {
   int indice;
   std::string scelto;
-  std::array<std::string, 3> caselle;
+  Caselle caselle;
   std::string rotto; // file that cannot be written
 };
 
@@ -273,9 +276,7 @@ TEST_P(Negati, SiDiceETuttoRestaComEra) {
   Tavolo tavolo;
   KR_EstrattiDiMappa1 form(tavolo.ambiente);
   form.AlCaricamento();
-  Scegli(form, caso.scelto);
-  std::tie(form.NuovoNome, form.NomeParticella, form.NuovoNomeParticella) =
-      std::tie(caso.caselle[0], caso.caselle[1], caso.caselle[2]);
+  Compila(form, caso.scelto, caso.caselle);
   const auto prima = tavolo.disco.file;
   if (!caso.rotto.empty()) tavolo.disco.rotti[Cartella + caso.rotto] = errore::AccessoAlFile;
   form.Premi(caso.indice);

@@ -33,4 +33,12 @@ QLineEdit* AggiungiCasella(QGridLayout& griglia, const QString& titolo, const QS
   return casella;
 }
 
+void MettiTesto(QLineEdit& casella, const std::string& testo) {
+  const QString nuovo = AQString(testo);
+  if (casella.text() == nuovo) return;
+  const int posto = casella.cursorPosition();
+  casella.setText(nuovo);
+  casella.setCursorPosition(posto);
+}
+
 } // namespace lirmeto::ui

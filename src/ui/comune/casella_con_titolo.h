@@ -1,5 +1,5 @@
 #pragma once
-// The title of a group, and a box with its title beside it.
+// The title of a group, a box with its title beside it, and what a box shows.
 
 #include <string>
 
@@ -20,5 +20,8 @@ namespace lirmeto::ui {
 // title names the box for screen readers too.
 [[nodiscard]] QLineEdit* AggiungiCasella(QGridLayout& griglia, const QString& titolo, const QString& nome,
                                          std::string& valore, QWidget* padre);
+
+// Shows a text without losing the place of the caret; nothing happens where it stands already.
+void MettiTesto(QLineEdit& casella, const std::string& testo);
 
 } // namespace lirmeto::ui

@@ -1,6 +1,7 @@
 #include <ui/comune/riquadro_comuni.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/frecce_elenco.h>
 #include <ui/comune/testo_qt.h>
 
@@ -15,14 +16,6 @@ namespace lirmeto::ui {
 namespace {
 
 constexpr double Punti = 10; // of the rows
-
-// Shows a text without losing the place of the caret.
-void MettiTesto(QLineEdit& casella, const std::string& testo) {
-  const int posto = casella.cursorPosition();
-  if (DaQString(casella.text()) == testo) return;
-  casella.setText(AQString(testo));
-  casella.setCursorPosition(posto);
-}
 
 } // namespace
 

@@ -29,15 +29,6 @@ QLabel* EtichettaElastica(QWidget* padre) {
 }
 
 // Sets a line's text and leaves the caret where it was.
-void MostraLinea(QLineEdit& casella, const std::string& testo) {
-  const QString nuovo = AQString(testo);
-  if (casella.text() == nuovo) return;
-  const QSignalBlocker fermo(&casella);
-  const int posto = casella.cursorPosition();
-  casella.setText(nuovo);
-  casella.setCursorPosition(posto);
-}
-
 } // namespace
 
 PannelloDati::PannelloDati(KR_LibrettoOriginale& modello, QWidget* padre)
@@ -86,7 +77,7 @@ void PannelloDati::AggiungiTecnico(QVBoxLayout& colonna) {
           [this](const QString& testo) { modello_.CambiaIscrizione(DaQString(testo)); });
   connect(codiceFiscale_, &QLineEdit::textEdited, this, [this](const QString& testo) {
     modello_.CambiaCodiceFiscale(DaQString(testo));
-    MostraLinea(*codiceFiscale_, modello_.CasellaCodiceFiscale);
+    MettiTesto(*codiceFiscale_, modello_.CasellaCodiceFiscale);
     if (modello_.DifettoCodiceFiscale().empty()) SegnaDifetto(*codiceFiscale_, {});
   });
   connect(codiceFiscale_, &QLineEdit::editingFinished, this,
@@ -141,8 +132,8 @@ void PannelloDati::Mostra() {
   estratto_->setText(AQString(modello_.EtichettaEstratto));
   misurate_->setText(AQString(modello_.EtichettaMisurate));
   versione_->setText(AQString(modello_.EtichettaVersione));
-  MostraLinea(*iscrizione_, modello_.CasellaIscrizione);
-  MostraLinea(*codiceFiscale_, modello_.CasellaCodiceFiscale);
+  MettiTesto(*iscrizione_, modello_.CasellaIscrizione);
+  MettiTesto(*codiceFiscale_, modello_.CasellaCodiceFiscale);
   if (!codiceFiscale_->hasFocus()) SegnaDifetto(*codiceFiscale_, AQString(modello_.DifettoCodiceFiscale()));
   if (TestoDocumento(*ditta_->document()) != modello_.CasellaDitta) {
     const QSignalBlocker fermo(ditta_);

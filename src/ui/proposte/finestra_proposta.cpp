@@ -33,15 +33,6 @@ constexpr int Larghezza = 1240;
 constexpr int Altezza = 700;
 constexpr int LarghezzaScelte = 255;
 
-// Under the caret stays what stood there.
-void Metti(QLineEdit& casella, const std::string& testo) {
-  const QString nuovo = AQString(testo);
-  if (casella.text() == nuovo) return;
-  const int posto = casella.cursorPosition();
-  casella.setText(nuovo);
-  casella.setCursorPosition(posto);
-}
-
 } // namespace
 
 FinestraProposta::FinestraProposta(PropostaDerivate& modello, QWidget* padre)
@@ -200,7 +191,7 @@ void FinestraProposta::CollegaGriglia() {
 
 void FinestraProposta::Batti(const QString& testo) {
   modello_.CambiaText2(DaQString(testo));
-  Metti(*text2_, modello_.Text2);
+  MettiTesto(*text2_, modello_.Text2);
   griglia_.Ricarica();
   Composizione().Ricarica();
   MostraSomma();
@@ -232,7 +223,7 @@ void FinestraProposta::Tocca() {
 }
 
 void FinestraProposta::Mostra() {
-  Metti(*text1_, modello_.Text1);
+  MettiTesto(*text1_, modello_.Text1);
   const QSignalBlocker fermo(check1_);
   check1_->setChecked(modello_.Check1);
   griglia_.Ricarica();
