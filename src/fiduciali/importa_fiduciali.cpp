@@ -109,42 +109,43 @@ void FormImportaFiduciali::TrovaNellEstratto() {
   PuntiInTaf = 0;
   const Sessione& sessione = ambiente_.sessione;
   const std::string testo = CaricaFileIntero(ambiente_, PercorsoEstratto(sessione, sessione.EstrattoAssociato));
-  std::vector<std::string> nomi;
+  const auto code = CodeNelLibretto();
+  Nomi nomi;
   for (const auto riga : RigheDi(testo)) {
     if (!Riga8(riga)) continue;
-    std::string nome = NomeDi(riga);
-    if (!nome.starts_with("PF") || std::find(nomi.begin(), nomi.end(), nome) != nomi.end()) continue;
+    const std::string nome = NomeDi(riga);
+    if (!nome.starts_with("PF") || !nomi.insert(nome).second) continue;
+    const auto coda = code.find(nome);
     const auto metri = [&riga](std::size_t campo) { return Formatta(Valore(Parte(riga, '|', campo)), "0.000"); };
-    List2.push_back("8|" + nome + "|" + metri(2) + "|" + metri(3) + "|" + CodaNelLibretto(nome));
+    List2.push_back("8|" + nome + "|" + metri(2) + "|" + metri(3) + "|" +
+                    (coda == code.end() ? "NOTE:|" : coda->second));
     if (std::binary_search(List1.begin(), List1.end(), nome)) ++PuntiInTaf;
-    nomi.push_back(std::move(nome));
   }
 }
 
-// Reliability and description of a point, as its row of the place has them; "NOTE:|" when the libretto says nothing.
-std::string FormImportaFiduciali::CodaNelLibretto(std::string_view nome) const {
+// Reliability and description of each point that the libretto says some of, as the row of its place has them.
+std::unordered_map<std::string, std::string> FormImportaFiduciali::CodeNelLibretto() const {
   constexpr std::size_t primo = 4;
+  std::unordered_map<std::string, std::string> code;
   for (const auto riga : ambiente_.sessione.List1.Righe()) {
-    if (!Riga8(riga) || RigaQuota(riga) || NomeDi(riga) != nome) continue;
+    if (!Riga8(riga) || RigaQuota(riga)) continue;
     std::string coda;
-    for (std::size_t i = primo; !Parte(riga, '|', i).empty(); ++i) coda += std::string(Parte(riga, '|', i)) + "|";
-    if (!coda.empty()) return coda;
+    for (std::size_t i = primo; !Parte(riga, '|', i).empty(); ++i) coda.append(Parte(riga, '|', i)).append("|");
+    if (!coda.empty()) code.try_emplace(NomeDi(riga), std::move(coda));
   }
-  return "NOTE:|";
+  return code;
 }
 
-bool FormImportaFiduciali::DaSostituire(std::string_view riga) const {
-  if (!Riga8(riga) || (DaEstratto() && RigaQuota(riga))) return false;
-  const std::string nome = NomeDi(riga);
-  if (!nome.starts_with("PF")) return false;
-  return std::any_of(List2.begin(), List2.end(), [&nome](const std::string& nuova) { return NomeDi(nuova) == nome; });
+// Whether a row gives way to the new ones, whose names are `nuovi`.
+bool FormImportaFiduciali::DaSostituire(std::string_view riga, const Nomi& nuovi) const {
+  return Riga8(riga) && !(DaEstratto() && RigaQuota(riga)) && nuovi.contains(NomeDi(riga));
 }
 
-void FormImportaFiduciali::NominaMantenute(const ListaRighe& righe) const {
+void FormImportaFiduciali::NominaMantenute(const ListaRighe& righe, const Nomi& nuovi) const {
   constexpr std::size_t massimiNomi = 20;
   std::vector<std::string> nomi;
   for (std::size_t i = 1; i < righe.size(); ++i)
-    if (Riga8(righe[i]) && !DaSostituire(righe[i])) nomi.push_back(NomeDi(righe[i]));
+    if (Riga8(righe[i]) && !DaSostituire(righe[i], nuovi)) nomi.push_back(NomeDi(righe[i]));
   nomi.erase(std::unique(nomi.begin(), nomi.end()), nomi.end());
   if (nomi.empty()) return;
   const std::size_t nominati = std::min(nomi.size(), massimiNomi);
@@ -159,8 +160,10 @@ void FormImportaFiduciali::SostituisciRighe8() {
   ambiente_.sessione.PuntoErrore = "FormImportaFiduciali";
   Chiusa = Intrappola(ambiente_, [this] {
     ElencoRighe& elenco = ambiente_.sessione.List1;
-    if (!DaEstratto()) NominaMantenute(elenco.Righe());
-    elenco.Riempi(ConRighe8(elenco.Righe(), List2, [this](std::string_view riga) { return DaSostituire(riga); }));
+    Nomi nuovi;
+    for (const std::string& riga : List2) nuovi.insert(NomeDi(riga));
+    if (!DaEstratto()) NominaMantenute(elenco.Righe(), nuovi);
+    elenco.Riempi(ConRighe8(elenco.Righe(), List2, [&](std::string_view riga) { return DaSostituire(riga, nuovi); }));
     AggiornaLibrettoMisure(ambiente_);
     ambiente_.sessione.EsitoForm = EsitoConfermato;
   });

@@ -6,6 +6,9 @@
 #include <core/ambiente.h>
 
 #include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace lirmeto {
@@ -42,12 +45,14 @@ public:
   [[nodiscard]] bool DaEstratto() const { return fonte_ == FonteFiduciali::Estratto; }
 
 private:
+  using Nomi = std::unordered_set<std::string>;
+
   void TrovaNelLibretto();
   void TrovaInTaf();
   void TrovaNellEstratto();
-  [[nodiscard]] std::string CodaNelLibretto(std::string_view nome) const;
-  [[nodiscard]] bool DaSostituire(std::string_view riga) const;
-  void NominaMantenute(const ListaRighe& righe) const;
+  [[nodiscard]] std::unordered_map<std::string, std::string> CodeNelLibretto() const;
+  [[nodiscard]] bool DaSostituire(std::string_view riga, const Nomi& nuovi) const;
+  void NominaMantenute(const ListaRighe& righe, const Nomi& nuovi) const;
 
   Ambiente& ambiente_;
   FonteFiduciali fonte_;

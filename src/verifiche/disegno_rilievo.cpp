@@ -30,7 +30,7 @@ void DisegnaEstratto(const Atto& atto, ArchivioGrafica& archivio) {
   for (const auto& linea : estratto->linee) Spezzata(archivio, linea, {colore::Grigio, 1, stile::Punteggiato});
 }
 
-// The half circumference of a box around all points but the GNSS bases, metres.
+// From the westmost to the eastmost sighted point, metres.
 double Larghezza(const Rete& rete) {
   double ovest = std::numeric_limits<double>::max();
   double est = std::numeric_limits<double>::lowest();

@@ -1,6 +1,7 @@
 #include <ui/intestazione/finestra_catasto1.h>
 
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_con_titolo.h>
 #include <ui/comune/difetto.h>
 #include <ui/comune/senza_barre.h>
 #include <ui/comune/testo_qt.h>
@@ -45,13 +46,10 @@ QStringList Mostrate(const QComboBox& elenco) {
   return voci;
 }
 
-// The text, with the caret where it was.
+// A long text is seen from its beginning, unless the user is writing it.
 void MostraTesto(QLineEdit& casella, const std::string& testo) {
-  const QString nuovo = AQString(testo);
-  if (casella.text() == nuovo) return;
-  const int posto = casella.cursorPosition();
-  casella.setText(nuovo);
-  casella.setCursorPosition(casella.hasFocus() ? posto : 0);
+  MettiTesto(casella, testo);
+  if (!casella.hasFocus()) casella.setCursorPosition(0);
 }
 
 // Widgets side by side, from the left where none of them takes the room that is left.
