@@ -50,9 +50,11 @@ protected:
   void dropEvent(QDropEvent* evento) override;
 
 private:
+  [[nodiscard]] QWidget* CreaPiano();
   [[nodiscard]] QWidget* CreaCentro();
   [[nodiscard]] QWidget* CreaTestata();
   [[nodiscard]] QWidget* CreaPiede();
+  void CollegaPannelli();
   void CollegaElenco();
   void CollegaRicerca();
   void CollegaVerifiche();
