@@ -83,13 +83,6 @@ GraficaPannello::GraficaPannello(Ambiente& ambiente, Grafica& grafica, std::int1
       superficie_(new GraficaSuperficie(grafica, ospite, this)),
       righe_(new ModelloClasse(grafica.Liste().LibrettoOriginale, FontMonospazio(PuntiRighe), this)),
       elenco_(new QListView(this)), menu_(new QMenu(this)), posto_(new QLabel(this)), conteggi_(new QLabel(this)) {
-  posto_->setObjectName(QStringLiteral("PostoMouse"));
-  posto_->setFont(FontMonospazio(9));
-  conteggi_->setObjectName(QStringLiteral("Posto"));
-  auto* piede = new QHBoxLayout;
-  piede->setContentsMargins(10, 4, 10, 4);
-  piede->addWidget(posto_, 1);
-  piede->addWidget(conteggi_);
   auto* piano = new QSplitter(this);
   piano->setChildrenCollapsible(false);
   piano->setHandleWidth(1);
@@ -101,8 +94,28 @@ GraficaPannello::GraficaPannello(Ambiente& ambiente, Grafica& grafica, std::int1
   colonna->setSpacing(0);
   colonna->addWidget(barra_);
   colonna->addWidget(piano, 1);
-  colonna->addLayout(piede);
+  colonna->addLayout(CreaPiede());
   RiempiBarra();
+  RiempiMenu();
+  connect(superficie_, &GraficaSuperficie::MenuRichiesto, this, &GraficaPannello::MostraMenu);
+  connect(superficie_, &GraficaSuperficie::Sopra, this, &GraficaPannello::MostraPosto);
+  connect(superficie_, &GraficaSuperficie::Uscito, posto_, &QLabel::clear);
+  connect(superficie_, &GraficaSuperficie::Ridisegnata, this, &GraficaPannello::MostraConteggi);
+  MostraConteggi();
+}
+
+QLayout* GraficaPannello::CreaPiede() {
+  posto_->setObjectName(QStringLiteral("PostoMouse"));
+  posto_->setFont(FontMonospazio(9));
+  conteggi_->setObjectName(QStringLiteral("Posto"));
+  auto* piede = new QHBoxLayout;
+  piede->setContentsMargins(10, 4, 10, 4);
+  piede->addWidget(posto_, 1);
+  piede->addWidget(conteggi_);
+  return piede;
+}
+
+void GraficaPannello::RiempiMenu() {
   for (const VoceGrafica& voce : VociMnuZoom1()) {
     if (voce.didascalia.empty()) {
       menu_->addSeparator();
@@ -113,11 +126,6 @@ GraficaPannello::GraficaPannello(Ambiente& ambiente, Grafica& grafica, std::int1
       FiniscePerScambio();
     });
   }
-  connect(superficie_, &GraficaSuperficie::MenuRichiesto, this, &GraficaPannello::MostraMenu);
-  connect(superficie_, &GraficaSuperficie::Sopra, this, &GraficaPannello::MostraPosto);
-  connect(superficie_, &GraficaSuperficie::Uscito, posto_, &QLabel::clear);
-  connect(superficie_, &GraficaSuperficie::Ridisegnata, this, &GraficaPannello::MostraConteggi);
-  MostraConteggi();
 }
 
 // The rows that the drawing was made from.

@@ -55,7 +55,9 @@ private:
   };
 
   [[nodiscard]] QWidget* CreaRighe();
+  [[nodiscard]] QLayout* CreaPiede();
   void RiempiBarra();
+  void RiempiMenu();
   void AggiungiVoce(const VoceGrafica& voce);
   void AggiungiStrumenti();
   void AggiungiFlag(const VoceFlag& voce);

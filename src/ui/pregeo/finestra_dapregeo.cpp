@@ -82,19 +82,10 @@ FinestraDapregeo::FinestraDapregeo(KR_Dapregeo& modello, QWidget* padre)
   disegno_->Superficie().MettiInvito(QStringLiteral("Scegliere un libretto dell'archivio per vederne la proposta"));
   MettiInvito(*archivio_,
               QStringLiteral("L'archivio di Pregeo non ha libretti, o il programma di scambio non risponde."));
-  auto* sotto = new QSplitter(this);
-  sotto->addWidget(CreaLibretto());
-  sotto->addWidget(disegno_);
-  sotto->setSizes({LarghezzaLibretto, Larghezza - LarghezzaLibretto});
-  auto* piano = new QSplitter(Qt::Vertical, this);
-  piano->addWidget(archivio_);
-  piano->addWidget(sotto);
-  piano->setSizes({AltezzaArchivio, Altezza - AltezzaArchivio});
-  for (QSplitter* uno : {sotto, piano}) uno->setChildrenCollapsible(false);
   auto* colonna = new QVBoxLayout(this);
   colonna->setContentsMargins(10, 10, 10, 10);
   if (modello_.ConRicerca) colonna->addWidget(CreaRicerca());
-  colonna->addWidget(piano, 1);
+  colonna->addWidget(CreaPiano(), 1);
   colonna->addLayout(CreaPiede());
   MostraArchivio();
   MostraLibretto();
@@ -106,6 +97,20 @@ FinestraDapregeo::FinestraDapregeo(KR_Dapregeo& modello, QWidget* padre)
   connect(disegno_, &GraficaPannello::RicaricaRichiesta, this, [this] { modello_.Ricarica(); });
   AdattaAlloSchermo(*this, Larghezza, Altezza);
   RimettiAlPosto(*this, modello_.PostoSalvato);
+}
+
+// The archive above; below it the libretto chosen there and its drawing.
+QWidget* FinestraDapregeo::CreaPiano() {
+  auto* sotto = new QSplitter(this);
+  sotto->addWidget(CreaLibretto());
+  sotto->addWidget(disegno_);
+  sotto->setSizes({LarghezzaLibretto, Larghezza - LarghezzaLibretto});
+  auto* piano = new QSplitter(Qt::Vertical, this);
+  piano->addWidget(archivio_);
+  piano->addWidget(sotto);
+  piano->setSizes({AltezzaArchivio, Altezza - AltezzaArchivio});
+  for (QSplitter* uno : {sotto, piano}) uno->setChildrenCollapsible(false);
+  return piano;
 }
 
 // Rows of the archive that lack the text are hidden.

@@ -22,6 +22,7 @@ public:
   void done(int esito) override;
 
 private:
+  [[nodiscard]] QWidget* CreaPiano();
   [[nodiscard]] QWidget* CreaRicerca();
   [[nodiscard]] QWidget* CreaLibretto();
   [[nodiscard]] QLayout* CreaPiede();

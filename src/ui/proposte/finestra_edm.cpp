@@ -140,6 +140,18 @@ QWidget* FinestraEdm::CreaCaselle() {
   auto* colonna = new QVBoxLayout(dentro);
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->addWidget(TitoloGruppo(QStringLiteral("Particella"), this));
+  colonna->addLayout(CreaParticella());
+  colonna->addWidget(Bottoni(Particella, 2));
+  colonna->addWidget(TitoloGruppo(QStringLiteral("Derivazioni della proposta"), this));
+  auto* derivazioni = new QListWidget(this);
+  derivazioni->setObjectName(QStringLiteral("List3"));
+  derivazioni->setUniformItemSizes(true);
+  for (const std::string& linea : modello_.List3) derivazioni->addItem(AQString(linea));
+  colonna->addWidget(derivazioni, 1);
+  return dentro;
+}
+
+QLayout* FinestraEdm::CreaParticella() {
   auto* griglia = new QGridLayout;
   griglia->setVerticalSpacing(4);
   const QString mq = QStringLiteral("mq");
@@ -158,15 +170,7 @@ QWidget* FinestraEdm::CreaCaselle() {
   AggiungiCasella(*griglia, QStringLiteral("Text9"), QStringLiteral("Redd. Dominicale"), &KR_EDM::Text9, nullptr, euro);
   AggiungiCasella(*griglia, QStringLiteral("Text10"), QStringLiteral("Redd. Agrario"), &KR_EDM::Text10, nullptr, euro);
   AggiungiCasella(*griglia, QStringLiteral("Text4"), QStringLiteral("SN / SR"), &KR_EDM::Text4, nullptr);
-  colonna->addLayout(griglia);
-  colonna->addWidget(Bottoni(Particella, 2));
-  colonna->addWidget(TitoloGruppo(QStringLiteral("Derivazioni della proposta"), this));
-  auto* derivazioni = new QListWidget(this);
-  derivazioni->setObjectName(QStringLiteral("List3"));
-  derivazioni->setUniformItemSizes(true);
-  for (const std::string& linea : modello_.List3) derivazioni->addItem(AQString(linea));
-  colonna->addWidget(derivazioni, 1);
-  return dentro;
+  return griglia;
 }
 
 void FinestraEdm::AggiungiCasella(QGridLayout& griglia, const QString& nome, const QString& etichetta,

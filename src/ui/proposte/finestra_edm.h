@@ -51,6 +51,7 @@ protected:
 private:
   [[nodiscard]] QWidget* CreaElenchi();
   [[nodiscard]] QWidget* CreaCaselle();
+  [[nodiscard]] QLayout* CreaParticella();
   [[nodiscard]] QWidget* CreaDisegno();
   [[nodiscard]] QWidget* Bottoni(std::span<const int> indici, int colonne);
   void AggiungiCasella(QGridLayout& griglia, const QString& nome, const QString& etichetta, std::string KR_EDM::*testo,

@@ -101,6 +101,11 @@ QWidget* FinestraProposta::CreaScelte() {
     Tocca();
   });
   colonna->addWidget(aree, 1);
+  CollegaScelte();
+  return dentro;
+}
+
+void FinestraProposta::CollegaScelte() {
   connect(text1_, &QLineEdit::textEdited, this, [this](const QString& testo) {
     modello_.CambiaText1(DaQString(testo));
     Tocca();
@@ -114,7 +119,6 @@ QWidget* FinestraProposta::CreaScelte() {
     modello_.CambiaCheck1(si);
     Tocca();
   });
-  return dentro;
 }
 
 QListWidget* FinestraProposta::CreaElenco(const char* nome, const std::vector<std::string>& voci) {
@@ -141,6 +145,16 @@ QWidget* FinestraProposta::CreaGriglia() {
   text2_->installEventFilter(this);
   label2_->setBuddy(text2_);
   label2_->setTextFormat(Qt::PlainText);
+  somma_->setObjectName(QStringLiteral("Somma"));
+  PreparaTabella();
+  colonna->addSpacing(6);
+  colonna->addLayout(area);
+  colonna->addWidget(tabella_, 1);
+  colonna->addWidget(somma_);
+  return dentro;
+}
+
+void FinestraProposta::PreparaTabella() {
   tabella_->setObjectName(QStringLiteral("MSFlexGrid1"));
   tabella_->setModel(&griglia_);
   tabella_->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -154,12 +168,6 @@ QWidget* FinestraProposta::CreaGriglia() {
   testata.setStretchLastSection(true);
   testata.setHighlightSections(false);
   tabella_->setToolTip(QStringLiteral("Doppio clic su SR/SN e su Area FISSA: cambia il valore"));
-  somma_->setObjectName(QStringLiteral("Somma"));
-  colonna->addSpacing(6);
-  colonna->addLayout(area);
-  colonna->addWidget(tabella_, 1);
-  colonna->addWidget(somma_);
-  return dentro;
 }
 
 // Lines of the proposal; the parcels of those selected become urban entities.

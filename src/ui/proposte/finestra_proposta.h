@@ -32,7 +32,9 @@ private:
   FinestraProposta(PropostaDerivate& modello, QWidget* padre);
   void Componi();
   [[nodiscard]] QWidget* CreaScelte();
+  void CollegaScelte();
   [[nodiscard]] QWidget* CreaGriglia();
+  void PreparaTabella();
   [[nodiscard]] QListWidget* CreaElenco(const char* nome, const std::vector<std::string>& voci);
   [[nodiscard]] QWidget* CreaUrbani(KR_Stralcio& stralcio);
   void CollegaGriglia();
