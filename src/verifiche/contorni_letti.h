@@ -24,7 +24,6 @@ struct ContornoLetto {
   [[nodiscard]] bool Nero() const { return codice.starts_with('N'); }
   // Rows of vertex points: their names are points by themselves, and no line joins them.
   [[nodiscard]] bool Vertici() const { return codice == "PV" || codice == "PD"; }
-  [[nodiscard]] bool Chiuso() const { return vertici.size() > 2 && vertici.front().punto == vertici.back().punto; }
 };
 
 // Of the measures, without those of the proposal. A continuation with nothing before it stands by itself.

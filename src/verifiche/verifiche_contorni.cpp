@@ -96,13 +96,13 @@ void VerificaIncrocio(const Atto& atto, const ContornoLetto& contorno, Raccolta&
   raccolta.Riga(RegolaDi("C004"), contorno.riga, 0, {nome(s.primo), nome(s.secondo), nome(t.primo), nome(t.secondo)});
 }
 
-// Both ends of an open red contour stand on another contour.
+// Both ends of an open red contour stand on another contour. Those of a closed one are one point, used twice.
 void VerificaEstremi(const Atto& atto, const std::vector<ContornoLetto>& contorni, Raccolta& raccolta) {
-  std::vector<std::size_t> usi(atto.righe.Nomi().Quanti()); // contours that pass through a point
+  std::vector<std::size_t> usi(atto.righe.Nomi().Quanti()); // how often contours pass through a point
   for (const ContornoLetto& contorno : contorni)
     for (const VerticeContorno& v : contorno.vertici) ++usi[v.punto];
   for (const ContornoLetto& contorno : contorni) {
-    if (!contorno.Rosso() || contorno.Chiuso() || contorno.vertici.empty()) continue;
+    if (!contorno.Rosso() || contorno.vertici.empty()) continue;
     for (const VerticeContorno& v : {contorno.vertici.front(), contorno.vertici.back()})
       if (usi[v.punto] < 2) raccolta.Riga(RegolaDi("C006"), v.riga, v.campo, {atto.righe.Nomi().Nome(v.punto)});
   }

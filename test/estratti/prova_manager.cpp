@@ -134,6 +134,13 @@ TEST_P(Comandi, DicoELasciano) {
   std::erase_if(attesi, [](const auto& voce) { return voce.second == "(manca)"; });
   EXPECT_EQ(tavolo.disco.file, attesi);
   EXPECT_EQ(form.Indice < 0 ? "" : form.File1[static_cast<std::size_t>(form.Indice)], caso.selezionato);
+  KR_EstrattiDiMappa1 nuovo(tavolo.ambiente);
+  nuovo.AlCaricamento();
+  Scegli(nuovo, caso.selezionato);
+  nuovo.AnteprimaEstratto3();
+  EXPECT_EQ(form.TestoFile + form.TestoDitte + form.TestoParticelle + form.Etichette.particelle,
+            nuovo.TestoFile + nuovo.TestoDitte + nuovo.TestoParticelle + nuovo.Etichette.particelle)
+      << "what is shown is the file as it is now";
 }
 
 std::string Con(const std::string& da, const std::string& a) {

@@ -23,6 +23,7 @@ struct VoceFinta {
   std::string extra = {}; // extra fields
   bool crcGiusto = true;
   std::string nomeLocale = {}; // where the two headers do not agree
+  std::string nota = {};
 };
 
 std::string Numero(std::size_t valore, int byte) {
@@ -48,8 +49,8 @@ std::string ArchivioFinto(const std::vector<VoceFinta>& voci) {
   for (const VoceFinta& voce : voci) {
     const std::string& locale = voce.nomeLocale.empty() ? voce.nome : voce.nomeLocale;
     elenco += Numero(0x02014B50, 4) + Numero(voce.modo != 0 ? 0x314 : 20, 2) + CampiComuni(voce, voce.nome) +
-              Numero(0, 6) + Numero(std::size_t{voce.modo} << 16U, 4) + Numero(archivio.size(), 4) + voce.nome +
-              voce.extra;
+              Numero(voce.nota.size(), 2) + Numero(0, 4) + Numero(std::size_t{voce.modo} << 16U, 4) +
+              Numero(archivio.size(), 4) + voce.nome + voce.extra + voce.nota;
     archivio += Numero(0x04034B50, 4) + CampiComuni(voce, locale) + locale + voce.extra + voce.dati;
   }
   return archivio + elenco + Numero(0x06054B50, 4) + Numero(0, 4) + Numero(voci.size(), 2) + Numero(voci.size(), 2) +
@@ -207,6 +208,17 @@ INSTANTIATE_TEST_SUITE_P(
         Ostile{{{"d\\\xE6\x97\xA5.txt", "u8", 0x800}}, "D\\_.TXT=u8 ", ""},
         Ostile{{{"citt\xC3\xA0", "zip"}}, "CITT\xC0=zip ", ""}, Ostile{{{"citt\xE0", "1252"}}, "CITT\xC0=1252 ", ""},
         Ostile{{{"citt\x85", "extra", 0, 0, CampoUnicode("citt\x85", "citt\xC3\xA0")}}, "CITT\xC0=extra ", ""}));
+
+// Behind a program that unpacks itself, and with all that may follow a name in the list.
+TEST(Esplodi, NomiDopoAltriByte) {
+  const std::string extra = CampoUnicode("citt\x85", "citt\xC3\xA0");
+  const std::string byte =
+      ArchivioFinto({{"citt\x85", "uno", 0, 0, extra, true, "", "una nota"}, {"d\\perch\xC3\xA9", "due", 0x800}});
+  for (const char* prima : {"", "MZ programma"}) {
+    Tavola t;
+    EXPECT_EQ(t.Esplodi(prima + byte), "CITT\xC0=uno D\\PERCH\xC9=due ") << prima;
+  }
+}
 
 TEST(Esplodi, ArchiviCheNonSiAprono) {
   Tavola t;
