@@ -6,6 +6,7 @@
 #include <base/testo.h>
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
 
 namespace lirmeto {
@@ -24,10 +25,39 @@ bool SePossibile(const Domanda& domanda) {
   }
 }
 
+// What a host path has behind a folder, "\\a\\b", nothing for the folder itself; none where it does not lie in it or
+// cannot be said.
+std::optional<std::string> DietroA(const fs::path& cartella, const fs::path& ospite) {
+  const auto [fine, resto] = std::mismatch(cartella.begin(), cartella.end(), ospite.begin(), ospite.end());
+  if (cartella.empty() || fine != cartella.end()) return std::nullopt;
+  std::string dietro;
+  for (auto parte = resto; parte != ospite.end(); ++parte) {
+    if (parte->empty()) continue; // behind a closing separator
+    const auto nome = NomeDaOspite(Utf8DaOspite(*parte));
+    if (!nome) return std::nullopt;
+    dietro.append("\\").append(*nome);
+  }
+  return dietro;
+}
+
 } // namespace
 
 fs::path DiscoDischi::PercorsoOspite(std::string_view percorso) const {
   return PercorsoSuOspite(dischi_, percorso, ricordate_ ? &*ricordate_ : nullptr);
+}
+
+// The drives of a Wine prefix are links: a path may come with the link's name or with that of the folder behind it.
+std::string DiscoDischi::DaOspite(const fs::path& ospite) const {
+  std::error_code guasto;
+  const fs::path pieno = fs::absolute(ospite, guasto);
+  const bool semplice = !dischi_.empty() && std::find(pieno.begin(), pieno.end(), fs::path("..")) == pieno.end();
+  for (char lettera = 'A'; semplice && lettera < 'Z'; ++lettera) {
+    const fs::path cartella = CartellaDisco(dischi_, lettera);
+    for (const fs::path& inizio : {fs::absolute(cartella, guasto).lexically_normal(), fs::canonical(cartella, guasto)})
+      if (const auto dietro = DietroA(inizio, pieno.lexically_normal()))
+        return std::string{lettera} + ":" + (dietro->empty() ? "\\" : *dietro);
+  }
+  return PercorsoDaOspite(ospite);
 }
 
 void DiscoDischi::RicordaCartelle(bool si) {

@@ -41,6 +41,10 @@ public:
   // Where a path lies on the host, whether something stands there or not. Throws Errore 52 for a path that cannot be.
   [[nodiscard]] std::filesystem::path PercorsoOspite(std::string_view percorso) const;
 
+  // A path of the host as the logic says it: "C:\..." where it lies in the folder of that drive, else as
+  // PercorsoDaOspite says it, whose errors it has.
+  [[nodiscard]] std::string DaOspite(const std::filesystem::path& ospite) const;
+
   [[nodiscard]] const std::filesystem::path& Dischi() const { return dischi_; }
 
   void RicordaCartelle(bool si) override;

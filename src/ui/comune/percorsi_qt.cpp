@@ -6,6 +6,8 @@
 #include <core/mostra_errore.h>
 #include <piattaforma/percorsi_ospite.h>
 
+#include <filesystem>
+
 namespace lirmeto::ui {
 
 namespace {
@@ -15,13 +17,19 @@ bool HaUnita(const QString& percorso) {
          (percorso[2] == u'\\' || percorso[2] == u'/');
 }
 
+// As a path of one of the drives where the disk has them as folders.
+std::string Detto(const Disco& disco, const std::filesystem::path& ospite) {
+  const auto* dischi = dynamic_cast<const DiscoDischi*>(&disco);
+  return dischi == nullptr ? PercorsoDaOspite(ospite) : dischi->DaOspite(ospite);
+}
+
 } // namespace
 
 Percorsi PercorsiDi(const DiscoDischi& disco) {
   return {[&disco](std::string_view percorso) {
             return QString::fromStdString(Utf8DaOspite(disco.PercorsoOspite(percorso)));
           },
-          [](const QString& ospite) { return PercorsoDaOspite(OspiteDaUtf8(ospite.toStdString())); }};
+          [&disco](const QString& ospite) { return disco.DaOspite(OspiteDaUtf8(ospite.toStdString())); }};
 }
 
 std::function<std::string(const QString&)> PercorsoDetto(Ambiente& ambiente) {
@@ -30,7 +38,7 @@ std::function<std::string(const QString&)> PercorsoDetto(Ambiente& ambiente) {
     (void)Intrappola(ambiente, [&] {
       const std::string utf8 = percorso.toStdString();
       const bool siDice = HaUnita(percorso) && RappresentabileDaUtf8(utf8);
-      detto = siDice ? DaUtf8(utf8) : PercorsoDaOspite(OspiteDaUtf8(utf8));
+      detto = siDice ? DaUtf8(utf8) : Detto(ambiente.disco, OspiteDaUtf8(utf8));
     });
     return detto;
   };

@@ -204,6 +204,28 @@ TEST_F(ProvaDisco, PercorsiDellOspite) {
   EXPECT_EQ(disco.PercorsoOspite("C:\\Manca\\x.dat"), cartella.Radice() / "c/Manca/x.dat");
 }
 
+TEST_F(ProvaDisco, UnFileDiUnUnitaHaLaSuaLettera) {
+  const fs::path prefisso = cartella.Radice() / "prefisso";
+  cartella.Metti("prefisso/drive_c/atti/x.dat", "x");
+  fs::create_directories(prefisso / "dosdevices");
+  fs::create_symlink("../drive_c", prefisso / "dosdevices/c:");
+  fs::create_symlink("/", prefisso / "dosdevices/z:");
+  const DiscoDischi wine(prefisso / "dosdevices");
+  const struct {
+    const DiscoDischi& dischi;
+    fs::path ospite;
+    std::string detto;
+  } casi[] = {
+      {disco, cartella.Radice() / "c/Libretti/x.dat", "C:\\Libretti\\x.dat"},
+      {disco, cartella.Radice() / "c/", "C:\\"},
+      {disco, cartella.Radice() / "altro/x.dat", PercorsoDaOspite(cartella.Radice() / "altro/x.dat")},
+      {wine, prefisso / "dosdevices/c:/atti/x.dat", "C:\\atti\\x.dat"},
+      {wine, prefisso / "drive_c/atti/x.dat", "C:\\atti\\x.dat"},
+      {wine, "/tmp/x.dat", "Z:\\tmp\\x.dat"},
+  };
+  for (const auto& [dischi, ospite, detto] : casi) EXPECT_EQ(dischi.DaOspite(ospite), detto) << ospite;
+}
+
 TEST_F(ProvaDisco, DueIPuntiDietroUnCollegamentoComeLiIntendeLOspite) {
   const auto file = cartella.Metti("vera/x.dat", "x");
   fs::create_directories(cartella.Radice() / "vera/dentro");
