@@ -133,6 +133,7 @@ void KR_LibrettoOriginale::Esegui(Comando comando) {
     if (const Tipologia* tipologia = TrovaTipologia(comando)) return EseguiTipologia(ambiente_, *tipologia);
     if (!EseguiDa(Comandi, comando, ambiente_) && !EseguiConForm(comando)) EseguiAltri(comando);
   });
+  DiciSeNulla(comando);
   if (censuario) ContaErrori(); // with what the workbench wrote
 }
 
@@ -142,12 +143,13 @@ void KR_LibrettoOriginale::Comanda(std::string_view nome, const std::function<vo
   Esito.clear();
   PrimaNuova.reset();
   const Scelta scelta = SceltaAttuale();
+  const std::uint64_t prima = ImprontaAttuale();
   Prova([&] { storia_.Prepara(sessione); });
   ListaRighe scartatePrima = std::exchange(sessione.RigheScartate, {});
   Prova(comando);
   bool cambiate = false;
   Prova([&] { cambiate = storia_.Registra(sessione, nome); });
-  DiciCambiamento(nome, cambiate);
+  if (cambiate) DiciCambiamento(nome, prima);
   RimettiScelta(scelta, cambiate);
   if (!cambiate && sessione.RigheScartate.empty()) sessione.RigheScartate = std::move(scartatePrima);
   AvvisoScartate = AvvisoRigheScartate(sessione);
@@ -156,6 +158,9 @@ void KR_LibrettoOriginale::Comanda(std::string_view nome, const std::function<vo
 
 // One step back or forth.
 void KR_LibrettoOriginale::Torna(void (Storia::*passo)(Sessione&)) {
+  const bool indietro = passo == &Storia::Annulla;
+  const std::string nome(indietro ? storia_.DaAnnullare() : storia_.DaRipetere());
+  Esito = nome.empty() ? std::string() : (indietro ? "Annullato: " : "Ripetuto: ") + nome;
   Prova([&] {
     storia_.Prepara(ambiente_.sessione);
     (storia_.*passo)(ambiente_.sessione);

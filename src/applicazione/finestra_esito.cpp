@@ -2,13 +2,39 @@
 
 #include <applicazione/finestra_principale.h>
 
+#include <applicazione/tipologie.h>
 #include <core/salvataggio.h>
 
 #include <algorithm>
+#include <array>
 
 namespace lirmeto {
 
 namespace {
+
+constexpr std::array PerLeRighe = {
+    Comando::TagliaRighe,
+    Comando::IncollaRighe,
+    Comando::EliminaRighe,
+    Comando::ModificaDiretta,
+    Comando::RelazioneTecnica,
+    Comando::Intestazione,
+    Comando::MostraRiordino,
+    Comando::RiordinoRighe,
+    Comando::IncollaDaAppunti,
+    Comando::EliminaVrs,
+    Comando::AssegnaVrs,
+    Comando::Righe8DaExcel,
+    Comando::Righe8NomeAutoDaExcel,
+    Comando::RigheCompleteDaExcel,
+    Comando::DaElaborazionePregeo,
+    Comando::ModelloCensuario,
+    Comando::ImportaFiduciali,
+    Comando::ImportaFiducialiEstratto,
+    Comando::AssegnaDescrizione,
+    Comando::DaPregeo,
+    Comando::QuotaMedia,
+};
 
 std::string Frase(const Storia::Differenza& quante) {
   if (quante.nuove > quante.vecchie) return FattoARighe("aggiunt", quante.nuove - quante.vecchie);
@@ -18,12 +44,28 @@ std::string Frase(const Storia::Differenza& quante) {
 
 } // namespace
 
-// A command that told its own outcome has the last word.
-void KR_LibrettoOriginale::DiciCambiamento(std::string_view nome, bool cambiate) {
-  if (!cambiate || !Esito.empty()) return;
+// A command that told its own outcome has the last word. Some put the rows in order as a save does, and no more.
+void KR_LibrettoOriginale::DiciCambiamento(std::string_view nome, std::uint64_t prima) {
+  if (!Esito.empty()) return;
   const Storia::Differenza quante = storia_.Ultima(ambiente_.sessione);
   if (quante.nuove > quante.vecchie) PrimaNuova = quante.inizio;
-  Esito = std::string(nome) + ": " + Frase(quante);
+  Esito = std::string(nome) + ": " + Frase(quante) + (prima == ImprontaAttuale() ? ", come al salvataggio" : "");
+}
+
+// A command that is there to change rows and changed none does not leave the user in doubt.
+void KR_LibrettoOriginale::DiciSeNulla(Comando comando) {
+  if (comando == Comando::CopiaRighe) return DiciCopia();
+  const bool suo = TrovaTipologia(comando) != nullptr ||
+                   std::find(PerLeRighe.begin(), PerLeRighe.end(), comando) != PerLeRighe.end();
+  if (suo && Esito.empty()) Esito = std::string(DidascaliaDi(comando)) + ": nessuna riga cambiata";
+}
+
+// The selected rows, else the current one.
+void KR_LibrettoOriginale::DiciCopia() {
+  const ElencoRighe& elenco = ambiente_.sessione.List1;
+  const std::size_t scelte = elenco.QuanteSelezionate();
+  Esito = std::string(DidascaliaDi(Comando::CopiaRighe)) + ": " +
+          FattoARighe("copiat", scelte == 0 && elenco.Indice() >= 0 ? 1 : scelte);
 }
 
 void KR_LibrettoOriginale::DiciSelezione(Comando comando) {

@@ -119,6 +119,8 @@ public:
 
   // Where the window stood last.
   [[nodiscard]] std::optional<PosizioneForm> PostoSalvato() const;
+  // Whether the close would write something: the title says so.
+  [[nodiscard]] bool DaSalvare() const;
   // The window is closing: position to the settings, list to text, and the text to its file when something in it changed.
   // A save that fails asks what to do; Finita is false when the window stays.
   void Chiusura(const PosizioneForm& posizione);
@@ -143,7 +145,7 @@ private:
   void SeguiRiga();
   void EseguiAltri(Comando comando);
   void NuovoLibretto(std::string_view marcatore);
-  [[nodiscard]] bool DaSalvare() const;
+  [[nodiscard]] std::uint64_t ImprontaAttuale() const;
   [[nodiscard]] bool LasciaIlLibretto();
   [[nodiscard]] bool SalvaOChiedi();
   void RicordaIntatto();
@@ -179,13 +181,20 @@ private:
   };
   [[nodiscard]] Scelta SceltaAttuale() const;
   void RimettiScelta(const Scelta& prima, bool cambiate);
-  void DiciCambiamento(std::string_view nome, bool cambiate);
+  void DiciCambiamento(std::string_view nome, std::uint64_t prima);
+  void DiciSeNulla(Comando comando);
+  void DiciCopia();
   void DiciSelezione(Comando comando);
   void Torna(void (Storia::*passo)(Sessione&));
 
   Ambiente& ambiente_;
   Storia storia_;
   std::optional<std::uint64_t> salvato_; // what stands on the disk, as its number; none when that is not known
+  struct ImprontaLetta {
+    unsigned long versione = 0; // of the list
+    std::uint64_t righe = 0;
+  };
+  mutable std::optional<ImprontaLetta> impronta_;
   std::vector<std::string> consegne_;    // command lines handed over and not yet run
   long rigaAccesa_ = -1;                 // of the picture
 };

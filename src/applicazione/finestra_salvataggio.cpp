@@ -29,8 +29,16 @@ enum Scelta : std::size_t { Riprova, Altrove, SenzaSalvare };
 
 } // namespace
 
+// What a save would write now. The rows are gone through again only when they are others than the last time.
+std::uint64_t KR_LibrettoOriginale::ImprontaAttuale() const {
+  const ElencoRighe& elenco = ambiente_.sessione.List1;
+  if (!impronta_ || impronta_->versione != elenco.Versione())
+    impronta_ = ImprontaLetta{elenco.Versione(), ImprontaRighe(elenco)};
+  return ImprontaElenco(impronta_->righe, ambiente_.sessione);
+}
+
 void KR_LibrettoOriginale::RicordaIntatto() {
-  salvato_ = ImprontaElenco(ambiente_.sessione);
+  salvato_ = ImprontaAttuale();
 }
 
 // An export leaves owners and extract out: a libretto without a file is not saved by it.
@@ -53,7 +61,7 @@ void KR_LibrettoOriginale::Esporta() {
 }
 
 bool KR_LibrettoOriginale::DaSalvare() const {
-  return salvato_ != ImprontaElenco(ambiente_.sessione);
+  return salvato_ != ImprontaAttuale();
 }
 
 // Whether the libretto that stands may go.

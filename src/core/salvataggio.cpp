@@ -61,6 +61,8 @@ std::string DittaInCampi(std::string_view ditta) {
 // A number of a text that stays the same from run to run (FNV-1a): two texts that differ have two, as good as surely.
 class Impronta {
 public:
+  Impronta() = default;
+  explicit Impronta(std::uint64_t valore) : valore_(valore) {}
   void Aggiungi(std::string_view testo) {
     constexpr std::uint64_t primo = 0x100000001B3;
     for (const char lettera : testo) valore_ = (valore_ ^ static_cast<unsigned char>(lettera)) * primo;
@@ -245,8 +247,8 @@ bool SalvaLibrettoAltrove(Ambiente& ambiente) {
   return false;
 }
 
-std::uint64_t ImprontaElenco(const Sessione& sessione) {
-  ElencoRighe elenco = sessione.List1;
+std::uint64_t ImprontaRighe(const ElencoRighe& righe) {
+  ElencoRighe elenco = righe;
   elenco.TogliRipetute();
   Impronta impronta;
   for (const auto riga : elenco.Righe()) {
@@ -254,7 +256,11 @@ std::uint64_t ImprontaElenco(const Sessione& sessione) {
     DaPulire(riga) ? impronta.Aggiungi(Taglia(RigaPulita(riga))) : impronta.Aggiungi(Taglia(riga));
     impronta.Aggiungi(FineRiga);
   }
-  return ConValori(impronta, sessione);
+  return impronta.Valore();
+}
+
+std::uint64_t ImprontaElenco(std::uint64_t righe, const Sessione& sessione) {
+  return ConValori(Impronta(righe), sessione);
 }
 
 std::uint64_t ImprontaLibretto(const Sessione& sessione) {

@@ -37,8 +37,9 @@ bool SalvaLibrettoMisure(Ambiente& ambiente);
 [[nodiscard]] bool SalvaLibrettoAltrove(Ambiente& ambiente);
 
 // What a save of the row list, after AggiornaLibrettoMisure, would write, as a number: the same number is the same
-// text. Owners count in capitals, as their box shows them.
-[[nodiscard]] std::uint64_t ImprontaElenco(const Sessione& sessione);
+// text. Owners count in capitals, as their box shows them. In two halves, as the rows' one costs as much as they are long.
+[[nodiscard]] std::uint64_t ImprontaRighe(const ElencoRighe& righe);
+[[nodiscard]] std::uint64_t ImprontaElenco(std::uint64_t righe, const Sessione& sessione);
 // The same of what a save of Libretto writes.
 [[nodiscard]] std::uint64_t ImprontaLibretto(const Sessione& sessione);
 

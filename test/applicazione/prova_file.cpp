@@ -37,7 +37,7 @@ TEST_P(ApriDaFile, PrendeLaViaDelFileTrascinato) {
   sala.dialoghi.risposte = {Risposta::Si};
   sala.finestra.Esegui(GetParam().comando);
   EXPECT_EQ(sala.Righe(), (Testi{Zero, Nove, "8|9|9|9|"}));
-  EXPECT_EQ(sala.finestra.Esito, "Aperto C:\\ALTRO.DAT: 3 righe");
+  EXPECT_EQ(sala.finestra.Esito, "Aperto ALTRO.DAT: 3 righe");
   EXPECT_EQ(sala.finestra.Recenti, (Testi{"C:\\ALTRO.DAT", "C:\\ACT.DAT"}));
 }
 
@@ -107,7 +107,7 @@ TEST(Apertura, DiceCioCheSistemaECioCheIlFileSaDelTecnico) {
   sala.disco.Metti("C:\\ACT.DAT", Testo({Zero, Nove, "8|1||", "8|1||", "8|2||<P!>|", "6|<COD>DELFILE|", "6|<ISC>|"}));
   sala.disco.Metti(Programma + "\\TECNICI\\ROSSI MARIO.PFS", "\"R\",,\r\n,,\r\n\"55\",\"DELTECNICO\"\r\n,\r\n,\r\n");
   sala.finestra.Avvia("C:\\ACT.DAT");
-  EXPECT_EQ(sala.finestra.Esito, "Aperto C:\\ACT.DAT: 5 righe; al salvataggio tolta 1 riga uguale alla precedente, "
+  EXPECT_EQ(sala.finestra.Esito, "Aperto ACT.DAT: 5 righe; al salvataggio tolta 1 riga uguale alla precedente, "
                                  "sistemate 2 righe con note da completare");
   EXPECT_EQ(sala.finestra.CasellaCodiceFiscale, "DELFILE");
   EXPECT_EQ(sala.finestra.CasellaIscrizione, "55") << "an empty one is none";
@@ -293,11 +293,21 @@ TEST(Esito, DiceAQuanteRigheETieneLaScelta) {
   sala.finestra.Esegui(Comando::EstrattiDiMappa);
   EXPECT_TRUE(elenco.Indice() == 4 && elenco.Selezionata(4)) << "the list was only filled again";
   EXPECT_EQ(sala.finestra.Esito, "");
+  sala.finestra.Esegui(Comando::CopiaRighe);
+  EXPECT_EQ(sala.finestra.Esito, "Copia Righe: copiata 1 riga");
+  sala.finestra.Esegui(Comando::EliminaVrs);
+  EXPECT_EQ(sala.finestra.Esito, "ELIMINA [VRS]: nessuna riga cambiata");
   sala.finestra.Esegui(Comando::SelezionaStazioni);
   EXPECT_EQ(sala.finestra.Esito, "Seleziona Stazioni: selezionata 1 riga");
   sala.dialoghi.risposte = {Risposta::Si};
   sala.finestra.TastoCancella();
   EXPECT_EQ(sala.finestra.Esito, "Elimina Righe: tolta 1 riga");
+  EXPECT_TRUE(sala.finestra.DaSalvare());
+  sala.finestra.Esegui(Comando::Annulla);
+  EXPECT_EQ(sala.finestra.Esito, "Annullato: Elimina Righe");
+  EXPECT_FALSE(sala.finestra.DaSalvare());
+  sala.finestra.Esegui(Comando::Ripeti);
+  EXPECT_EQ(sala.finestra.Esito, "Ripetuto: Elimina Righe");
   sala.dialoghi.fileScelto = "C:\\X.DAT";
   sala.finestra.Esegui(Comando::EsportaLibretto);
   EXPECT_EQ(sala.finestra.Esito, "Esportate 7 righe in C:\\X.DAT");

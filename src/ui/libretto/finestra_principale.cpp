@@ -2,6 +2,7 @@
 
 #include <ui/comune/aspetto.h>
 #include <ui/comune/barra_ricerca.h>
+#include <ui/comune/etichetta_breve.h>
 #include <ui/comune/menu_elenchi.h>
 #include <ui/comune/tastiera.h>
 #include <ui/comune/testo_qt.h>
@@ -47,11 +48,11 @@ FinestraPrincipale::FinestraPrincipale(KR_LibrettoOriginale& modello, PercorsoDa
       pulsanti_(new PannelloPulsanti(Disponibile(), this)), dati_(new PannelloDati(modello, this)),
       strumenti_(new PannelloStrumenti(this)), righe_(new VistaRighe(modello.DatiSessione().List1, this)),
       ricerca_(new BarraRicerca(this)), spiegazione_(new RigaDiStato(this)), campi_(new StrisciaCampi(this)),
-      nomeFile_(new QLabel(this)), posizione_(new QLabel(this)),
+      nomeFile_(new EtichettaBreve(Qt::ElideMiddle, this)), posizione_(new QLabel(this)),
       verifiche_(new ElencoVerifiche(modello.Verifiche, this)), rilievo_(new PannelloRilievo(modello.Rilievo, this)),
       accanto_(new QSplitter(Qt::Horizontal, this)), sopra_(new QSplitter(Qt::Vertical, this)),
       conta_(new QToolButton(this)), ritardo_(new QTimer(this)), scartate_(new QToolButton(this)),
-      esito_(new QLabel(this)), consegne_(new QTimer(this)) {
+      esito_(new EtichettaBreve(Qt::ElideRight, this)), consegne_(new QTimer(this)) {
   setObjectName(QStringLiteral("KR_LibrettoOriginale"));
   setAcceptDrops(true);
   RiempiMenu(*menuBar(), Disponibile(), [this](Comando comando) { Comanda(comando); });
@@ -95,6 +96,7 @@ QWidget* FinestraPrincipale::CreaPiano() {
 void FinestraPrincipale::CollegaPannelli() {
   connect(pulsanti_, &PannelloPulsanti::Premuto, this, &FinestraPrincipale::Comanda);
   connect(dati_, &PannelloDati::Premuto, this, &FinestraPrincipale::Comanda);
+  connect(dati_, &PannelloDati::Scritto, this, &FinestraPrincipale::MostraTitolo);
   connect(strumenti_, &PannelloStrumenti::Premuto, this,
           [this](std::string_view tag) { Fa([&] { modello_.EseguiStrumento(tag); }); });
   connect(pulsanti_, &PannelloPulsanti::PuntatoreSopra, this, [this](int indice) {
@@ -181,8 +183,7 @@ void FinestraPrincipale::Mostra() {
 
 // What the last command did; the files opened last.
 void FinestraPrincipale::MostraEsito() {
-  esito_->setText(AQString(modello_.Esito));
-  esito_->setToolTip(esito_->text());
+  esito_->Mostra(AQString(modello_.Esito));
   esito_->setVisible(!modello_.Esito.empty());
   if (recenti_ == modello_.Recenti) return;
   recenti_ = modello_.Recenti;
@@ -203,10 +204,14 @@ void FinestraPrincipale::MostraStoria() {
   scartate_->setVisible(!modello_.AvvisoScartate.empty());
 }
 
+// A star says that there is something to save.
+void FinestraPrincipale::MostraTitolo() {
+  setWindowTitle(AQString(modello_.Titolo) + (modello_.DaSalvare() ? QStringLiteral(" *") : QString()));
+}
+
 void FinestraPrincipale::MostraElenco() {
-  setWindowTitle(AQString(modello_.Titolo));
-  nomeFile_->setText(AQString(modello_.EtichettaFile));
-  nomeFile_->setToolTip(nomeFile_->text());
+  MostraTitolo();
+  nomeFile_->Mostra(AQString(modello_.EtichettaFile));
   posizione_->setText(AQString(modello_.DatiSessione().EtichettaPosizione));
   righe_->Aggiorna();
   MostraSpiegazione();

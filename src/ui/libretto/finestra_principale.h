@@ -21,6 +21,7 @@ namespace lirmeto::ui {
 
 class BarraRicerca;
 class ElencoVerifiche;
+class EtichettaBreve;
 class PannelloDati;
 class PannelloPulsanti;
 class PannelloRilievo;
@@ -68,6 +69,7 @@ private:
   void MostraElenco();
   void MostraStoria();
   void MostraEsito();
+  void MostraTitolo();
   void MostraStrumenti();
   void MostraSpiegazione();
   void AggiornaVerifiche();
@@ -91,7 +93,7 @@ private:
   BarraRicerca* ricerca_;
   RigaDiStato* spiegazione_;
   StrisciaCampi* campi_;
-  QLabel* nomeFile_;
+  EtichettaBreve* nomeFile_;
   QLabel* posizione_;
   ElencoVerifiche* verifiche_;
   PannelloRilievo* rilievo_;
@@ -100,7 +102,7 @@ private:
   QToolButton* conta_;               // how many findings there are; shows and hides their list
   QTimer* ritardo_;                  // the checks follow when the event loop is free
   QToolButton* scartate_;            // notice of the rows that a reorder dropped; lists them
-  QLabel* esito_;                    // what the last command did
+  EtichettaBreve* esito_;            // what the last command did
   QTimer* consegne_;                 // looks for what a second start hands over
   std::vector<std::string> recenti_; // as the menu shows them
   std::vector<std::size_t> trovate_; // rows that hold the text looked for

@@ -4,6 +4,7 @@
 
 #include <ui/comune/aspetto.h>
 #include <ui/comune/barra_ricerca.h>
+#include <ui/comune/etichetta_breve.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/libretto/menu_principale.h>
 #include <ui/libretto/riga_di_stato.h>
@@ -60,8 +61,6 @@ QWidget* FinestraPrincipale::CreaTestata() {
   riga->setContentsMargins(10, 3, 6, 3);
   nomeFile_->setObjectName(QStringLiteral("EtichettaFile"));
   nomeFile_->setFont(FontMonospazio(10));
-  nomeFile_->setTextFormat(Qt::PlainText);
-  nomeFile_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   posizione_->setObjectName(QStringLiteral("EtichettaPosizione"));
   auto* cerca = new QToolButton(testata);
   cerca->setIcon(Icona(QStringLiteral("cerca")));
@@ -88,16 +87,14 @@ QWidget* FinestraPrincipale::CreaPiede() {
   scartate_->setFocusPolicy(Qt::TabFocus);
   connect(scartate_, &QToolButton::clicked, this, [this] { Comanda(Comando::MostraRigheScartate); });
   esito_->setObjectName(QStringLiteral("Esito"));
-  esito_->setTextFormat(Qt::PlainText);
-  esito_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   conta_->setObjectName(QStringLiteral("ContaVerifiche"));
   conta_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   conta_->setToolTip(QStringLiteral("Mostra o nasconde l'elenco delle segnalazioni (Ctrl+F8)"));
   conta_->setAutoRaise(true);
   conta_->setFocusPolicy(Qt::TabFocus);
   connect(conta_, &QToolButton::clicked, this, [this] { Comanda(Comando::MostraVerifiche); });
-  riga->addWidget(spiegazione_, 3);
-  riga->addWidget(esito_, 2);
+  riga->addWidget(spiegazione_, 1);
+  riga->addWidget(esito_, 1);
   riga->addWidget(conta_);
   riga->addWidget(scartate_);
   return piede;

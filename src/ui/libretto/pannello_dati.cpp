@@ -73,12 +73,15 @@ void PannelloDati::AggiungiTecnico(QVBoxLayout& colonna) {
   modulo->addRow(QStringLiteral("Iscrizione Albo"), iscrizione_);
   modulo->addRow(QStringLiteral("Codice Fiscale"), codiceFiscale_);
   colonna.addLayout(modulo);
-  connect(iscrizione_, &QLineEdit::textEdited, this,
-          [this](const QString& testo) { modello_.CambiaIscrizione(DaQString(testo)); });
+  connect(iscrizione_, &QLineEdit::textEdited, this, [this](const QString& testo) {
+    modello_.CambiaIscrizione(DaQString(testo));
+    emit Scritto();
+  });
   connect(codiceFiscale_, &QLineEdit::textEdited, this, [this](const QString& testo) {
     modello_.CambiaCodiceFiscale(DaQString(testo));
     MettiTesto(*codiceFiscale_, modello_.CasellaCodiceFiscale);
     if (modello_.DifettoCodiceFiscale().empty()) SegnaDifetto(*codiceFiscale_, {});
+    emit Scritto();
   });
   connect(codiceFiscale_, &QLineEdit::editingFinished, this,
           [this] { SegnaDifetto(*codiceFiscale_, AQString(modello_.DifettoCodiceFiscale())); });
@@ -114,6 +117,7 @@ void PannelloDati::AggiungiOpzioni(QVBoxLayout& colonna) {
 // What was typed goes in upper case into the model, and the box shows the same letters.
 void PannelloDati::DittaCambiata() {
   modello_.CambiaDitta(TestoDocumento(*ditta_->document()));
+  emit Scritto();
   const QString scritto = ditta_->document()->toRawText();
   const QString maiuscolo = InMaiuscolo(scritto);
   if (scritto == maiuscolo) return;

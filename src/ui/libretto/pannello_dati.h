@@ -27,6 +27,7 @@ public:
 
 signals:
   void Premuto(lirmeto::Comando comando); // the extract's label
+  void Scritto();                         // into a box
 
 private:
   void AggiungiEtichette(QVBoxLayout& colonna);

@@ -151,7 +151,9 @@ TEST(FinestraPrincipale, LeCaselleScrivonoNellaSessione) {
 TEST(FinestraPrincipale, LaDittaEInMaiuscoloMentreSiScrive) {
   Tavolo tavolo;
   auto& ditta = Figlio<QPlainTextEdit>(tavolo, "CasellaDitta");
+  const QString intatto = tavolo.finestra->windowTitle();
   QTest::keyClicks(&ditta, QStringLiteral("rossi"));
+  EXPECT_EQ(tavolo.finestra->windowTitle(), intatto + QStringLiteral(" *"));
   QTest::keyClick(&ditta, Qt::Key_Return);
   QTest::keyClicks(&ditta, QStringLiteral("bianchi"));
   for (int i = 0; i < 7; ++i) QTest::keyClick(&ditta, Qt::Key_Left);
@@ -230,7 +232,7 @@ TEST(FinestraPrincipale, UnSecondoAvvioConsegnaAllaPrima) {
   const auto* recenti = tavolo.finestra->menuBar()->findChild<QMenu*>(QStringLiteral("LibrettiRecenti"));
   ASSERT_EQ(recenti->actions().size(), 2);
   EXPECT_EQ(recenti->actions().first()->text(), QStringLiteral("&1 C:\\ALTRO.DAT"));
-  EXPECT_EQ(Figlio<QLabel>(tavolo, "Esito").text(), QStringLiteral("Aperto C:\\ALTRO.DAT: 3 righe"));
+  EXPECT_EQ(Figlio<QLabel>(tavolo, "Esito").text(), QStringLiteral("Aperto ALTRO.DAT: 3 righe"));
 }
 
 TEST(FinestraPrincipale, UnIndirizzoDellaReteNonEUnFile) {
