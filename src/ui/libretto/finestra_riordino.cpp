@@ -178,7 +178,7 @@ void FinestraRiordino::Attiva() {
 void FinestraRiordino::Scegli(std::size_t indice) {
   classi_.at(indice).bottone->setChecked(true);
   pila_->setCurrentIndex(static_cast<int>(indice));
-  titolo_->setText(classi_[indice].bottone->text());
+  titolo_->setText(classi_[indice].bottone->text().remove(u'&')); // without its letter
 }
 
 void FinestraRiordino::Mostra() {

@@ -60,6 +60,7 @@ TEST_F(ConRiordino, OgniClasseHaLaSuaListaELeRigheSenzaClasseSiVedono) {
   EXPECT_TRUE(Classi().last()->isVisible());
   EXPECT_EQ(Vista(Stazioni).model()->index(0, 0).data().toString(), QStringLiteral("1|100|1.430|CHIODO|"));
   EXPECT_TRUE(Vista(Stazioni).isVisible());
+  EXPECT_FALSE(finestra->findChild<QLabel*>(QStringLiteral("TitoloGruppo"))->text().contains(u'&'));
 }
 
 TEST_F(ConRiordino, EliminaChiedeESvuotaSoloSeSi) {
