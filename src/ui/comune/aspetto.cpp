@@ -8,6 +8,7 @@
 #include <core/riga.h>
 
 #include <QApplication>
+#include <QByteArrayView>
 #include <QFile>
 #include <QHash>
 #include <QLibraryInfo>
@@ -41,10 +42,33 @@ QRect SpazioPerFinestre(const QScreen& schermo) {
   return libero.adjusted(0, std::min(titolo, libero.height() / 4), 0, 0);
 }
 
+// What Qt's own translation leaves in English.
+class Mancanti final : public QTranslator {
+public:
+  using QTranslator::QTranslator;
+  [[nodiscard]] bool isEmpty() const override { return false; }
+  [[nodiscard]] QString translate(const char* /*contesto*/, const char* testo, const char* /*quale*/,
+                                  int /*quanti*/) const override {
+    static const QHash<QByteArrayView, QString> testi = {
+        {"Folder", QStringLiteral("Cartella")},
+        {"File Folder", QStringLiteral("Cartella")},
+        {"Drive", QStringLiteral("Unità")},
+        {"File", QStringLiteral("File")},
+        {"%1 File", QStringLiteral("File %1")},
+        {"Shift", QStringLiteral("Maiusc")},
+        {"Home", QStringLiteral("Home")},
+        {"Displays help on commandline options.", QStringLiteral("Mostra questo aiuto.")},
+        {"Displays help, including generic Qt options.", QStringLiteral("Mostra anche le opzioni di Qt.")},
+    };
+    return testi.value(testo);
+  }
+};
+
 void TraduciDialoghi(QApplication& applicazione) {
   auto* traduttore = new QTranslator(&applicazione);
   if (traduttore->load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     applicazione.installTranslator(traduttore);
+  applicazione.installTranslator(new Mancanti(&applicazione)); // the last one is asked first
 }
 
 } // namespace

@@ -11,8 +11,10 @@
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTreeView>
 
 #include <algorithm>
 #include <utility>
@@ -48,6 +50,16 @@ void Componi(QMessageBox& scatola, std::string_view testo, std::string_view tito
   scatola.setText(PerMessaggio(testo));
   scatola.setWindowTitle(PerMessaggio(titolo));
   AllargaPerIlTitolo(scatola);
+}
+
+// Where the dialog is Qt's own: wide enough for names, sizes and dates, and without the long list of endings.
+void Sistema(QFileDialog& finestra) {
+  finestra.setOption(QFileDialog::HideNameFilterDetails);
+  AdattaAlloSchermo(finestra, 900, 540);
+  for (QTreeView* elenco : finestra.findChildren<QTreeView*>()) {
+    elenco->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    elenco->header()->setStretchLastSection(true);
+  }
 }
 
 int Mostra(QDialog& finestra) {
@@ -118,6 +130,7 @@ std::string DialoghiQt::ScegliFile(const RichiestaFile& richiesta, bool daSalvar
   if (!richiesta.filtro.empty()) finestra.setNameFilter(AQString(richiesta.filtro));
   if (!richiesta.cartella.empty()) finestra.setDirectory(percorsi_.aOspite(richiesta.cartella));
   if (!richiesta.nome.empty()) finestra.selectFile(AQString(richiesta.nome));
+  Sistema(finestra);
   if (Mostra(finestra) != QDialog::Accepted || finestra.selectedFiles().isEmpty())
     throw Errore(errore::DialogoAnnullato);
   return percorsi_.daOspite(finestra.selectedFiles().first());

@@ -182,6 +182,12 @@ TEST(AppuntiQt, IlTestoMessoTornaUguale) {
   EXPECT_EQ(appunti.Testo(), "0|\xE0|\r\n9|\r\n");
 }
 
+TEST(DialoghiQt, AncheCioCheQtNonTraduceEInItaliano) {
+  EXPECT_EQ(QCoreApplication::translate("QAbstractFileIconProvider", "Folder"), QStringLiteral("Cartella"));
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annulla"));
+  EXPECT_EQ(QKeySequence(Qt::SHIFT | Qt::Key_F8).toString(QKeySequence::NativeText), QStringLiteral("Maiusc+F8"));
+}
+
 struct PercorsoOspite {
   QString ospite;
   std::string detto;
