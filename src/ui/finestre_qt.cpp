@@ -55,6 +55,7 @@ bool MostraSe(Modello& modello, Impostazioni* impostazioni, std::string_view nom
   Finestra finestra(*questo, QApplication::activeWindow());
   const bool ricorda = impostazioni != nullptr && !nome.empty();
   if (ricorda) RimettiAlPosto(finestra, LeggiPosizione(*impostazioni, nome));
+  MettiNelMezzo(finestra);
   PreparaFinestra(finestra);
   const TempoDellUtente sua;
   finestra.exec();

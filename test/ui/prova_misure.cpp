@@ -231,6 +231,14 @@ TEST(Misure, OgniFinestraTornaSulloSchermo) {
     EXPECT_LE(finestra.height(), libero.height() - 20) << "no room for the title";
     EXPECT_EQ(finestra.pos() != QPoint(1, 1), sposta) << lasciata.sinistra;
   }
+  QWidget sotto;
+  sotto.setGeometry(libero);
+  QDialog alta(&sotto);
+  alta.resize(400, libero.height() - 21);
+  ui::MettiNelMezzo(alta);
+  EXPECT_TRUE(alta.testAttribute(Qt::WA_Moved)) << "else the window manager chooses";
+  EXPECT_EQ(alta.y(), libero.top()) << "the frame's place: its title stands there";
+  EXPECT_NEAR(alta.geometry().center().x(), libero.center().x(), 1);
 }
 
 } // namespace

@@ -178,6 +178,20 @@ void AdattaAlloSchermo(QWidget& finestra, int larghezza, int altezza) {
   finestra.resize(std::min(larghezza, libero.width()), std::min(altezza, libero.height()));
 }
 
+// Left to itself the window manager may put the inside of a high window where its frame should begin, and the title above
+// the screen.
+void MettiNelMezzo(QWidget& finestra) {
+  if (finestra.parentWidget() == nullptr || finestra.testAttribute(Qt::WA_Moved)) return;
+  const QWidget* sotto = finestra.parentWidget()->window();
+  const int titolo = QApplication::style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  const QSize intera = finestra.size() + QSize(0, titolo);
+  const QRect libero = sotto->screen()->availableGeometry();
+  QRect posto({}, intera);
+  posto.moveCenter(sotto->frameGeometry().center());
+  finestra.move(std::max(libero.left(), std::min(posto.left(), libero.left() + libero.width() - intera.width())),
+                std::max(libero.top(), std::min(posto.top(), libero.top() + libero.height() - intera.height())));
+}
+
 // A window left on a screen that is no more goes where the system puts new ones; one that hangs over an edge is pushed
 // back by as much.
 void RimettiAlPosto(QWidget& finestra, const std::optional<PosizioneForm>& posizione) {

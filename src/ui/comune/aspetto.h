@@ -55,4 +55,7 @@ void AdattaAlloSchermo(QWidget& finestra, int larghezza, int altezza);
 // Where and as large as a window was left, as long as some screen still shows that place.
 void RimettiAlPosto(QWidget& finestra, const std::optional<PosizioneForm>& posizione);
 
+// One that was left nowhere goes before the middle of the window that it belongs to, its title on the screen.
+void MettiNelMezzo(QWidget& finestra);
+
 } // namespace lirmeto::ui
