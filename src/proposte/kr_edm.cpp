@@ -118,10 +118,12 @@ void KR_EDM::AllAttivazione() {
   ConEstratto = !sessione.EstrattoAssociato.empty();
   List1.clear();
   for (const auto particella : Dividi(sessione.Mappali, ",")) List1.emplace_back(Taglia(particella));
-  Filtra(InizioFoglio(sessione));
+  Filtra(tutte_ ? std::string{} : InizioFoglio(sessione));
 }
 
+// All of them stay in view, while forms come and go, until those of the sheet are asked for.
 void KR_EDM::Filtra(std::string inizio) {
+  tutte_ = inizio.empty();
   inizio_ = std::move(inizio);
   Aggiorna();
 }
@@ -312,6 +314,8 @@ void KR_EDM::ArchivioDallEstratto() {
   ambiente_.sessione.PuntoErrore = "KR_EDM";
   ScriviParticelle(ambiente_, ParticelleDellEstratto(sessione, testo));
   Aggiorna();
+  if (File1.empty())
+    Filtra({}); // an extract may write its sheet otherwise than the libretto: its parcels show all the same
 }
 
 // --- the proposal forms

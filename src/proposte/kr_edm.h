@@ -95,6 +95,7 @@ private:
   DisegnoCondiviso disegno_;
   Grafica grafica_;
   std::string inizio_; // of the names that File1 shows; empty: all
+  bool tutte_ = false; // the files of every sheet are shown
 };
 
 } // namespace lirmeto

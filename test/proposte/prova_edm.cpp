@@ -215,6 +215,14 @@ TEST(Edm, ArchivioDallEstratto) {
   banco.disco.file.erase("C:\\FIDUCIAL\\PARTICELLE\\G224_00010_35.MAP");
   form.Premi(16);
   EXPECT_EQ(banco.disco.Contenuto(Archivio + "G224_00010_35.Map"), "6|PARTICELLA|35|01|PRATO       |12||0|0|SN|\r\n");
+  EXPECT_EQ(form.File1, (Righe{"G224_00010_35.MAP"}));
+  banco.sessione.Foglio = "0100"; // 10 and its annex, which the extract writes 00010
+  form.Premi(13);
+  EXPECT_EQ(form.File1, Righe{});
+  form.Premi(16);
+  form.AllAttivazione(); // as after a form of its own
+  EXPECT_EQ(form.File1, (Righe{"G224_00010_35.MAP"}));
+  banco.sessione.Foglio = "0010";
   const std::string anelli = Testo(
       {"0|x|", Anello, "7|0|11%|NC|", "7|4|1%|NC|35-|35-|1|", "7|4|1%|NC|35+|35+|1|", "7|3|1L|2L|NT|", "7|3|1%|NP|"});
   EXPECT_EQ(ParticelleDellEstratto(banco.sessione, anelli),
