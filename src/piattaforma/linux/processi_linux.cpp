@@ -295,7 +295,9 @@ long ProcessiLinux::QuestoProcesso() const {
 
 int ProcessiLinux::Termina(long processo) {
   if (processo <= 0) return EINVAL; // would reach whole groups of processes
-  return ::kill(static_cast<pid_t>(processo), SIGTERM) == 0 ? 0 : errno;
+  if (::kill(static_cast<pid_t>(processo), SIGTERM) != 0) return errno;
+  static_cast<void>(::kill(static_cast<pid_t>(processo), SIGCONT)); // a stopped one hears of it only when it goes on
+  return 0;
 }
 
 void ProcessiLinux::MostraDesktop() {

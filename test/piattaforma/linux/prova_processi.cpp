@@ -154,6 +154,7 @@ TEST_F(ProvaProcessi, ElencaPerNomeETermina) {
     EXPECT_TRUE(processi.Elenca(immagine).empty());
     const pid_t figlio = AvviaDormiente(cartella.Radice() / programma, chiamato);
     EXPECT_EQ(processi.Elenca(immagine), std::vector<long>{figlio}) << immagine;
+    ::kill(figlio, SIGSTOP); // hung
     EXPECT_EQ(processi.Termina(figlio), 0);
     int stato = 0;
     ASSERT_EQ(::waitpid(figlio, &stato, 0), figlio);
