@@ -20,6 +20,7 @@ namespace lirmeto {
 //   a file chosen in a dialog        takes the road of one that is dropped, with its question
 //   a file dropped beside the rows   an extract is imported, a libretto opened; the rows take libretti alone
 //   a file that is not there         is told, and nothing changes; among the last files it leaves their list
+//   the extract of the act before    is not that of another one whose file names none; it stays with the rows of an .LXB
 //   where the dialog opens           the folder of the open libretto, or of the last file, or "c:\"
 //   a command handed over            runs here: its file, when it names one, is opened first, if the user says so
 //   nobody takes what is handed over the user is asked whether to end the instance that hangs, and to go on here
@@ -113,10 +114,25 @@ bool KR_LibrettoOriginale::ConsenteDiSostituire(std::string_view titolo) {
   return ambiente_.dialoghi.Chiedi("Sostituire il Libretto Esistente?", titolo, Bottoni::SiNo) == Risposta::Si;
 }
 
+// An act whose file names no extract does not get that of the act before it. The rows of an .LXB may be for that one.
+void KR_LibrettoOriginale::ApriSenzaEstrattoDAltri(const std::string& percorso) {
+  Sessione& sessione = ambiente_.sessione;
+  const bool altro = !sessione.NomeFileLibretto.empty() && !FinisceConSenzaCaso(percorso, Lxb) &&
+                     !ambiente_.disco.StessoPosto(sessione.NomeFileLibretto, percorso);
+  const std::string prima = sessione.EstrattoAssociato;
+  if (altro) sessione.EstrattoAssociato.clear();
+  try {
+    ApriLibretto(ambiente_, percorso, Accetta::SoloLibretti);
+  } catch (...) {
+    sessione.EstrattoAssociato = prima;
+    throw;
+  }
+}
+
 void KR_LibrettoOriginale::PrendiLibretto(std::string_view comando, const std::string& percorso) {
   if (!ambiente_.disco.Esiste(percorso)) return DiciAssente(percorso);
   Comanda(comando, [&] {
-    ApriLibretto(ambiente_, percorso, Accetta::SoloLibretti);
+    ApriSenzaEstrattoDAltri(percorso);
     CaricaLibrettoInList1(ambiente_);
     ambiente_.sessione.PuntoErrore = FinisceConSenzaCaso(percorso, ".PDF") ? "Decozero_138" : "Decozero_137";
     MostraSessione();

@@ -163,6 +163,7 @@ private:
   void RicordaRecente(const std::string& percorso);
   void PrendiFile(std::string_view comando, const std::string& percorso);
   [[nodiscard]] bool ConsenteDiSostituire(std::string_view titolo);
+  void ApriSenzaEstrattoDAltri(const std::string& percorso);
   void PrendiLibretto(std::string_view comando, const std::string& percorso);
   void PrendiEstratto(const std::string& percorso);
   [[nodiscard]] std::string EsitoApertura(const std::string& percorso) const;

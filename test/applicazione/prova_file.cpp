@@ -41,6 +41,31 @@ TEST_P(ApriDaFile, PrendeLaViaDelFileTrascinato) {
   EXPECT_EQ(sala.finestra.Recenti, (Testi{"C:\\ALTRO.DAT", "C:\\ACT.DAT"}));
 }
 
+TEST(Trascina, LEstrattoDiUnAltroAttoNonResta) {
+  const struct {
+    std::string file;
+    std::string estratto;
+  } casi[] = {
+      {"C:\\ALTRO.DAT", ""},
+      {"c:\\act.dat", "MIO.EMP"},
+      {"C:\\ACT.LXB", "MIO.EMP"},
+      {"C:\\ZERI.DAT", "MIO.EMP"}, // refused
+      {"C:\\SUO.DAT", "SUO.EMP"},
+  };
+  for (const auto& [file, estratto] : casi) {
+    Sala sala;
+    sala.disco.Metti("C:\\ALTRO.DAT", Altro);
+    sala.disco.Metti("C:\\ACT.LXB", Testo({"1|1|9|x|"}));
+    sala.disco.Metti("C:\\ZERI.DAT", "Cara Anna,\r\n");
+    sala.disco.Metti("C:\\SUO.DAT", Testo({Zero, Nove, "6|<EST>SUO.EMP|"}));
+    sala.finestra.Avvia("C:\\ACT.DAT");
+    sala.sessione.EstrattoAssociato = "MIO.EMP";
+    sala.dialoghi.risposte = {Risposta::Si};
+    sala.finestra.Trascina(file);
+    EXPECT_EQ(sala.sessione.EstrattoAssociato, estratto) << file;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Comandi, ApriDaFile,
                          testing::Values(CasoApri{Comando::ApriDaFile, "C:\\"},
                                          CasoApri{Comando::RipristinaDaArchivio, Programma + "\\Backup_Libretti\\"},
