@@ -97,8 +97,10 @@ void FinestraPrincipale::CollegaPannelli() {
   connect(pulsanti_, &PannelloPulsanti::Premuto, this, &FinestraPrincipale::Comanda);
   connect(dati_, &PannelloDati::Premuto, this, &FinestraPrincipale::Comanda);
   connect(dati_, &PannelloDati::Scritto, this, &FinestraPrincipale::MostraTitolo);
-  connect(strumenti_, &PannelloStrumenti::Premuto, this,
-          [this](std::string_view tag) { Fa([&] { modello_.EseguiStrumento(tag); }); });
+  connect(strumenti_, &PannelloStrumenti::Premuto, this, [this](std::string_view tag) {
+    strumenti_->hide(); // it would stand behind the tool's window
+    Fa([&] { modello_.EseguiStrumento(tag); });
+  });
   connect(pulsanti_, &PannelloPulsanti::PuntatoreSopra, this, [this](int indice) {
     modello_.PuntatoreSuPulsante(indice);
     MostraStrumenti();
