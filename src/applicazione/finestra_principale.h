@@ -196,8 +196,8 @@ private:
     std::uint64_t righe = 0;
   };
   mutable std::optional<ImprontaLetta> impronta_;
-  std::vector<std::string> consegne_;    // command lines handed over and not yet run
-  long rigaAccesa_ = -1;                 // of the picture
+  std::vector<std::string> consegne_; // command lines handed over and not yet run
+  long rigaAccesa_ = -1;              // of the picture
 };
 
 } // namespace lirmeto

@@ -46,10 +46,8 @@ TEST(Trascina, LEstrattoDiUnAltroAttoNonResta) {
     std::string file;
     std::string estratto;
   } casi[] = {
-      {"C:\\ALTRO.DAT", ""},
-      {"c:\\act.dat", "MIO.EMP"},
-      {"C:\\ACT.LXB", "MIO.EMP"},
-      {"C:\\ZERI.DAT", "MIO.EMP"}, // refused
+      {"C:\\ALTRO.DAT", ""},      {"c:\\act.dat", "MIO.EMP"},
+      {"C:\\ACT.LXB", "MIO.EMP"}, {"C:\\ZERI.DAT", "MIO.EMP"}, // refused
       {"C:\\SUO.DAT", "SUO.EMP"},
   };
   for (const auto& [file, estratto] : casi) {
