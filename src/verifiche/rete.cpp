@@ -2,6 +2,8 @@
 
 #include <verifiche/piano_gnss.h>
 
+#include <base/gon.h>
+
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -53,7 +55,10 @@ void Rete::Raccogli(const RigheLette& righe) {
     if (letta.forma == FormaRiga::Stazione) {
       stazioni_.push_back({i, letta.nome, false, stime_.size(), stime_.size(), false, {}, 0, 0});
     } else if (letta.forma == FormaRiga::Battuta && !stazioni_.empty()) {
-      stime_.push_back({i, letta.nome, {n[0], n[1]}, {}, n[3], letta.haDistanza, false});
+      const double lettura = Radianti(Gon(n[2])); // a direction alone leads a metre along it
+      const PuntoPiano locale =
+          letta.haDistanza ? PuntoPiano{n[0], n[1]} : PuntoPiano{std::sin(lettura), std::cos(lettura)};
+      stime_.push_back({i, letta.nome, locale, {}, n[3], letta.haDistanza, false});
       stazioni_.back().dopo = stime_.size();
     } else if (letta.forma == FormaRiga::Coordinate) {
       coordinate_.push_back({i, letta.nome, {n[1], n[0]}, {}, 0, true, false});

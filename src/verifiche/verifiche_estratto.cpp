@@ -28,7 +28,7 @@ void VerificaTestataEstratto(const Atto& atto, const EstrattoLetto& estratto, Ra
   const std::string_view suo = Taglia(Parte(zero, '|', 3)).substr(0, comune);
   const bool stesso = suo == std::string_view(estratto.comune).substr(0, comune);
   if (!stesso || !StessoFoglio(Taglia(Parte(zero, '|', 4)), estratto.foglio))
-    raccolta.Riga(RegolaDi("E005"), 0, 3, {estratto.comune, estratto.foglio});
+    raccolta.Riga(RegolaDi("E005"), 0, stesso ? 4 : 3, {estratto.comune, estratto.foglio});
   for (const auto parte : Dividi(Parte(zero, '|', CampoMappali), ","))
     if (!Taglia(parte).empty() && !estratto.HaParticella(Taglia(parte)))
       raccolta.Riga(RegolaDi("E004"), 0, CampoMappali, {Taglia(parte)});

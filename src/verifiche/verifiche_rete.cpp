@@ -142,8 +142,9 @@ void VerificaReciproche(const Atto& atto, const std::vector<bool>& stazione, Rac
     if (std::fabs(prima - poi) <= TolleranzaStretta(prima)) continue;
     const Regola& regola = std::fabs(prima - poi) > TolleranzaLarga(prima) ? RegolaDi("R003") : RegolaDi("R004");
     const NomiPunti& nomi = atto.righe.Nomi();
+    const std::size_t riga = stime[ritorno.stima].riga;
     raccolta.Riga(
-        regola, stime[ritorno.stima].riga, 3,
+        regola, riga, atto.righe[riga].haZenit ? 4 : 3,
         {nomi.Nome(andata->da), nomi.Nome(andata->a), Metri(prima), Metri(poi), TestoRiga(stime[andata->stima].riga)});
   }
 }

@@ -135,13 +135,17 @@ struct ConAtto : Banco {
     righe[riga].replace(dove, freccia, resto.substr(freccia + 1));
   }
 
-  // "L003 9" for each finding of this code, "L003" for one of the whole act.
+  // "L003 9.2" of field 2 of row 9, "L002 9" of the whole row, "F010" of the whole act.
+  [[nodiscard]] static std::string Detta(const Segnalazione& s) {
+    return std::string(s.regola->codice) + (s.riga ? " " + std::to_string(*s.riga) : "") +
+           (s.campo > 0 ? "." + std::to_string(s.campo) : "");
+  }
+
+  // All findings of this code; "": of any.
   [[nodiscard]] std::vector<std::string> Trovate(std::string_view codice) const {
     std::vector<std::string> trovate;
-    for (const Segnalazione& s : verificatore.Segnalazioni()) {
-      if (!codice.empty() && s.regola->codice != codice) continue;
-      trovate.push_back(std::string(s.regola->codice) + (s.riga ? " " + std::to_string(*s.riga) : ""));
-    }
+    for (const Segnalazione& s : verificatore.Segnalazioni())
+      if (codice.empty() || s.regola->codice == codice) trovate.push_back(Detta(s));
     return trovate;
   }
 

@@ -41,6 +41,14 @@ std::size_t Linee(const ArchivioGrafica& archivio, std::int16_t colore) {
       std::count_if(linee.begin(), linee.end(), [colore](const LineaGrafica& l) { return l.Colore == colore; }));
 }
 
+// Metres of all that are not dashed.
+double Lunghezza(const ArchivioGrafica& archivio, std::int16_t colore) {
+  double lunga = 0;
+  for (const LineaGrafica& l : archivio.Linee())
+    if (l.Colore == colore && l.Stile == stile::Continuo) lunga += std::hypot(l.X2 - l.X1, l.Y2 - l.Y1);
+  return lunga;
+}
+
 } // namespace
 
 TEST(Geometria, IPianiSiPosanoSenzaLaCoppiaSbagliata) {
@@ -103,11 +111,13 @@ TEST(Figura, DisegnaCioCheLeRigheDicono) {
   c.ApriCon({});
   ArchivioGrafica archivio;
   DisegnaRilievo({c.verificatore.Righe(), c.verificatore.Posti(), c.verificatore.Archivi()}, archivio);
-  EXPECT_EQ(Linee(archivio, colore::RossoChiaro), 1U);   // the red contour
-  EXPECT_EQ(Linee(archivio, colore::Nero), 6U);          // the black one
-  EXPECT_EQ(Linee(archivio, colore::BluChiaro), 3U);     // the traverse
-  EXPECT_EQ(Linee(archivio, colore::MagentaChiaro), 3U); // the triangle
-  EXPECT_EQ(Linee(archivio, colore::Verde), 4U);         // two offsets, each with its foot
+  EXPECT_EQ(Linee(archivio, colore::RossoChiaro), 1U);         // the red contour
+  EXPECT_EQ(Linee(archivio, colore::Nero), 6U);                // the black one
+  EXPECT_EQ(Linee(archivio, colore::BluChiaro), 3U);           // the traverse
+  EXPECT_EQ(Linee(archivio, colore::MagentaChiaro), 3U);       // the triangle
+  EXPECT_EQ(Linee(archivio, colore::Verde), 4U);               // two offsets, each with its foot
+  EXPECT_NEAR(Lunghezza(archivio, colore::Grigio), 200, 1e-6); // round the parcel of the extract
+  EXPECT_NEAR(Lunghezza(archivio, colore::Nero), 120, 0.01);
   EXPECT_EQ(archivio.Punti()[archivio.PrimoDiNome("300").value()].Colore, colore::Blu);
   EXPECT_EQ(archivio.Punti()[archivio.PrimoDiNome("101").value()].Colore, colore::Nero);
   EXPECT_TRUE(archivio.PrimoDiNome("10000"));

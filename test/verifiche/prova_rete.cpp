@@ -158,6 +158,17 @@ TEST(Rete, RigaPerRigaComeDaCapo) {
   }
 }
 
+// A station that another one places, and that sees of what is known a single point and not how far it is.
+TEST(Rete, UnaSolaDirezioneOrienta) {
+  Ricalcolato r;
+  r.Calcola({"0|21112026|1|G224|0010|12|ROSSI ADA|GEOMETRA|PADOVA|", "9|12|10|20|50|10.00|FR|STAZIONE TOTALE|",
+             "1|100|CHIODO|", "2|1|0.0000|100.000|X|", "2|2|100.0000|100.000|X|", "2|200|100.0000|50.000|X|",
+             "1|200|CHIODO|", "2|1|30.0000|0.000|X|", "2|5|130.0000|10.000|X|", "8|1|1100.000|1000.000|X|",
+             "8|2|1000.000|1100.000|X|"});
+  const double lato = std::hypot(100, 50);
+  EXPECT_LT(r.Scarto("5", {1050 + 10 * 100 / lato, 1000 + 10 * 50 / lato}), 0.001) << "square to the direction of 1";
+}
+
 // A survey whose first station sees nothing of the others: coordinates tie the two.
 TEST(Rete, LeRighe8LeganoDueRilievi) {
   const Elenco due = {"0|21112026|1|G224|0010|12|ROSSI ADA|GEOMETRA|PADOVA|",
