@@ -46,7 +46,7 @@ struct Sala : Banco {
 
   // What the user does in each form; a form that he knows nothing of is closed.
   std::function<void(SelezionaMappali&)> mappali = [](SelezionaMappali& form) {
-    form.SelezionaTutti();
+    for (std::size_t i = 0; i < form.List1.size(); ++i) form.Seleziona(i, true);
     form.Conferma();
   };
   std::function<void(MappaleDaMantenere&)> mantiene;

@@ -217,6 +217,7 @@ TEST_F(Vista, EsceNeiFileDegliAltriProgrammi) {
   form.Segmenti = {{0, 1}, {1, 2}};
   form.Punti[0].selezionato = form.Punti[1].selezionato = selezione::Si;
   form.Esegui(9);
+  banco.dialoghi.risposte = {Risposta::Si};
   form.Esegui(14);
   const std::string dxf = banco.disco.Contenuto(Programma + "\\GraficaPF.DXF");
   EXPECT_TRUE(
@@ -227,6 +228,7 @@ TEST_F(Vista, EsceNeiFileDegliAltriProgrammi) {
                             " 0\r\nENDSEC\r\n 0\r\nEOF\r\n"));
   EXPECT_EQ(banco.dialoghi.detti[0].titolo + "/" + banco.dialoghi.detti[0].testo,
             "Salva in DXF/Salvato il file " + Programma + "\\GraficaPF.DXF");
+  EXPECT_EQ(banco.processi.aperti, Righe{Programma + "\\GraficaPF.DXF"});
   form.Esegui(15);
   EXPECT_EQ(banco.processi.avviati, (Righe{Programma + "\\print.exe"}));
   EXPECT_TRUE(banco.disco.Contenuto(Programma + "\\Stampe.TXT").starts_with("L,"));

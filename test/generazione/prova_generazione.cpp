@@ -166,6 +166,10 @@ TEST(Misure, OrientamentoMarcheEArrotondamento) {
     Disegno d;
     const Righe righe = d.Genera(ConBase(caso.altre), caso.opzioni);
     EXPECT_NE(std::find(righe.begin(), righe.end(), caso.attesa), righe.end()) << caso.attesa << "\n" << Testo(righe);
+    const bool avvisa = std::any_of(d.dialoghi.detti.begin(), d.dialoghi.detti.end(), [](const auto& detto) {
+      return detto.titolo == "Punti Coincidenti" && detto.testo.starts_with("Il punto 103 ");
+    });
+    EXPECT_EQ(avvisa, Contiene(caso.attesa, "UGUALE")) << caso.attesa;
   }
 }
 

@@ -233,6 +233,7 @@ TEST(Tipol10, IlTestoTornaPerLaStessaTipologiaEResto) {
 TEST(Tipol10, ContornoDisegnatoSulEstratto) {
   Form form("07");
   MettiEstratto(form.banco);
+  std::erase(form.banco.disco.cartelle, Maiuscolo(form.banco.sessione.CartellaProgramma + "\\TEMP")); // as at first
   form.banco.sessione.ParticelleScelte = "35";
   form.form.AlCaricamento();
   const VistaGrafica vista = form.disegno.vista;

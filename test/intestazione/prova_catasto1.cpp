@@ -224,6 +224,12 @@ TEST(Catasto1, TecniciScelti) {
   sala.form.Premi(14);
   EXPECT_EQ(sala.form.Tecnici().File(), (Testi{"BIANCHI LUCA UGO.PFS"}));
   EXPECT_FALSE(sala.disco.Esiste(Programma + "\\TECNICI\\X.PFS"));
+  sala.disco.Metti(Programma + "\\TECNICI\\ALTRO.PFS", "");
+  sala.Apri();
+  sala.form.ScegliTecnico(0);
+  sala.dialoghi.risposte = {Risposta::Si, Risposta::Si};
+  for (int volta = 0; volta < 2; ++volta) sala.form.Premi(14);
+  EXPECT_EQ(sala.form.Tecnici().File(), (Testi{"BIANCHI LUCA UGO.PFS"})) << "the next in the list was not chosen";
 }
 
 TEST(Catasto1, QuotaComuneEstrattoEMisurate) {

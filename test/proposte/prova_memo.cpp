@@ -2,6 +2,7 @@
 #include "censuario.h"
 
 #include <base/testo.h>
+#include <core/riga.h>
 #include <core/riordino.h>
 #include <proposte/kr_fraziona.h>
 #include <proposte/kr_stralcio.h>
@@ -18,6 +19,7 @@ using prova::Batti;
 using prova::Cento;
 using prova::Conteggio;
 using prova::Copia;
+using prova::TestataCensuaria;
 using prova::Testo;
 using Righe = std::vector<std::string>;
 
@@ -68,6 +70,22 @@ TEST(Frazionamento, MemoELibretto) {
   EXPECT_EQ(banco.sessione.Libretto, salvato);
   form.Premi(6);
   EXPECT_EQ(form.List2.Quante(), 9U);
+}
+
+// Before there is a libretto the proposal makes one, with its first two rows.
+TEST(Frazionamento, UnLibrettoVuotoPrendeLeDueRighe) {
+  for (const int salva : {1, 8}) {
+    BancoCensuario banco;
+    KR_Fraziona form(banco.ambiente, banco.Particella(Cento));
+    form.Form_Load();
+    Batti(form, {"100"});
+    form.AggiungiAlMemo();
+    form.Premi(salva);
+    const auto righe = RigheDi(banco.sessione.Libretto);
+    ASSERT_GT(righe.size(), 5U);
+    EXPECT_TRUE(righe[0].starts_with("0|") && righe[1].starts_with("9|")) << banco.sessione.Libretto;
+    EXPECT_EQ(righe[2], TestataCensuaria);
+  }
 }
 
 TEST(Stralcio, UrbaniEMemo) {
