@@ -58,7 +58,6 @@ public:
   [[nodiscard]] const ArchivioGrafica& Archivio() const { return disegno_.archivio; }
   [[nodiscard]] VistaGrafica& Vista() { return disegno_.vista; }
   [[nodiscard]] const VistaGrafica& Vista() const { return disegno_.vista; }
-  [[nodiscard]] const GancioGrafica& Gancio() const { return disegno_.gancio; }
   // Rows that the last loader filled.
   [[nodiscard]] const ListeGrafica& Liste() const { return liste_; }
   // What the mouse stands over, and what it holds.

@@ -1,4 +1,4 @@
-#include "sostituti/banco.h"
+#include "grafica/con_grafica.h"
 
 #include <base/errore.h>
 #include <base/testo.h>
@@ -56,6 +56,7 @@ struct Vista : testing::Test {
   }
   Banco banco;
   TabellaPF tabella = Quattro();
+  prova::SuperficieDiProva superficie;
   KR_ElcoPFGrafica form{banco.ambiente, tabella};
 };
 
@@ -112,7 +113,9 @@ TEST_F(Vista, ISegniSonoVerdiORossiEICerchiSeguonoLaLarghezza) {
   EXPECT_DOUBLE_EQ(prima.cerchi[0].raggio, 2);
   EXPECT_DOUBLE_EQ(stretta.cerchi[0].raggio, 2);
   EXPECT_DOUBLE_EQ(stretta.scala.alto - stretta.scala.basso, 1600) << "the width stays";
+  EXPECT_TRUE(form.Check1());
   form.CambiaCheck1(false);
+  EXPECT_FALSE(form.Check1());
   EXPECT_TRUE(form.Grafica1().Dipingi(1).testi.empty());
   form.MettiLarghezza(-1);
   EXPECT_DOUBLE_EQ(form.Larghezza(), 640);
@@ -149,6 +152,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoEstensione{{Punto("a", 7, 5), Punto("b", 7, 5), Punto("c", 7, 5)}, 7, 5, 640}));
 
 TEST_F(Vista, IComandiSpostanoEIngrandiscono) {
+  form.Grafica1().Picture1 = &superficie;
   form.MettiLarghezza(100);
   const double xc = form.Grafica1().Vista().Xc;
   form.Esegui(1);
@@ -160,12 +164,14 @@ TEST_F(Vista, IComandiSpostanoEIngrandiscono) {
   form.Esegui(4);
   EXPECT_DOUBLE_EQ(form.Larghezza(), 96);
   form.Grafica1().PuntatoreEntra(host::KR_ElcoPFGrafica);
-  form.Grafica1().Gancio().Rotella(true);
+  form.Grafica1().Rotola(true, {});
   EXPECT_DOUBLE_EQ(form.Larghezza(), 96 * 0.8);
   EXPECT_EQ(banco.sessione.HostGrafica, 1);
   form.Esegui(11);
   EXPECT_EQ(form.Strumento(), StrumentoPF::ZoomFinestra);
+  const int prima = superficie.disegni;
   form.ZoomFinestra({30, 10}, {10, 20});
+  EXPECT_GT(superficie.disegni, prima);
   EXPECT_DOUBLE_EQ(form.Larghezza(), 20);
   EXPECT_DOUBLE_EQ(form.Grafica1().Vista().Yc, 15);
   form.LarghezzaFoglio = 0.2;
@@ -174,7 +180,8 @@ TEST_F(Vista, IComandiSpostanoEIngrandiscono) {
   EXPECT_EQ(form.Leggenda({2000000, 5000000}), "2000000.000 5000000.000 Scala : 1:100") << "/0000/";
 }
 
-// One line in its two spellings, the points in the other order, a pair of which one is not there, a name cut.
+// One line in its two spellings, the points in the other order, a pair of which one is not there, a name cut; one that
+// differs from a line before it in the last letter of the comune alone is that line again.
 TEST_F(Vista, LeDistanzeMisurateSonoSegmenti) {
   form.Esegui(6);
   EXPECT_EQ(banco.dialoghi.UltimoTesto(), "Manca la Provincia PD.DDD\r\nInstallare PD.DDD");
@@ -182,6 +189,8 @@ TEST_F(Vista, LeDistanzeMisurateSonoSegmenti) {
                                          "PF02/0010/G224 - PF01/0020/G224        2.0\r\n"
                                          "PF01/0010/G224 - PF02/0010/G224        2.0\r\n"
                                          "PF01/0010/G224 - PF02/0010/G225        2.0\r\n"
+                                         "PF02/0010/G224 - PF01/0000/G224        2.0\r\n"
+                                         "PF02/0010/G224 - PF01/0000/G225        2.0\r\n"
                                          "PF01/0010/G224 - PF09/0010/G224        2.0\r\n"
                                          "PF01/0010/G224 - PF01/0010/G224        2.0\r\n"
                                          "PF01/0010/G224 - PF01/0020/G22\r\nG224\r\n\r\n");

@@ -84,6 +84,9 @@ TEST(SelezionaMisurate, RestaUnArchivioPerProvinciaESeNeSceglieUno) {
   EXPECT_EQ(banco.dialoghi.detti.back().titolo + "/" + banco.dialoghi.UltimoTesto(),
             "Seleziona archivio/Selezionare un Database!!");
   EXPECT_FALSE(form.Chiusa);
+  banco.disco.Metti(Dati + "VI2021.DDD", "x");
+  form.Importa();
+  EXPECT_EQ(form.File1, (Righe{"PD2024.DDD", "VI2021.DDD"}));
   form.Scegli(0);
   form.SelezionaLeMisurate();
   EXPECT_TRUE(form.Chiusa);

@@ -4,11 +4,18 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 #include <utility>
 
 namespace lirmeto::ui {
 
 namespace {
+
+struct VoceTema {
+  std::string_view nome; // "@nome" in the style sheet
+  QRgb chiaro;
+  QRgb scuro;
+};
 
 constexpr std::array<VoceTema, static_cast<std::size_t>(Tono::Quanti)> Tabella = {{
     {"Finestra", 0xFFF4F6F8, 0xFF23292E},       {"TestoFinestra", 0xFF263238, 0xFFE3E8EC},
@@ -64,10 +71,6 @@ double Luminanza(const QColor& colore) {
 }
 
 } // namespace
-
-std::span<const VoceTema> TabellaTema() {
-  return Tabella;
-}
 
 const std::array<ColoriRiga, 10>& ColoriRighe(bool scuro) {
   static const std::array<ColoriRiga, 10> chiari = {{

@@ -8,8 +8,6 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
-#include <string_view>
 
 class QApplication;
 
@@ -72,13 +70,6 @@ enum class Tono : std::uint8_t {
   Quanti // how many there are
 };
 
-struct VoceTema {
-  std::string_view nome; // "@nome" in the style sheet
-  QRgb chiaro;
-  QRgb scuro;
-};
-[[nodiscard]] std::span<const VoceTema> TabellaTema();
-
 struct ColoriRiga {
   QColor fondo;    // behind the text
   QColor striscia; // the mark beside it
@@ -103,6 +94,5 @@ struct ColoriRiga {
 // The colour itself, or one of its hue that stands out so much from a ground.
 [[nodiscard]] QColor Leggibile(const QColor& colore, const QColor& fondo, double contrasto);
 inline constexpr double ContrastoTesto = 4.5;
-inline constexpr double ContrastoSegno = 3;
 
 } // namespace lirmeto::ui

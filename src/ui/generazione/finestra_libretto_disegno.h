@@ -29,8 +29,6 @@ public:
   // The model must be loaded and outlive the window.
   explicit FinestraLibrettoDisegno(LibrettoDaDisegno& modello, QWidget* padre = nullptr);
 
-  [[nodiscard]] GraficaPannello& Pannello() { return *pannello_; }
-
 protected:
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
 

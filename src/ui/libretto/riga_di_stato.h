@@ -18,9 +18,6 @@ public:
   void MostraRiga(std::string_view riga);
   void Pulisci();
 
-  // All of the explanation on one line.
-  [[nodiscard]] QString Testo() const { return accessibleName(); }
-
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 

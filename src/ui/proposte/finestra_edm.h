@@ -42,8 +42,6 @@ public:
   // The model must be loaded and outlive the window.
   explicit FinestraEdm(KR_EDM& modello, QWidget* padre = nullptr);
 
-  [[nodiscard]] GraficaPannello& Pannello() { return *disegno_; }
-
 protected:
   bool event(QEvent* evento) override;
   void done(int esito) override;

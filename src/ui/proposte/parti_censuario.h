@@ -91,7 +91,6 @@ public:
   explicit EvidenzaParticella(GraficaSuperficie& superficie);
 
   void Illumina(std::vector<LineaGrafica> lati);
-  [[nodiscard]] std::size_t Lati() const { return lati_.size(); }
 
 protected:
   void paintEvent(QPaintEvent* evento) override;

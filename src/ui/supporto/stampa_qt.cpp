@@ -140,12 +140,6 @@ bool StampaQt::Scegli(QWidget* padre) {
   return scelta;
 }
 
-void StampaQt::NelFile(const QString& pdf) {
-  Stampante().setOutputFormat(QPrinter::PdfFormat);
-  Stampante().setOutputFileName(pdf);
-  stampatoNelFile_ = false;
-}
-
 void StampaQt::Stampa(const Stampato& stampato) {
   QPrinter& stampante = Stampante();
   stampante.setPageOrientation(stampato.orientamento == Orientamento::Verticale ? QPageLayout::Portrait

@@ -28,9 +28,6 @@ public:
   // The print dialog; false when it is cancelled.
   [[nodiscard]] bool Scegli(QWidget* padre);
 
-  // The next printout goes into a .PDF file of the host.
-  void NelFile(const QString& pdf);
-
   // Throws Errore 482 when the printer does not go.
   void Stampa(const Stampato& stampato);
 

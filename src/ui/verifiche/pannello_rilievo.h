@@ -22,8 +22,6 @@ public:
   // Takes up what changed in the picture.
   void Mostra();
 
-  [[nodiscard]] GraficaSuperficie& Superficie() { return *superficie_; }
-
 signals:
   // A place of the map was clicked; a point counts within so many metres.
   void Cliccato(const PuntoPiano& posto, double entro);

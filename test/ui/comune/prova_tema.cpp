@@ -25,7 +25,7 @@ protected:
   }
   static void Legge(Tono testo, Tono fondo) {
     Legge(ColoreTema(testo, GetParam()), ColoreTema(fondo, GetParam()),
-          std::string(ui::TabellaTema()[static_cast<std::size_t>(testo)].nome));
+          "tono " + std::to_string(static_cast<int>(testo)));
   }
 };
 
@@ -119,6 +119,7 @@ TEST_P(Tema, InchiostriDelDisegno) {
 
 TEST_P(Tema, OgniIconaSiDistingueDalFondo) {
   const InLuce luce(GetParam());
+  constexpr double contrastoSegno = 3; // what WCAG asks of a sign
   const QColor fondo = ColoreTema(Tono::Finestra);
   EXPECT_EQ(fondo.lightness() < 128, GetParam());
   const QStringList nomi = QDir(QStringLiteral(":/icone")).entryList();
@@ -129,7 +130,7 @@ TEST_P(Tema, OgniIconaSiDistingueDalFondo) {
     for (int y = 0; y < icona.height(); ++y)
       for (int x = 0; x < icona.width(); ++x) {
         const QColor pixel = icona.pixelColor(x, y);
-        distinti += pixel.alpha() > 128 && ui::Contrasto(pixel, fondo) >= ui::ContrastoSegno ? 1 : 0;
+        distinti += pixel.alpha() > 128 && ui::Contrasto(pixel, fondo) >= contrastoSegno ? 1 : 0;
       }
     EXPECT_GT(distinti, 12) << nome.toStdString();
   }

@@ -65,7 +65,7 @@ struct LibrettoDisegno : testing::Test {
     QApplication::setActiveWindow(&*finestra);
     QCoreApplication::processEvents();
     linee = finestra->findChild<QListView*>(QStringLiteral("List1"));
-    superficie = &finestra->Pannello().Superficie();
+    superficie = finestra->findChild<ui::GraficaSuperficie*>();
   }
   [[nodiscard]] QAbstractButton& Bottone(const char* nome) {
     return *finestra->findChild<QAbstractButton*>(QString::fromLatin1(nome));

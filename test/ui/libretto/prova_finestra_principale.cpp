@@ -63,9 +63,9 @@ TEST(FinestraPrincipale, MostraIlLibrettoAperto) {
 TEST(FinestraPrincipale, SpiegaLaRigaCorrente) {
   Tavolo tavolo;
   auto* spiegazione = tavolo.finestra->findChild<ui::RigaDiStato*>();
-  EXPECT_TRUE(spiegazione->Testo().isEmpty());
+  EXPECT_TRUE(spiegazione->accessibleName().isEmpty());
   tavolo.Clicca(3);
-  EXPECT_TRUE(spiegazione->Testo().contains(QStringLiteral("323.5725 gon")));
+  EXPECT_TRUE(spiegazione->accessibleName().contains(QStringLiteral("323.5725 gon")));
   EXPECT_TRUE(spiegazione->toolTip().contains(QStringLiteral("38.944")));
 }
 

@@ -1,6 +1,7 @@
 #include <ui/tavolo.h>
 
 #include <ui/disegno/grafica_pannello.h>
+#include <ui/disegno/grafica_superficie.h>
 #include <ui/libretto/riga_di_stato.h>
 #include <ui/proposte/finestra_edm.h>
 #include <ui/proposte/finestra_fusione.h>
@@ -104,7 +105,7 @@ TEST_F(Censuario, IlFrazionamentoBattuto) {
                   ->text()
                   .startsWith(QStringLiteral("Avviso, particella riga 3: Le superfici nuove sommano 70 mq")));
   emit Figlio<ui::ElencoRilievi>(finestra, "Rilievi").Scelto(ui::ElencoRilievi::Dove::Composizione, 4);
-  EXPECT_TRUE(Figlio<ui::RigaDiStato>(finestra, "RigaSpiegata").Testo().contains(QStringLiteral("Lettera a")));
+  EXPECT_TRUE(Figlio<ui::RigaDiStato>(finestra, "RigaSpiegata").accessibleName().contains(QStringLiteral("Lettera a")));
   Premi(finestra, 2); // into the memo; the question is answered with no
   Premi(finestra, 8);
   EXPECT_FALSE(finestra.isVisible());
@@ -196,7 +197,10 @@ TEST_F(Censuario, IlBancoDelleParticelle) {
   auto& file = Figlio<QListView>(finestra, "File1");
   QTest::mouseClick(file.viewport(), Qt::LeftButton, {}, file.visualRect(file.model()->index(0, 0)).center());
   EXPECT_EQ(Figlio<QLineEdit>(finestra, "Text3").text(), QStringLiteral("35"));
-  EXPECT_EQ(finestra.findChild<ui::EvidenzaParticella*>()->Lati(), 3U) << "the parcel is lit in the drawing";
+  auto& disegno = *finestra.findChild<ui::GraficaSuperficie*>();
+  const QImage accesa = disegno.grab().toImage();
+  finestra.findChild<ui::EvidenzaParticella*>()->Illumina({});
+  EXPECT_NE(disegno.grab().toImage(), accesa) << "the parcel is lit in the drawing";
   auto& classe = Figlio<QLineEdit>(finestra, "Text6");
   classe.selectAll();
   QTest::keyClicks(&classe, QStringLiteral("3"));

@@ -8,8 +8,11 @@
 #include <base/errore.h>
 
 #include <QAbstractButton>
+#include <QComboBox>
+#include <QDialog>
 #include <QFile>
 #include <QFontMetricsF>
+#include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
 #include <QTemporaryDir>
@@ -113,11 +116,22 @@ struct Pdf {
   QByteArray byte;
 };
 
+// As the user does in the dialog, whose last printer is the file.
+void ScegliFile(ui::StampaQt& stampa, const QString& file) {
+  NellaProssimaFinestra([&](QWidget& finestra) {
+    auto* stampanti = finestra.findChild<QComboBox*>(QStringLiteral("printers"));
+    stampanti->setCurrentIndex(stampanti->count() - 1);
+    finestra.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(file);
+    qobject_cast<QDialog*>(&finestra)->accept();
+  });
+  EXPECT_TRUE(stampa.Scegli(nullptr));
+}
+
 Pdf StampaInPdf(const Stampato& stampato) {
   QTemporaryDir cartella;
   const QString file = cartella.filePath(QStringLiteral("s.pdf"));
   ui::StampaQt stampa;
-  stampa.NelFile(file);
+  ScegliFile(stampa, file);
   EXPECT_TRUE(stampa.Pronta());
   stampa.Stampa(stampato);
   EXPECT_FALSE(stampa.Pronta()) << "the next printout must not overwrite this one";
@@ -150,7 +164,7 @@ TEST(StampaQt, UnaRigaLargaVaACapoENonSiPerdeNulla) {
 
 TEST(StampaQt, UnFileCheNonSiScriveEUnErroreDellaStampante) {
   ui::StampaQt stampa;
-  stampa.NelFile(QStringLiteral("/proc/manca/s.pdf"));
+  ScegliFile(stampa, QTemporaryDir().filePath(QStringLiteral("s.pdf"))); // in a folder that is gone by then
   try {
     stampa.Stampa({});
     ADD_FAILURE();

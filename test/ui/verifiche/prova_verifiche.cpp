@@ -143,7 +143,7 @@ TEST(FinestraVerifiche, SiCopianoESiContano) {
 
 TEST(FinestraVerifiche, RigaEPuntoSiAccendonoAVicenda) {
   TavoloVerifiche t;
-  auto& superficie = t.finestra->findChild<ui::PannelloRilievo*>()->Superficie();
+  auto& superficie = *t.finestra->findChild<ui::PannelloRilievo*>()->findChild<ui::GraficaSuperficie*>();
   EXPECT_TRUE(t.Figlio<QLabel>("AvvisoRilievo")->text().contains(QStringLiteral("non è una compensazione")));
   t.Clicca(7);
   TavoloVerifiche::Aspetta();
