@@ -201,6 +201,12 @@ TEST(Comandi, ProgrammiCaratterePannello) {
   altra.Avvia("");
   EXPECT_EQ(altra.CarattereElenco, sala.dialoghi.carattereScelto);
   EXPECT_EQ(sala.finestra.CarattereElenco, altra.CarattereElenco);
+  for (const auto& [punti, letto] : {std::pair{"3.9", false}, {"4", true}, {"72", true}, {"72.5", false}}) {
+    sala.disco.Metti(Programma + "\\CONFIGURACARATTERE.INI", std::string(punti) + ",\"Provato\",0,0\r\n");
+    KR_LibrettoOriginale riletta(sala.ambiente);
+    riletta.Avvia("");
+    EXPECT_EQ(riletta.CarattereElenco.nome == "Provato", letto) << punti;
+  }
   sala.finestra.PuntatoreSuPulsante(PulsanteUtilita);
   EXPECT_TRUE(sala.finestra.PannelloStrumenti);
   sala.finestra.PuntatoreSuPulsante(4);

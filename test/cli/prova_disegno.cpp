@@ -36,7 +36,7 @@ TEST(DisegnoPng, OgniOperazioneAlSuoPosto) {
   EXPECT_FALSE(immagine.Dipinta(175, 66, 200, 90)) << "upwards from its corner";
 }
 
-TEST_F(ProvaCli, IlDisegnoEsceInQuattroModi) {
+TEST_F(ProvaCli, IlDisegnoEsceInCinqueModi) {
   const std::string file = Metti("a.emp", "0|\r\n8|1%|0|0|\r\n8|2%|0|8|\r\n7|3|1%|2%|1%|NC|5|5|9|\r\n");
   for (const auto& [comando, coda] : std::map<std::string, std::string>{
            {"dxf", " 10\r\n0\r\n 20\r\n0\r\n 11\r\n8\r\n 21\r\n0\r\n  0\r\nENDSEC\r\n  0\r\nEOF\r\n"},
@@ -46,6 +46,8 @@ TEST_F(ProvaCli, IlDisegnoEsceInQuattroModi) {
     const Esito esito = Lancia({"disegno", comando, file});
     EXPECT_TRUE(esito.codice == 0 && esito.errori.empty() && esito.uscita.ends_with(coda)) << comando << esito.uscita;
   }
+  const Immagine immagine = ImmagineDaPng(Lancia({"disegno", "png", file}).uscita);
+  EXPECT_TRUE(immagine.larga == 1600 && immagine.tinte.size() == 1600U * 1200) << "as its help tells";
 }
 
 TEST_F(ProvaCli, UnDisegnoGuastoNonEsce) {

@@ -373,6 +373,7 @@ TEST(LibrettoDaDisegno, ITipiSenzaRossePossonoDiventareTm) {
   EXPECT_EQ(con("FR", {}, Risposta::Si), "9|20|10|20|5|V|TM|G|");
   EXPECT_EQ(con("FR", {}, Risposta::No), "9|20|10|20|5|V|FR|G|");
   EXPECT_EQ(con("FR", {"7,|100|101|rc|,T,"}, Risposta::Si), "9|20|10|20|5|V|FR|G|");
+  EXPECT_EQ(con("FR", {"7,|100|101|nc|,T,"}, Risposta::Si), "9|20|10|20|5|V|TM|G|");
 }
 
 } // namespace lirmeto::prova

@@ -159,6 +159,10 @@ TEST(Figura, OgniRigaHaIlSuoPuntoEOgniPuntoLaSuaRiga) {
   figura.Aggiorna();
   EXPECT_NEAR(figura.Grafica1.Vista().Xc, 1130, 0.01);
   EXPECT_EQ(figura.RigaVicina({1130, 1100}, 0.5), std::nullopt);
+  c.sessione.List1.Svuota(); // as between two acts
+  c.verificatore.Aggiorna();
+  figura.Aggiorna();
+  EXPECT_EQ(figura.RigaVicina({1120, 1100}, 50), std::nullopt);
 }
 
 } // namespace lirmeto::prova
