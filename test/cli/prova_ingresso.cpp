@@ -75,6 +75,8 @@ TEST_F(ProvaCli, AiutoEVersione) {
     EXPECT_NE(aiuto.uscita.find(parola), std::string::npos) << parola;
   EXPECT_EQ(Lancia({"--version"}).uscita, "lirmeto-cli 6.1\n");
   EXPECT_NE(Lancia({"righe", "--help"}).uscita.find("FILE"), std::string::npos);
+  for (const char* parola : {"Usage", "OPTIONS", "SUBCOMMAND", "Positionals", "REQUIRED"})
+    EXPECT_EQ(Lancia({"righe", "--help"}).uscita.find(parola), std::string::npos) << parola;
 }
 
 TEST_F(ProvaCli, OpzioniPrimaEDopoIlComando) {

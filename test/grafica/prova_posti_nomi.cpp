@@ -48,7 +48,7 @@ TEST(PostiNomi, TestiStraniNonHannoPostoENonFermanoGliAltri) {
   EXPECT_EQ(posti[5], std::nullopt) << "turned upwards it crosses the name, and has no other place";
 }
 
-// A heap of names: none covers another, one that is left out could stand at none of its places, and a name that stands
+// A heap of names: none covers another or its own point, one that is left out could stand at none of its places, and a name that stands
 // twice at one point stands there twice.
 TEST(PostiNomi, NelMucchioNessunoCopreUnAltro) {
   std::mt19937 caso(77);
@@ -66,6 +66,8 @@ TEST(PostiNomi, NelMucchioNessunoCopreUnAltro) {
     if (!posti[i]) continue;
     ++visti;
     spostati += *posti[i] != Scarto{} ? 1 : 0;
+    const auto& [x, y] = *posti[i];
+    EXPECT_FALSE(x < 0 && x + Larga > 0 && y < 0 && y + Alta > 0) << nomi[i] << " on its mark";
     for (std::size_t k = 0; k < i; ++k)
       if (posti[k]) {
         EXPECT_FALSE(SiCoprono(scritte[i], *posti[i], scritte[k], *posti[k])) << nomi[i] << ' ' << nomi[k];

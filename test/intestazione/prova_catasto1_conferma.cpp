@@ -76,6 +76,7 @@ TEST(Catasto1, ConfermaScriveTecnicoIniESessione) {
   sala.Apri();
   sala.form.Cambia(casella::Cognome, "verdi");
   sala.form.Cambia(casella::Nome, "");
+  sala.form.Cambia(casella::Provincia, "rovigo");
   sala.form.Cambia(casella::Comune, "l736");
   sala.form.Cambia(casella::Iscrizione, "77=8");
   sala.form.Cambia(casella::Recapito, "via \"Po\", 1");
@@ -85,12 +86,12 @@ TEST(Catasto1, ConfermaScriveTecnicoIniESessione) {
   sala.form.Premi(0);
   const Sessione& s = sala.sessione;
   EXPECT_EQ(s.EsitoForm, EsitoConfermato);
-  EXPECT_EQ(sala.Righe()[0], "0|21112026|7|L736|0010|3,12|VERDI NOME|GEOMETRA|PADOVA|");
+  EXPECT_EQ(sala.Righe()[0], "0|21112026|7|L736|0010|3,12|VERDI NOME|GEOMETRA|ROVIGO|");
   EXPECT_EQ(s.CodiceComune + s.NomeComune + s.SiglaProvincia, "L736VENEZIAVE");
   EXPECT_EQ(s.EstrattoAssociato, "X.EMP");
   EXPECT_EQ(s.ModoEditor, 381);
   EXPECT_EQ(sala.disco.Contenuto(Programma + "\\tecnici\\VERDI NOME.PFS"),
-            Testo({"\"VERDI NOME\",\"GEOMETRA\",\"PADOVA\"", "\"10\",\"20\",\"GEODIMETRO INTEGRATO\"",
+            Testo({"\"VERDI NOME\",\"GEOMETRA\",\"ROVIGO\"", "\"10\",\"20\",\"GEODIMETRO INTEGRATO\"",
                    "\"77=8\",\"" + CodiceGiusto + "\"", "\"VERDI\"", "\"NOME\"", "\"via  Po   1\""}));
   const std::string ini = sala.disco.Contenuto("C:\\WINDOWS\\PREGEO.INI");
   EXPECT_TRUE(Contiene(ini, "\r\nnumero=77=8\r\ncodc=" + CodiceGiusto + "\r\n[PROV_DI_COMP]\r\nprovincia=VE\r\n"));
