@@ -44,7 +44,28 @@ BrandingText " "
 !macroend
 !define AvvisaShell `System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'`
 
+; A program that runs can be neither replaced nor taken away. Without questions ("/S") that ends it.
+!macro AttendiChiuso DI
+  Function ${DI}AttendiChiuso
+    IfFileExists "$INSTDIR\lirmeto.exe" 0 chiuso
+  prova:
+    ClearErrors
+    FileOpen $0 "$INSTDIR\lirmeto.exe" a
+    IfErrors aperto
+    FileClose $0
+    Goto chiuso
+  aperto:
+    MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Lirmeto è aperto: chiuderlo e riprovare." /SD IDCANCEL IDRETRY prova
+    SetErrorLevel 2
+    Abort
+  chiuso:
+  FunctionEnd
+!macroend
+!insertmacro AttendiChiuso ""
+!insertmacro AttendiChiuso "un."
+
 Section
+  Call AttendiChiuso
   SetOutPath "$INSTDIR"
   File /r "${PACCO}/*.*"
   WriteUninstaller "$INSTDIR\Disinstalla.exe"
@@ -71,6 +92,7 @@ SectionEnd
 
 ; What the surveyor made, in Documenti\LIRMETO, and his settings stay.
 Section Uninstall
+  Call un.AttendiChiuso
   Delete "$SMPROGRAMS\Lirmeto.lnk"
   !insertmacro PerOgniEstensione Ritira
   DeleteRegKey HKCU "${CLASSI}\Lirmeto.Libretto"
