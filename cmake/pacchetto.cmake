@@ -4,8 +4,8 @@ install(TARGETS lirmeto lirmeto-cli)
 install(FILES strumenti/desktop/lirmeto.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES strumenti/desktop/lirmeto.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
 install(FILES src/ui/icone/lirmeto.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES docs/guida.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(DIRECTORY docs/immagini DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY ${CMAKE_BINARY_DIR}/guida/ DESTINATION ${CMAKE_INSTALL_DOCDIR} OPTIONAL) # strumenti/guida_html.py writes it
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME lirmeto)

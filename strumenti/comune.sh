@@ -9,6 +9,7 @@ PACCHETTI_PROGRAMMA=(g++ cmake ninja-build ccache lld libcli11-dev qt6-base-dev 
   libcairo2-dev pkg-config qt6-image-formats-plugins)
 PACCHETTI_PROVE=(libgtest-dev clang clang-format clang-tidy libclang-rt-14-dev python3 python3-ezdxf git zip unzip
   p7zip-full)
+PACCHETTI_GUIDA=(cmark-gfm python3) # of strumenti/guida_html.py
 
 dice() { printf '== %s\n' "$*"; }
 

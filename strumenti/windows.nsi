@@ -70,6 +70,7 @@ Section
   File /r "${PACCO}/*.*"
   WriteUninstaller "$INSTDIR\Disinstalla.exe"
   CreateShortcut "$SMPROGRAMS\Lirmeto.lnk" "$INSTDIR\lirmeto.exe"
+  CreateShortcut "$SMPROGRAMS\Guida di Lirmeto.lnk" "$INSTDIR\guida\guida.html"
 
   WriteRegStr HKCU "${CLASSI}\Lirmeto.Libretto" "" "Libretto delle misure"
   WriteRegStr HKCU "${CLASSI}\Lirmeto.Libretto\DefaultIcon" "" "$INSTDIR\lirmeto.exe,0"
@@ -94,6 +95,7 @@ SectionEnd
 Section Uninstall
   Call un.AttendiChiuso
   Delete "$SMPROGRAMS\Lirmeto.lnk"
+  Delete "$SMPROGRAMS\Guida di Lirmeto.lnk"
   !insertmacro PerOgniEstensione Ritira
   DeleteRegKey HKCU "${CLASSI}\Lirmeto.Libretto"
   DeleteRegKey HKCU "${CLASSI}\Applications\lirmeto.exe"
@@ -102,6 +104,7 @@ Section Uninstall
   RMDir /r "$INSTDIR\plugins"
   RMDir /r "$INSTDIR\translations"
   RMDir /r "$INSTDIR\licenze"
+  RMDir /r "$INSTDIR\guida"
   Delete "$INSTDIR\*.exe"
   Delete "$INSTDIR\*.dll"
   Delete "$INSTDIR\qt.conf"
