@@ -44,7 +44,7 @@ installa() {
   dice "Installo i pacchetti mancanti: ${mancanti[*]}"
   da_root apt-get update -q ||
     fallisce "impossibile aggiornare l'elenco dei pacchetti; da amministratore: apt-get install ${mancanti[*]}"
-  da_root apt-get install -y -q --no-install-recommends "${mancanti[@]}" ||
+  da_root apt-get install -y -q --no-install-recommends -o DPkg::Lock::Timeout=300 "${mancanti[@]}" ||
     fallisce "installazione non riuscita; da amministratore: apt-get install ${mancanti[*]}"
 }
 
