@@ -191,6 +191,7 @@ void KR_LibrettoOriginale::EseguiConsegnata(const std::string& linea) {
   if (conFile && !ConsenteDiSostituire(Parte(linea, '|', 1))) return;
   Comanda(Parte(linea, '|', 1), [&] {
     AggiornaLibrettoMisure(ambiente_);
+    if (conFile) ambiente_.sessione.EstrattoAssociato.clear();
     EseguiLineaDiComando(ambiente_, linea);
     CaricaLibrettoInList1(ambiente_);
   });
