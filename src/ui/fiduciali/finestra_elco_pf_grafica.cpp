@@ -118,6 +118,7 @@ void FinestraElcoPfGrafica::RiempiSelezione() {
     azione->setToolTip(AQString(voce.spiegazione));
   }
   selezione_->Allarga();
+  AggiungiRighello();
   auto* nomi = new QCheckBox(QStringLiteral("&Nomi"), this);
   nomi->setObjectName(QStringLiteral("Check1"));
   nomi->setChecked(modello_.Check1());
@@ -132,6 +133,19 @@ void FinestraElcoPfGrafica::RiempiSelezione() {
     modello_.Grafica1().Vista().NomiSovrapposti = si;
     modello_.Grafica1().KR_RidisegnaGrafica();
   });
+}
+
+void FinestraElcoPfGrafica::AggiungiRighello() {
+  QAction* righello = selezione_->addAction(Icona(QStringLiteral("righello")), QStringLiteral("Righello"));
+  righello->setCheckable(true);
+  righello->setToolTip(QStringLiteral("Misura distanza, direzione e area fra i punti su cui si fa clic"));
+  connect(righello, &QAction::toggled, this, [this](bool acceso) {
+    modello_.LasciaStrumento();
+    modello_.Grafica1().AccendiMetro(acceso);
+    superficie_->setFocus();
+    Mostra();
+  });
+  connect(superficie_, &GraficaSuperficie::RighelloLasciato, righello, [righello] { righello->setChecked(false); });
 }
 
 void FinestraElcoPfGrafica::Esegui(int indice) {

@@ -146,6 +146,17 @@ TEST_F(Piano, GliStrumentiDelMouse) {
   EXPECT_LT(modello->Larghezza(), 300);
 }
 
+TEST_F(Piano, IlRighelloMisuraEConEscLascia) {
+  Premi(QStringLiteral("Foglio")); // the ruler puts an armed tool down
+  Premi(QStringLiteral("Righello"));
+  for (const double est : {605.0, 103.0}) Clic(est, 500); // near two points, which it takes
+  EXPECT_NEAR(modello->Grafica1().Metro().Misura().totale, 500, 1e-6);
+  EXPECT_EQ(Scelti(), "----");
+  QTest::keyClick(superficie, Qt::Key_Escape);
+  EXPECT_FALSE(modello->Grafica1().Metro().Acceso());
+  EXPECT_TRUE(finestra->isVisible());
+}
+
 TEST_F(Piano, SiDiceCheCosaStaSottoIlMouse) {
   const QPoint punto = Dove(600, 500);
   QMouseEvent mossa(QEvent::MouseMove, punto, superficie->mapToGlobal(punto), Qt::NoButton, Qt::NoButton, {});
