@@ -143,7 +143,7 @@ void KR_LibrettoOriginale::Comanda(std::string_view nome, const std::function<vo
   Esito.clear();
   PrimaNuova.reset();
   const Scelta scelta = SceltaAttuale();
-  const std::uint64_t prima = ImprontaAttuale();
+  const ElencoRighe prima = sessione.List1;
   Prova([&] { storia_.Prepara(sessione); });
   ListaRighe scartatePrima = std::exchange(sessione.RigheScartate, {});
   Prova(comando);

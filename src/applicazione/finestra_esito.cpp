@@ -42,14 +42,28 @@ std::string Frase(const Storia::Differenza& quante) {
   return FattoARighe("cambiat", quante.diverse);
 }
 
+// How many more rows there are, or fewer, or else how many are others.
+Storia::Differenza Confronta(const ListaRighe& vecchie, const ListaRighe& nuove) {
+  Storia::Differenza differenza{0, nuove.size(), vecchie.size(), 0};
+  for (std::size_t i = 0; vecchie.size() == nuove.size() && i < nuove.size(); ++i)
+    differenza.diverse += vecchie[i] == nuove[i] ? 0U : 1U;
+  return differenza;
+}
+
 } // namespace
 
-// A command that told its own outcome has the last word. Some put the rows in order as a save does, and no more.
-void KR_LibrettoOriginale::DiciCambiamento(std::string_view nome, std::uint64_t prima) {
+// A command that told its own outcome has the last word. Many put the rows in order first, as a save does: that is told
+// beside what they are there for.
+void KR_LibrettoOriginale::DiciCambiamento(std::string_view nome, const ElencoRighe& prima) {
   if (!Esito.empty()) return;
+  const ElencoRighe& elenco = ambiente_.sessione.List1;
   const Storia::Differenza quante = storia_.Ultima(ambiente_.sessione);
   if (quante.nuove > quante.vecchie) PrimaNuova = quante.inizio;
-  Esito = std::string(nome) + ": " + Frase(quante) + (prima == ImprontaAttuale() ? ", come al salvataggio" : "");
+  Esito = std::string(nome) + ": ";
+  const std::string sistemate = AvvisoSistemate(elenco).empty() ? AvvisoSistemate(prima) : std::string();
+  if (sistemate.empty()) return static_cast<void>(Esito += Frase(quante));
+  const Storia::Differenza altre = Confronta(Sistemato(prima).Righe(), elenco.Righe());
+  Esito += altre.nuove == altre.vecchie && altre.diverse == 0 ? sistemate : Frase(altre) + "; " + sistemate;
 }
 
 // A command that is there to change rows and changed none does not leave the user in doubt.

@@ -149,7 +149,7 @@ void KR_LibrettoOriginale::PrendiEstratto(const std::string& percorso) {
 }
 
 std::string KR_LibrettoOriginale::EsitoApertura(const std::string& percorso) const {
-  const std::string sistemate = AvvisoSistemate(ambiente_.sessione);
+  const std::string sistemate = AvvisoSistemate(ambiente_.sessione.List1);
   return "Aperto " + std::string(NomeDaPercorso(percorso)) + ": " + QuanteRighe(ambiente_.sessione.List1.Quante()) +
          (sistemate.empty() ? "" : "; al salvataggio " + sistemate);
 }

@@ -182,7 +182,7 @@ private:
   };
   [[nodiscard]] Scelta SceltaAttuale() const;
   void RimettiScelta(const Scelta& prima, bool cambiate);
-  void DiciCambiamento(std::string_view nome, std::uint64_t prima);
+  void DiciCambiamento(std::string_view nome, const ElencoRighe& prima);
   void DiciSeNulla(Comando comando);
   void DiciCopia();
   void DiciSelezione(Comando comando);

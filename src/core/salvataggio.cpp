@@ -214,8 +214,14 @@ std::string FattoARighe(std::string_view participio, std::size_t quante) {
   return std::string(participio) + (quante == 1 ? "a " : "e ") + QuanteRighe(quante);
 }
 
-std::string AvvisoSistemate(const Sessione& sessione) {
-  ElencoRighe elenco = sessione.List1;
+ElencoRighe Sistemato(ElencoRighe elenco) {
+  elenco.TogliRipetute();
+  for (std::size_t i = 0; i < elenco.Quante(); ++i)
+    if (DaPulire(elenco.Riga(i))) elenco.Cambia(i, RigaPulita(elenco.Riga(i)));
+  return elenco;
+}
+
+std::string AvvisoSistemate(ElencoRighe elenco) {
   const std::size_t ripetute = elenco.TogliRipetute();
   const auto& righe = elenco.Righe();
   const auto note = static_cast<std::size_t>(std::count_if(righe.begin(), righe.end(), DaPulire));

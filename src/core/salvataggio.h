@@ -52,8 +52,10 @@ std::string EsportaLibrettoInFile(Ambiente& ambiente);
 // "aggiunta 1 riga", "aggiunte 173 righe" for "aggiunt".
 [[nodiscard]] std::string FattoARighe(std::string_view participio, std::size_t quante);
 
-// What AggiornaLibrettoMisure will do to the rows as they stand, as a clause of a sentence: "tolte 2 righe ripetute,
-// sistemate 3 note"; empty when nothing is to be mended.
-[[nodiscard]] std::string AvvisoSistemate(const Sessione& sessione);
+// The rows as AggiornaLibrettoMisure will leave them.
+[[nodiscard]] ElencoRighe Sistemato(ElencoRighe elenco);
+// What it will do to them, as a clause of a sentence: "tolte 2 righe uguali alla precedente, sistemate 3 righe con note da
+// completare"; empty when nothing is to be mended.
+[[nodiscard]] std::string AvvisoSistemate(ElencoRighe elenco);
 
 } // namespace lirmeto

@@ -341,6 +341,32 @@ TEST(Esito, DiceAQuanteRigheETieneLaScelta) {
   EXPECT_EQ(sala.Righe().size(), 7U);
 }
 
+// Rows that a command mends on its way are told beside what it did.
+TEST(Esito, LeRigheSistematePerStradaSiDiconoAParte) {
+  const struct {
+    std::string nota; // typed into the first row
+    bool dellaSecondaRipetuta;
+    std::string detto;
+  } casi[] = {
+      {"ALTRA", true, "Modifica Campo: cambiata 1 riga; tolta 1 riga uguale alla precedente"},
+      {"ALTRA", false, "Modifica Campo: cambiata 1 riga"},
+  };
+  for (const auto& [nota, ripetuta, detto] : casi) {
+    Sala sala;
+    sala.disco.Metti("C:\\ACT.DAT", Testo({Zero, Nove, "1|1|1.5|N|", "8|1|2|3|", ripetuta ? "8|1|2|3|" : "8|9|2|3|"}));
+    sala.finestra.Avvia("C:\\ACT.DAT");
+    sala.finestra.CambiaCampo(2, 3, nota);
+    EXPECT_EQ(sala.finestra.Esito, detto);
+    EXPECT_EQ(sala.Righe().size(), ripetuta ? 4U : 5U);
+  }
+  Sala sala;
+  sala.disco.Metti("C:\\ACT.DAT", Testo({Zero, Nove, "8|1|2|3|", "8|1|2|3|"}));
+  sala.finestra.Avvia("C:\\ACT.DAT");
+  sala.finestra.TastoInvio(2); // an editor that is closed again
+  EXPECT_EQ(sala.finestra.Esito, "Modifica: tolta 1 riga uguale alla precedente");
+  EXPECT_FALSE(sala.finestra.DaSalvare());
+}
+
 // --- the table of the entries
 
 TEST(Tabelle, DiOgniVoceSiSaCheCosaFa) {
