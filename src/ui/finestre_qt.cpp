@@ -52,13 +52,16 @@ template <typename Tipo, typename Finestra>
 bool MostraSe(Modello& modello, Impostazioni* impostazioni, std::string_view nome) {
   auto* questo = dynamic_cast<Tipo*>(&modello);
   if (questo == nullptr) return false;
-  Finestra finestra(*questo, QApplication::activeWindow());
+  QWidget* sotto = QApplication::activeWindow();
+  Finestra finestra(*questo, sotto);
   const bool ricorda = impostazioni != nullptr && !nome.empty();
   if (ricorda) RimettiAlPosto(finestra, LeggiPosizione(*impostazioni, nome));
   MettiNelMezzo(finestra);
   PreparaFinestra(finestra);
   const TempoDellUtente sua;
   finestra.exec();
+  // Where a question closed with the form, some window managers leave the keyboard to nobody.
+  if (sotto != nullptr) sotto->activateWindow();
   if (ricorda) ScriviPosizione(*impostazioni, nome, {finestra.x(), finestra.y(), finestra.width(), finestra.height()});
   return true;
 }
