@@ -274,9 +274,8 @@ TEST(Comandi, OpzioniFormEConfigurazione) {
   sala.sessione.CodiceComune = "X";
   sala.finestra.Esegui(Comando::CodiceFiscale);
   EXPECT_EQ(sala.sessione.CodiceComune, "G224");
-  for (const Comando comando :
-       {Comando::Disegno, Comando::CodiceFiscale, Comando::Comuni, Comando::ArchivioPossessori,
-        Comando::CompletaAutoallestito, Comando::GestionePf, Comando::ConfiguraPregeo}) {
+  for (const Comando comando : {Comando::Disegno, Comando::CodiceFiscale, Comando::Comuni, Comando::ArchivioPossessori,
+                                Comando::CompletaAutoallestito, Comando::GestionePf, Comando::ConfiguraPregeo}) {
     sala.finestre.disponibili = {std::string(FormDi(comando))};
     const auto versione = sala.sessione.List1.Versione();
     sala.finestra.Esegui(comando);
