@@ -83,10 +83,11 @@ libreria_opzioni() {
 }
 
 # What the windows need of Qt; its tools are those of this system. Tablets are off because their header is not in that source.
+# Direct2D stays on, though its own platform is not shipped: without it the printing would miss the fonts of DirectWrite.
 libreria_qt() {
   local spente=()
   scarica_sorgente qt6-base || return 1
-  for voce in sql network dbus opengl dynamicgl vulkan direct2d xml testlib concurrent tabletevent; do
+  for voce in sql network dbus opengl dynamicgl vulkan xml testlib concurrent tabletevent; do
     spente+=("-DFEATURE_$voce=OFF")
   done
   cmake_cross qt "$SORGENTI/qt6-base" "${spente[@]}" -DBUILD_SHARED_LIBS=ON -DQT_HOST_PATH=/usr \
