@@ -190,6 +190,7 @@ TEST(Comandi, IlDialogoDiRiordinoVedeLeRigheDellElenco) {
 TEST(Comandi, ProgrammiCaratterePannello) {
   Sala sala;
   sala.finestra.Avvia("");
+  EXPECT_FALSE(sala.finestra.PannelloStrumenti);
   sala.finestra.Esegui(Comando::GondellaLibretti);
   sala.finestra.Esegui(Comando::AttivaPregeo);
   EXPECT_EQ(sala.processi.avviati, (Righe{"C:\\Program Files (x86)\\Gondella\\GondellaLibretti.exe",

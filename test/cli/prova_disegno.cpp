@@ -15,7 +15,7 @@ TEST(DisegnoPng, OgniOperazioneAlSuoPosto) {
   lista.scala = {-20, 10, 20, -10};
   lista.linee = {{-20, 9, 20, 9, 4, 0, stile::Tratteggiato},
                  {-20, -9, 20, -9, 2, colore::BluChiaro, stile::Continuo},
-                 {-30, 7, 20, 7, 4, colore::RossoChiaro, stile::Tratteggiato},
+                 {-60, 7, 20, 7, 4, colore::RossoChiaro, stile::Tratteggiato},
                  {30, 0, 40, 0, 1, 0, 0}};
   lista.cerchi = {{0, 0, 4, colore::Verde}, {60, 0, 4, 0}};
   lista.testi = {{-19, 0, "MMM", "", 12, 0, colore::Nero}, {15, -3, "MMM", "", 12, 900, 0}, {90, 0, "M", "", 9, 0, 0}};
@@ -25,13 +25,15 @@ TEST(DisegnoPng, OgniOperazioneAlSuoPosto) {
   EXPECT_EQ(immagine.Tinta(5, 5), 0U);
   EXPECT_EQ(immagine.Tinta(32, 5), 0xFDFDFBU) << "a dash of 24, a gap of 16";
   EXPECT_EQ(immagine.Tinta(32, 95), 0x0000FFU);
-  EXPECT_EQ(immagine.Tinta(2, 15), 0xFF0000U);
+  EXPECT_EQ(immagine.Tinta(44, 5), 0U);
+  EXPECT_EQ(immagine.Tinta(2, 15), 0xFF0000U) << "dashes from the line's own beginning";
   EXPECT_TRUE(immagine.Tinta(195, 95) == 0x0000FF && !immagine.Dipinta(0, 97, 200, 100));
   for (const auto& [x, y] : {std::pair{119, 49}, {80, 50}, {100, 30}, {99, 69}, {114, 64}})
     EXPECT_TRUE(immagine.Dipinta(x, y, x + 2, y + 2)) << x << " " << y << ": a whole circle, behind a dashed line";
   EXPECT_FALSE(immagine.Dipinta(90, 40, 110, 60)) << "not filled";
   EXPECT_TRUE(immagine.Dipinta(5, 50, 40, 66));
   EXPECT_FALSE(immagine.Dipinta(5, 20, 40, 50)) << "below its corner";
+  EXPECT_FALSE(immagine.Dipinta(5, 70, 75, 90)) << "twelve points high";
   EXPECT_TRUE(immagine.Dipinta(175, 35, 191, 60));
   EXPECT_FALSE(immagine.Dipinta(175, 66, 200, 90)) << "upwards from its corner";
 }

@@ -52,6 +52,8 @@ TEST(Manager, SelezionareMostraTestoEtichetteEDisegno) {
   EXPECT_EQ(form.Indice, -1);
   EXPECT_THROW(form.Seleziona(1), Errore);
   EXPECT_EQ(tavolo.sessione.EstrattoAssociato, "A.PNG") << "looking ties nothing";
+  form.Premi(0);
+  EXPECT_TRUE(form.Chiusa);
 }
 
 TEST(Manager, UnaCartellaVuotaOCheMancaHaDueEsempi) {

@@ -121,6 +121,7 @@ TEST(Figura, DisegnaCioCheLeRigheDicono) {
   EXPECT_EQ(archivio.Punti()[archivio.PrimoDiNome("300").value()].Colore, colore::Blu);
   EXPECT_EQ(archivio.Punti()[archivio.PrimoDiNome("101").value()].Colore, colore::Nero);
   EXPECT_TRUE(archivio.PrimoDiNome("10000"));
+  for (const PuntoGrafica& punto : archivio.Punti()) EXPECT_EQ(punto.Angolo, 0) << punto.Nome << " reads level";
   ConAtto lontano;
   lontano.ApriCon({"41 |RC|>|VC|", "31 -170.775>-12170.775", "32 -190.115>-12190.115", "33 -218.765>-12218.765",
                    "34 -181.867>-12181.867"});

@@ -105,6 +105,8 @@ TEST_F(ProvaProcessi, UnVisualizzatoreParteNellaCartellaDelFile) {
   EXPECT_EQ(CartellaProvvisoria::Prendi(detto),
             (cartella.Radice() / "c/dati").string() + "\n" + cartella.Radice().string() + "\n<Elenco.csv>\n");
   EXPECT_THROW(processi.ApriDocumentoCon("C:\\p\\manca.exe", "C:\\dati\\Elenco.csv"), Errore);
+  MettiProgramma("c/p/guasto", "MZ solo byte\n");
+  EXPECT_THROW(processi.ApriDocumentoCon("C:\\p\\guasto.exe", "C:\\dati\\Elenco.csv"), Errore);
   EXPECT_THROW(processi.ApriDocumentoCon("C:\\p\\vista.exe", "C:\\dati\\manca.csv"), Errore);
 }
 
