@@ -33,6 +33,10 @@ const std::vector<Caso> Casi = {
     {"L002 36", {"36 |10.000|10.000|POZZETTO|>|"}, {}},
     {"L002 48", {"48 |1125.000|1165.000|TERMINE IN PIETRA|>|1|"}, {}},
     {"L002 48", {"48 TERMINE>A|B|TERMINE"}, {"48 TERMINE>A|TERMINE"}},
+    {"L003 3.1", {"3 |4|>|x|"}, {}},
+    {"L003 29.3", {"29 |0.000|>|o|"}, {}},
+    {"L003 34.5", {"34 |2.000|>|2.ooo|"}, {}},
+    {"L003 48.2", {"48 1125.000>1125.00o"}, {}},
     {"L003 5.2", {"5 126.4863>126.48a3"}, {"5 126.4863>126.486300"}},
     {"L003 14.3", {"14 100.4300>100.4x00"}, {}},
     {"L003 35.3", {"35 0.00>x"}, {"35 0.00|>0.00|"}},
@@ -43,6 +47,7 @@ const std::vector<Caso> Casi = {
     {"L003 9.3", {"9 +2|101|66.5167|o|TERMINE|"}, {"9 +2|101|66.5167|22.361|TERMINE|"}}, // a flat sight has no zenith
     {"L004 5.2", {"5 126.4863>126,4863"}, {"5 CHIODO>CHIODO, FERRO"}},
     {"L005 8.2", {"8 163.6250>563.6250"}, {"8 163.6250>163.6249"}},
+    {"L005 9.2", {"9 +2|101|466.5167|22.361|T|"}, {}},
     {"L006 9.3", {"9 100.4300>10.4300"}, {"9 100.4300>99.4300"}},
     {"L007 9.4", {"9 22.361>0.000"}, {"9 22.361>22.360"}},
     {"L008 9.4", {"9 22.361>2236.100"}, {"8 196.984>196.985"}},
@@ -52,10 +57,19 @@ const std::vector<Caso> Casi = {
     {"L010 4.2", {"4 1.550|>"}, {}},
     {"L011 9.6", {"9 TERMINE IN PIETRA>Note:"}, {"9 TERMINE IN PIETRA>Note: X"}},
     {"L011 4.3", {"4 CHIODO|>"}, {"4 CHIODO>C"}},
+    {"L011 9.4", {"9 +2|101|66.5167|22.361||"}, {}},
+    {"L011 29.4", {"29 STAZIONE PERMANENTE>"}, {}},
     {"L011 34.6", {"34 TERMINE IN PIETRA>"}, {"34 TERMINE IN PIETRA>T"}},
     {"L012 9.1", {"9 101>123456789012345"}, {"9 101>12345678901234"}},
     {"L013 9.1", {"9 101>1 01"}, {"9 101>101A"}},
     {"L013 9.1", {"9 101>1/01"}, {"9 101>A101"}},
+    {"L013 3.3", {"3 |200|>|2/00|"}, {}},
+    {"L013 4.1", {"4 |100|>|1/00|"}, {}},
+    {"L013 34.1", {"34 |105|>|1/05|"}, {}},
+    {"L013 35.1", {"35 |101|>|1/01|"}, {}},
+    {"L013 35.2", {"35 |102|>|1/02|"}, {}},
+    {"L013 36.1", {"36 |105|>|1/05|"}, {}},
+    {"L013 48.1", {"48 |103|>|1/03|"}, {}},
     {"L014 43", {"43 totale>tot\xE0le"}, {"43 totale>tota'le"}},
     {"L015 9", {"9 PIETRA>PIETR\xC0"}, {"9 PIETRA>PIETRA'"}},
     {"L016 9", {"9 PIETRA>PIETRA\x81"}, {"9 PIETRA>PIETR\xC0"}},
@@ -291,13 +305,15 @@ TEST(Verifiche, QuelloCheManca) {
 }
 
 TEST(Verifiche, LaFraseDiceQualeAltraRiga) {
-  ConAtto c;
-  c.ApriCon({"14 60.829>61.329"});
-  const auto& trovate = c.verificatore.Segnalazioni();
-  const auto sua =
-      std::find_if(trovate.begin(), trovate.end(), [](const auto& s) { return s.regola->codice == "R003"; });
-  ASSERT_NE(sua, trovate.end());
-  EXPECT_EQ(Testo(*sua, 1), "La distanza 100-200 \xE8 60.83 m all'andata e 61.33 m al ritorno (riga 6)");
+  for (const auto& [colpa, frase] :
+       {std::pair{"14 60.829>61.329", "La distanza 100-200 \xE8 60.83 m all'andata e 61.33 m al ritorno (riga 6)"},
+        {"5 126.4863>128.4863", "Il punto 200, visto anche da 200 (riga 14), cade a 1.91 m di distanza"}}) {
+    ConAtto c;
+    c.ApriCon({colpa});
+    Modifiche frasi;
+    for (const Segnalazione& s : c.verificatore.Segnalazioni()) frasi.push_back(Testo(s, 1));
+    EXPECT_TRUE(Contenuta(frasi, frase)) << testing::PrintToString(frasi);
+  }
 }
 
 TEST(Verifiche, UnAltroEstrattoSiLegge) {
