@@ -89,6 +89,17 @@ INSTANTIATE_TEST_SUITE_P(Scelte, ChiusuraFallita,
                                          CasoChiusura{"senzaSalvare", {2}, true, ""}),
                          [](const auto& caso) { return caso.param.nome; });
 
+TEST(Salvato, NonSiChiedeDiSalvarloAncora) {
+  Sala sala;
+  sala.finestra.Avvia("C:\\ACT.DAT");
+  sala.finestra.CambiaDitta("rossi");
+  sala.finestra.Esegui(Comando::SalvaLibretto);
+  sala.finestre.disponibili = {"FormCatasto1TXT"};
+  sala.dialoghi.detti.clear();
+  sala.finestra.Esegui(Comando::NuovoLibretto);
+  EXPECT_TRUE(sala.dialoghi.detti.empty()) << sala.dialoghi.UltimoTesto();
+}
+
 // The header form as the user leaves it.
 struct FinestraIntestazione : prova::FinestreDiProva {
   Sessione* sessione = nullptr;

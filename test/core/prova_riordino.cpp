@@ -292,6 +292,20 @@ TEST(FormRiordino, DomandeEBottoni) {
   EXPECT_EQ(banco.Righe(), (Righe{Zero, Nove, "8|2|2|2|"}));
 }
 
+TEST(FormRiordino, ChiudereChiedeSeQualcosaSiPerde) {
+  for (const bool eliminata : {false, true}) {
+    Banco banco;
+    banco.Apri(Testo({Zero, Nove, "8|2|2|2|", "1|1|1.5|N|"}));
+    FormRiordinoRighe form(banco.ambiente);
+    form.AlCaricamento();
+    form.AllAttivazione();
+    if (eliminata) form.Righe[C::Stazioni].clear();
+    form.Chiudi(); // the answer is No
+    EXPECT_EQ(form.Chiusa, !eliminata);
+    EXPECT_EQ(banco.dialoghi.detti.size(), eliminata ? 1U : 0U);
+  }
+}
+
 struct CasoIntestazione {
   std::string nome;
   C classe;     // of it the first row is deleted

@@ -45,6 +45,10 @@ TEST(Manager, SelezionareMostraTestoEtichetteEDisegno) {
 
   form.Seleziona(1);
   EXPECT_TRUE(form.TestoFile.empty() && form.Etichette.comune.empty());
+  std::vector<int> attivi;
+  for (const auto& pulsante : KR_EstrattiDiMappa1::Pulsanti())
+    if (form.Abilitato(pulsante)) attivi.push_back(pulsante.indice);
+  EXPECT_EQ(attivi, (std::vector<int>{0, 2, 27, 8, 11, 12})) << "what a raster is good for";
   form.AnteprimaEstratto3();
   EXPECT_EQ(form.Anteprima, AnteprimaEstratto::Raster);
   form.CambiaFiltro(FiltroEstratti::Smp);

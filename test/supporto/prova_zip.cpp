@@ -134,6 +134,7 @@ TEST(ZipClass, QuelloCheScriveTornaIndietro) {
   EXPECT_TRUE(zip.AddFile("C:\\zip\\X.EMP", "dir\\PERCH\xC9 \x80\x96.emp"));
   EXPECT_TRUE(zip.WriteZip("C:\\zip\\b.zip", false));
   EXPECT_EQ(t.Esplodi(t.disco.Contenuto("C:\\zip\\b.zip")), "DIR\\PERCH\xC9 \x80\x96.EMP=" + tutti + " VUOTO.TXT= ");
+  EXPECT_EQ(t.dialoghi.avanzamenti.back(), "Estrazione dell'archivio 2/2") << "the work is told to be over";
   EXPECT_TRUE(t.esito);
   EXPECT_TRUE(t.dialoghi.detti.empty());
 }
