@@ -129,6 +129,7 @@ TEST_P(DaExcel, SiAggiungonoInFondo) {
   Righe attese = {Zero, Nove, "8|1|2|3|"};
   attese.insert(attese.end(), GetParam().nuove.begin(), GetParam().nuove.end());
   EXPECT_EQ(banco.Righe(), attese);
+  EXPECT_EQ(banco.sessione.Libretto, Testo(attese));
   EXPECT_EQ(banco.sessione.PuntoErrore, GetParam().marcatore);
 }
 
