@@ -104,9 +104,11 @@ TEST(Salvato, NonSiChiedeDiSalvarloAncora) {
 struct FinestraIntestazione : prova::FinestreDiProva {
   Sessione* sessione = nullptr;
   std::int16_t esito = EsitoAnnullato;
+  std::size_t righe = 0; // that the form finds
   [[nodiscard]] bool Disponibile(std::string_view) const override { return true; }
   void Apri(std::string_view) override {
     sessione->EsitoForm = esito;
+    righe = sessione->List1.Quante();
     if (esito > 0) sessione->Libretto = Testo({"0|01012026|9|G224|0010|5|NUOVO ATTO|GEOMETRA|PADOVA|", Nove});
   }
 };
@@ -147,6 +149,7 @@ TEST_P(Nuovo, NonSiPortaViaQuelloDiPrima) {
     EXPECT_EQ(sala.Foto(), prima);
   }
   EXPECT_EQ(Contiene(sala.disco.Contenuto("C:\\ACT.DAT"), "6|<DIT>ROSSI|"), caso.salvata);
+  EXPECT_LE(finestre.righe, 2U) << "the new header finds none of the old rows";
   finestra.Esegui(Comando::Annulla);
   EXPECT_EQ(sala.sessione.NomeFileLibretto, "C:\\ACT.DAT");
 }

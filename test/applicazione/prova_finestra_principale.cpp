@@ -212,7 +212,9 @@ TEST(Comandi, ProgrammiCaratterePannello) {
   EXPECT_TRUE(sala.finestra.PannelloStrumenti);
   sala.finestra.PuntatoreSuPulsante(4);
   EXPECT_FALSE(sala.finestra.PannelloStrumenti);
+  const std::size_t detti = sala.dialoghi.detti.size();
   sala.finestra.Esegui(Comando::UtilitaCatastali);
+  EXPECT_TRUE(sala.finestra.PannelloStrumenti && sala.dialoghi.detti.size() == detti);
   sala.finestra.Righe_Indice();
   EXPECT_FALSE(sala.finestra.PannelloStrumenti);
   EXPECT_EQ(sala.sessione.PuntoErrore, "1134");

@@ -126,7 +126,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoLascia{casella::Foglio, "7", "0007"}, CasoLascia{casella::Foglio, "12a", "0012a"},
                     CasoLascia{casella::Foglio, "12345", "12345"}, CasoLascia{casella::Foglio, "", ""},
                     CasoLascia{casella::Mappali, "12,3,12", "3,12"}, CasoLascia{casella::Mappali, "", ""},
-                    CasoLascia{casella::PrecisioneLineare, " ", "10"},
+                    CasoLascia{casella::PrecisioneLineare, " ", "10"}, CasoLascia{casella::PrecisioneLineare, "5", "5"},
                     CasoLascia{casella::PrecisioneAngolare, "", "20"},
                     CasoLascia{casella::Versione, "", "PREGEO 10.00-G,APAG 2.12"},
                     CasoLascia{casella::Tipologia, "", "FR"}, CasoLascia{casella::EstMedio, "", "0"},
