@@ -25,6 +25,11 @@ LIBRETTI = ("*.DAT", "*.TXT", "*.LXB", "*.PDF")
 ATTI = "c/pregeo/arch/atti/*/LIBRETTO.TXT"
 PROPOSTE = "c/pregeo/arch/atti/*/PROPOSTA.TXT"
 DISEGNI = ("dxf", "html", "stampa", "scambio")
+PARTICELLE = {
+    "G224_01230_35.MAP": b"6|PARTICELLA|35|01|SEMINATIVO  |3016|3016|1|2|SN|\r\n",
+    "G224_01230_36.MAP": b"6|PARTICELLA|36|01|PRATO       |1200|1200|1|2|SN|\r\n",
+}
+ELENCO = b"LAYER RT\r\nal punto X=-5021.763 Y=-4460.942\r\nal punto X=-5010.118 Y=-4298.437\r\n"
 
 
 def trova(dischi, *modelli):
@@ -51,6 +56,7 @@ def lavori(dischi):
     for file in trova(dischi, "c/libretti/*.LXC"):
         yield "genera", file
         yield "genera", file, "--libretto", file.with_suffix(".TXT")
+        yield "genera", file, "--opzione", "ORIENTA_AZIMUT=1", "--opzione", "PRECISIONE_ANGOLARE=3"
         yield "misurate", file, "--disegno"
     for file in trova(dischi, "c/libretti/*.DXF"):
         yield "polilinee", file
@@ -62,12 +68,28 @@ def lavori(dischi):
         yield "modello", modello, file
     for file in libretti[:6]:
         yield "censuario", "archivio", file
+    yield from censuario(dischi)
+    yield "elenco", dischi / "c/libretti/ELENCO.TXU"
     yield "verifica", "--json", *libretti
-    yield from (("comuni",), ("comuni", "G224"), ("comuni", "forl\u00ec"), ("verifiche",), ("pf", "PF03/0410/G224"),
-                ("pf", "elenco", "G224"), ("pf", "dxf", "G224"), ("codice-fiscale", "RSSDAA80A41G224X"), ("--help",),
-                ("--version",), ("vola",), ("righe", dischi / "manca \u20ac.dat"))
+    yield from (("comuni",), ("comuni", "G224"), ("comuni", "forl\u00ec"), ("verifiche",), ("voci",), ("--help",), ("--version",),
+                ("pf", "PF03/0410/G224"), ("pf", "elenco", "G224"), ("pf", "dxf", "G224"),
+                ("codice-fiscale", "RSSDAA80A41G224X"), ("vola",), ("righe", dischi / "manca \u20ac.dat"))
     yield "zip", "crea", dischi / "c/libretti/tutto.zip", *libretti[:5], *estratti
     yield "zip", "estrai", dischi / "c/libretti/tutto.zip", dischi / "c/libretti/estratti"
+
+
+def censuario(dischi):
+    """The census rows of each kind of act, alone and in a libretto that has some."""
+    una, altra = (dischi / "c/libretti" / nome for nome in PARTICELLE)
+    for dentro in ((), ("--in", dischi / "c/libretti/COMPLETO.DAT")):
+        for genere in ("frazionamento", "stralcio"):
+            yield "censuario", genere, una, "--aree", "1561:F,1455:R", *dentro
+            yield "censuario", genere, una, "--aree", "1561,1455", "--mantieni", *dentro
+        for genere in ("nuova-costruzione", "variazione"):
+            yield "censuario", genere, una, *dentro
+            yield "censuario", genere, una, "--nome", "AAC", "--sr", *dentro
+        yield "censuario", "fusione", una, altra, *dentro
+        yield "censuario", "fusione", una, altra, "--conserva", "--m31fu", *dentro
 
 
 def prepara(corsia):
@@ -75,6 +97,8 @@ def prepara(corsia):
     shutil.copytree(RADICE / "demo/dischi", corsia / "dischi")
     documenti = corsia / "dischi/c/users" / getpass.getuser() / "Documents/LIRMETO"
     shutil.copytree(RADICE / "demo/documenti", documenti)
+    for nome, contenuto in {**PARTICELLE, "ELENCO.TXU": ELENCO}.items():
+        (corsia / "dischi/c/libretti" / nome).write_bytes(contenuto)
 
 
 def esegui(programma, dischi, parole):
