@@ -56,7 +56,15 @@ bool Fotografo::Domande() {
          Ritrai<ui::FinestraAssegnaDescrizione>(descrizione, "descrizione") &&
          Ritrai<ui::FinestraImportaFiduciali>(importa, "fiduciali_importa") &&
          Ritrai<ui::FinestraSelezionaMisurate>(misurate, "fiduciali_misurate") &&
-         Ritrai<ui::FinestraQuoteMedie>(quote, "quote_medie");
+         Ritrai<ui::FinestraQuoteMedie>(quote, "quote_medie") && DaEstratto();
+}
+
+// The fiducial points of the libretto's extract; no picture where it has none.
+bool Fotografo::DaEstratto() {
+  if (ambiente_.sessione.EstrattoAssociato.empty()) return true;
+  FormImportaFiduciali importa(ambiente_, FonteFiduciali::Estratto);
+  importa.AlCaricamento();
+  return Ritrai<ui::FinestraImportaFiduciali>(importa, "fiduciali_estratto");
 }
 
 // The comuni with a TAF, the points of one, and those of a sheet selected on the plane with the distances measured.

@@ -11,9 +11,24 @@
 #include <core/apertura.h>
 #include <generazione/polilinee_dxf.h>
 
+#include <QLineEdit>
+
 #include <utility>
 
 namespace lirmeto::foto {
+
+namespace {
+
+// The first parcel of the libretto, or of the extract where the archive has none of the libretto's.
+void ScegliUna(KR_EDM& edm) {
+  constexpr int archivioDallEstratto = 16;
+  edm.ClicList1(0);
+  if (!edm.Label2.empty()) return;
+  edm.Premi(archivioDallEstratto);
+  if (!edm.File1.empty()) edm.ClicFile1(0);
+}
+
+} // namespace
 
 // Pregeo's archive, and a new building from the menu to its proposal. They write, and start the exchange programs.
 bool Fotografo::Tipologie(const std::string& dxf) {
@@ -23,9 +38,20 @@ bool Fotografo::Tipologie(const std::string& dxf) {
   archivio.CambiaRiga(archivio.MSFlexGrid1.size() - 1);
   ui::FinestraDapregeo finestraArchivio(archivio);
   Mostra(finestraArchivio, 1220, 690);
-  if (!Salva(finestraArchivio, "da_pregeo")) return false;
+  if (!Salva(finestraArchivio, "da_pregeo") || !RicercaInPregeo()) return false;
   ambiente_.sessione.TipologiaCorrente = "07";
   return Mappali() && Proposta(dxf);
+}
+
+bool Fotografo::RicercaInPregeo() {
+  DisegnoCondiviso disegno;
+  KR_Dapregeo archivio(ambiente_, disegno);
+  archivio.ConRicerca = true;
+  archivio.AlCaricamento();
+  ui::FinestraDapregeo finestra(archivio);
+  Mostra(finestra, 1220, 690);
+  finestra.findChild<QLineEdit*>(QStringLiteral("Cercato"))->setText(QStringLiteral("ROSSETTO"));
+  return Salva(finestra, "cerca_pregeo");
 }
 
 // The workbench on the libretto's first parcel, and the forms on it; the proposal is the exported one.
@@ -33,7 +59,7 @@ bool Fotografo::Censuario() {
   CaricaLibrettoInList1(ambiente_);
   KR_EDM edm(ambiente_);
   edm.AlCaricamento();
-  edm.ClicList1(0);
+  ScegliUna(edm);
   ui::FinestraEdm finestra(edm);
   Mostra(finestra, 1240, 700);
   const ParticellaScelta scelta = ScegliParticella(ambiente_.sessione, edm.Label2, RigheUnite(edm.List3));
@@ -99,10 +125,11 @@ bool Fotografo::TipoMappale(const ParticellaScelta& scelta) {
   return Salva(prima, "nuova_costruzione") && Salva(seconda, "variazione");
 }
 
-// The first two parcels of the sheet made one.
+// The first two parcels of the sheet made one; no picture where it has one alone.
 bool Fotografo::Fusione() {
   KR_TMFusione fusione(ambiente_);
   fusione.Form_Load();
+  if (fusione.File1.size() < 2) return true;
   fusione.Aggiungi(0);
   fusione.Aggiungi(1);
   ui::FinestraFusione finestra(fusione);

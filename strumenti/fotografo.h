@@ -57,6 +57,8 @@ private:
   bool Somma();
   bool Completa();
   bool Mappali();
+  bool RicercaInPregeo();
+  bool DaEstratto();
   bool Proposta(const std::string& dxf);
   bool Derivate(const ParticellaScelta& scelta);
   bool TipoMappale(const ParticellaScelta& scelta);
