@@ -8,7 +8,7 @@ PACCHETTI_PROGRAMMA=(g++ cmake ninja-build ccache lld libcli11-dev qt6-base-dev 
   fonts-liberation fonts-dejavu-core qt6-translations-l10n zlib1g-dev libarchive-dev
   libcairo2-dev pkg-config qt6-image-formats-plugins)
 PACCHETTI_PROVE=(libgtest-dev clang clang-format clang-tidy libclang-rt-14-dev python3 python3-ezdxf git zip unzip
-  p7zip-full)
+  p7zip-full dbus-daemon)
 PACCHETTI_GUIDA=(cmark-gfm python3) # of strumenti/guida_html.py
 
 dice() { printf '== %s\n' "$*"; }

@@ -2,8 +2,7 @@
 
 #include <ui/comune/luce_di_sistema.h>
 
-#include <QDBusConnection>
-#include <QDBusMessage>
+#include <QDBusVariant>
 
 namespace lirmeto::ui {
 
@@ -32,20 +31,22 @@ bool DettoScuro(const QDBusConnection& bus) {
 
 } // namespace
 
-PortaleDesktop::PortaleDesktop(LuceDiSistema& luce) : QObject(&luce), luce_(luce) {
-  QDBusConnection bus = QDBusConnection::sessionBus();
+PortaleDesktop::PortaleDesktop(LuceDiSistema& luce, QDBusConnection bus) : QObject(&luce), luce_(luce) {
   if (!bus.isConnected()) return;
   if (DettoScuro(bus)) luce_.Cambia(true);
+  // Qt 6.4 connects no slot that takes the value as a QDBusVariant.
   bus.connect(Portale, Oggetto, Interfaccia, QStringLiteral("SettingChanged"), this,
-              SLOT(ImpostazioneCambiata(QString, QString, QDBusVariant)));
+              SLOT(ImpostazioneCambiata(QDBusMessage)));
 }
 
-void PortaleDesktop::ImpostazioneCambiata(const QString& gruppo, const QString& chiave, const QDBusVariant& valore) {
-  if (gruppo == Gruppo && chiave == Chiave) luce_.Cambia(Scuro(valore.variant()));
+void PortaleDesktop::ImpostazioneCambiata(const QDBusMessage& segnale) {
+  const QVariantList detto = segnale.arguments(); // group, key, value
+  if (detto.size() == 3 && detto[0].toString() == Gruppo && detto[1].toString() == Chiave)
+    luce_.Cambia(Scuro(detto[2]));
 }
 
 void AscoltaDesktop(LuceDiSistema& luce) {
-  new PortaleDesktop(luce);
+  new PortaleDesktop(luce, QDBusConnection::sessionBus());
 }
 
 } // namespace lirmeto::ui

@@ -1,7 +1,8 @@
 #pragma once
 // What the desktop says of itself over D-Bus (the settings portal).
 
-#include <QDBusVariant>
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QObject>
 
 namespace lirmeto::ui {
@@ -12,10 +13,10 @@ class PortaleDesktop : public QObject {
   Q_OBJECT
 public:
   // Asks once and listens from then on; it goes with the light.
-  explicit PortaleDesktop(LuceDiSistema& luce);
+  PortaleDesktop(LuceDiSistema& luce, QDBusConnection bus);
 
 private slots:
-  void ImpostazioneCambiata(const QString& gruppo, const QString& chiave, const QDBusVariant& valore);
+  void ImpostazioneCambiata(const QDBusMessage& segnale);
 
 private:
   LuceDiSistema& luce_;
