@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QHash>
 #include <QLibraryInfo>
+#include <QList>
 #include <QLocale>
 #include <QScreen>
 #include <QStyle>
@@ -20,6 +21,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 // Qt wants the resources of a static library called by name, outside any namespace.
 static void RegistraRisorse() {
@@ -73,10 +75,16 @@ void TraduciDialoghi(QApplication& applicazione) {
 
 } // namespace
 
-// The style sheet comes last: it has every window look at its colours again.
+// The style sheet comes last: it has every window look at its colours again, and takes the fonts away that were not its
+// own.
 void Tingi(QApplication& applicazione, bool scuro) {
+  QList<std::pair<QWidget*, QFont>> caratteri;
+  for (QWidget* finestra : QApplication::allWidgets())
+    if (finestra->testAttribute(Qt::WA_SetFont)) caratteri.emplace_back(finestra, finestra->font());
   applicazione.setPalette(PaletteDi(scuro));
   applicazione.setStyleSheet(ConColori(FoglioDiStile(), scuro));
+  for (const auto& [finestra, carattere] : caratteri)
+    if (finestra->font() != carattere) finestra->setFont(carattere);
 }
 
 void VestiApplicazione(QApplication& applicazione, Luce luce) {

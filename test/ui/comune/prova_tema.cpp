@@ -117,6 +117,15 @@ TEST_P(Tema, InchiostriDelDisegno) {
   EXPECT_EQ(larga(carta, colore::RossoChiaro), larga(carta, colore::Verde));
 }
 
+TEST_P(Tema, ChiHaUnSuoCarattereLoTiene) {
+  Tavolo tavolo;
+  const QFont prima = tavolo.vista->font();
+  ui::Tingi(*qApp, !GetParam()); // the desktop changes twice
+  const InLuce luce(GetParam());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(tavolo.vista->font().family().toStdString(), prima.family().toStdString());
+}
+
 TEST_P(Tema, OgniIconaSiDistingueDalFondo) {
   const InLuce luce(GetParam());
   constexpr double contrastoSegno = 3; // what WCAG asks of a sign
