@@ -141,7 +141,9 @@ void CasellaTesto::resizeEvent(QResizeEvent* evento) {
 
 void CasellaTesto::changeEvent(QEvent* evento) {
   QPlainTextEdit::changeEvent(evento);
-  if (evento->type() == QEvent::FontChange && margine_ != nullptr) DisponiMargine();
+  if (margine_ == nullptr) return;
+  if (evento->type() == QEvent::FontChange) DisponiMargine();
+  if (evento->type() == QEvent::PaletteChange) SegnaRigaCorrente(); // in the colour of the new light
 }
 
 void CasellaTesto::DisegnaMargine(const QRect& zona, QWidget& margine) {

@@ -7,6 +7,7 @@
 #include <QGraphicsScene>
 #include <QImageReader>
 #include <QLabel>
+#include <QPainter>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -29,11 +30,14 @@ AnteprimaRaster::AnteprimaRaster(QWidget* padre)
   setDragMode(QGraphicsView::ScrollHandDrag);
   setTransformationAnchor(QGraphicsView::AnchorUnderMouse);
   setFrameShape(QFrame::NoFrame);
-  setBackgroundBrush(ColoreTema(Tono::Foglio));
   avviso_->setObjectName(QStringLiteral("Invito"));
   avviso_->setAlignment(Qt::AlignCenter);
   avviso_->setWordWrap(true);
   avviso_->hide();
+}
+
+void AnteprimaRaster::drawBackground(QPainter* pittore, const QRectF& zona) {
+  pittore->fillRect(zona, ColoreTema(Tono::Foglio));
 }
 
 void AnteprimaRaster::MostraByte(const std::string& byte) {

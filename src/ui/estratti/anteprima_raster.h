@@ -27,6 +27,7 @@ public:
 protected:
   void wheelEvent(QWheelEvent* evento) override;
   void resizeEvent(QResizeEvent* evento) override;
+  void drawBackground(QPainter* pittore, const QRectF& zona) override;
 
 private:
   void Adatta();

@@ -1,4 +1,5 @@
 #include <ui/comune/aspetto.h>
+#include <ui/comune/casella_testo.h>
 #include <ui/comune/tema.h>
 #include <ui/disegno/grafica_pittura.h>
 #include <ui/tavolo.h>
@@ -124,6 +125,15 @@ TEST_P(Tema, ChiHaUnSuoCarattereLoTiene) {
   const InLuce luce(GetParam());
   QCoreApplication::processEvents();
   EXPECT_EQ(tavolo.vista->font().family().toStdString(), prima.family().toStdString());
+}
+
+TEST_P(Tema, LaRigaCorrenteDellEditorSiLegge) {
+  ui::CasellaTesto editor;
+  ui::Tingi(*qApp, !GetParam());
+  const InLuce luce(GetParam());
+  QCoreApplication::processEvents();
+  const QColor riga = editor.extraSelections().constFirst().format.background().color();
+  EXPECT_EQ(riga, ColoreTema(Tono::RigaCorrente));
 }
 
 TEST_P(Tema, OgniIconaSiDistingueDalFondo) {
