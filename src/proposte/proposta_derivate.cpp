@@ -27,6 +27,7 @@ namespace lirmeto {
 //   the mode                           stays with the form: the editor of the memo leaves ModoEditor at 0
 //   an error of the composition        is shown among the findings; no message comes between two keys
 //   the editor of the memo             opens the memo of the form
+//   a save while the memo is empty     asks whether the rows composed go there first; with a no the form closes as it would
 
 namespace {
 
@@ -143,6 +144,16 @@ void PropostaDerivate::MemorizzaParticella() {
   Chiusa = LAmbiente().dialoghi.Chiedi(DomandaNuova(), TitoloDomanda(), Bottoni::SiNo) == Risposta::Si;
 }
 
+// Whether a save may go on. It takes the memo alone, and an empty one closes the form all the same: what was composed is
+// not lost without a word.
+bool PropostaDerivate::MemoPronto() {
+  if (List2.Quante() > RigheDiTesta || List1.size() <= RigheDiTesta) return true;
+  const Risposta risposta = LAmbiente().dialoghi.Chiedi("Il memo è vuoto: mettervi le righe di questa particella?"_w,
+                                                        "Memo Vuoto", Bottoni::SiNoAnnulla);
+  if (risposta == Risposta::Si) AggiungiAlMemo();
+  return risposta != Risposta::Annulla;
+}
+
 void PropostaDerivate::VuotaMemo() {
   const std::string percorso = PercorsoCen(LaSessione(), fileMemo_);
   if (!fileMemo_.empty() && LAmbiente().disco.Esiste(percorso)) LAmbiente().disco.Elimina(percorso);
@@ -169,6 +180,7 @@ void PropostaDerivate::DoppioClickMemo() {
 void PropostaDerivate::Esegui(int indice) {
   switch (indice) {
   case pulsante::Aggiungi:
+    if (!MemoPronto()) return;
     SalvaPropostaFile(LAmbiente(), List2);
     Chiusa = true;
     return;
@@ -184,6 +196,7 @@ void PropostaDerivate::Esegui(int indice) {
     ScriviCen(LAmbiente(), fileMemo_, List2);
     return DoppioClickMemo();
   case 8:
+    if (!MemoPronto()) return;
     SalvaPropostaFile1(LAmbiente(), List2);
     Chiusa = true;
     return;

@@ -109,6 +109,7 @@ private:
   void ContaLettere(std::string_view memo);
   void CaricaMemo(std::string_view testo);
   void MemorizzaParticella();
+  [[nodiscard]] bool MemoPronto();
   void VuotaMemo();
   void TogliSelezionate();
   void CaricaDalLibretto();

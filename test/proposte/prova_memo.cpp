@@ -66,6 +66,7 @@ TEST(Frazionamento, MemoELibretto) {
   EXPECT_EQ(Copia(form.List2.Righe()), (Righe{prova::TestataCensuaria, Conteggio("51FTP", "000")}));
   EXPECT_FALSE(banco.disco.Esiste(prova::Temp + "51FTP.CEN"));
   const std::string salvato = banco.sessione.Libretto;
+  banco.dialoghi.risposte = {Risposta::No};
   form.Premi(8); // nothing but a heading
   EXPECT_EQ(banco.sessione.Libretto, salvato);
   form.Premi(6);
@@ -85,6 +86,28 @@ TEST(Frazionamento, UnLibrettoVuotoPrendeLeDueRighe) {
     ASSERT_GT(righe.size(), 5U);
     EXPECT_TRUE(righe[0].starts_with("0|") && righe[1].starts_with("9|")) << banco.sessione.Libretto;
     EXPECT_EQ(righe[2], TestataCensuaria);
+  }
+}
+
+TEST(Fraziona, CioCheSiEComposto) {
+  const struct {
+    Risposta risposta;
+    bool scritte;
+    bool chiusa;
+  } casi[] = {{Risposta::Si, true, true}, {Risposta::No, false, true}, {Risposta::Annulla, false, false}};
+  for (const auto& [risposta, scritte, chiusa] : casi) {
+    for (const int bottone : {1, 8}) {
+      BancoCensuario banco;
+      banco.sessione.ModoEditor = ModoSopprime;
+      KR_Fraziona form(banco.ambiente, banco.Particella(Cento));
+      form.Form_Load();
+      Batti(form, {"60", "40"});
+      banco.dialoghi.risposte = {risposta};
+      form.Premi(bottone);
+      EXPECT_EQ(banco.dialoghi.UltimoTesto(), "Il memo \xE8 vuoto: mettervi le righe di questa particella?");
+      EXPECT_EQ(Contiene(banco.sessione.Libretto, "6|51FTP|004|"), scritte);
+      EXPECT_EQ(form.Chiusa, chiusa);
+    }
   }
 }
 
