@@ -97,18 +97,28 @@ void FinestraPrincipale::CollegaPannelli() {
   connect(pulsanti_, &PannelloPulsanti::Premuto, this, &FinestraPrincipale::Comanda);
   connect(dati_, &PannelloDati::Premuto, this, &FinestraPrincipale::Comanda);
   connect(dati_, &PannelloDati::Scritto, this, &FinestraPrincipale::MostraTitolo);
+  CollegaStrumenti();
+  QSet<QChar> deiMenu;
+  for (const QAction* menu : menuBar()->actions())
+    deiMenu.insert(menu->text()[menu->text().indexOf(u'&') + 1].toUpper());
+  AssegnaMnemoniche(*dati_, deiMenu);
+}
+
+void FinestraPrincipale::CollegaStrumenti() {
   connect(strumenti_, &PannelloStrumenti::Premuto, this, [this](std::string_view tag) {
     strumenti_->hide(); // it would stand behind the tool's window
     Fa([&] { modello_.EseguiStrumento(tag); });
+    righe_->setFocus();
+  });
+  connect(strumenti_, &PannelloStrumenti::Lasciato, this, [this] {
+    modello_.Righe_Indice();
+    MostraStrumenti();
+    righe_->setFocus();
   });
   connect(pulsanti_, &PannelloPulsanti::PuntatoreSopra, this, [this](int indice) {
     modello_.PuntatoreSuPulsante(indice);
     MostraStrumenti();
   });
-  QSet<QChar> deiMenu;
-  for (const QAction* menu : menuBar()->actions())
-    deiMenu.insert(menu->text()[menu->text().indexOf(u'&') + 1].toUpper());
-  AssegnaMnemoniche(*dati_, deiMenu);
 }
 
 // What a second start hands over is taken at once, while a dialog is open too, and done when the window is free.
@@ -140,6 +150,9 @@ void FinestraPrincipale::Comanda(Comando comando) {
   campi_->Prendi(); // what is typed there belongs to the row as the command finds it
   if (comando == Comando::CampiRiga) return static_cast<void>(campi_->Entra());
   Fa([&] { modello_.Esegui(comando); });
+  const QWidget* utilita = pulsanti_->Bottone(PulsanteUtilita);
+  const bool coiTasti = utilita != nullptr && utilita->hasFocus(); // the mouse does not give it the keyboard
+  if (comando == Comando::UtilitaCatastali && coiTasti) return strumenti_->Entra();
   // What came back is brought into view.
   const bool segnalazione = comando == Comando::SegnalazioneSuccessiva || comando == Comando::SegnalazionePrecedente ||
                             comando == Comando::PrendiRimedio;

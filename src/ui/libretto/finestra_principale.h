@@ -59,6 +59,7 @@ private:
   void CollegaElenco();
   void CollegaRicerca();
   void CollegaVerifiche();
+  void CollegaStrumenti();
   void CollegaConsegne();
   void CollegaCampi();
   void CreaMenuRighe();

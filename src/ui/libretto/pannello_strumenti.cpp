@@ -5,6 +5,7 @@
 #include <ui/comune/testo_qt.h>
 
 #include <QGraphicsDropShadowEffect>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -23,7 +24,8 @@ PannelloStrumenti::PannelloStrumenti(QWidget* padre) : QFrame(padre) {
     bottone->setObjectName(AQString(strumento.tag));
     bottone->setToolTip(AQString(EffettoDi(strumento.comando)));
     bottone->setFlat(true);
-    bottone->setFocusPolicy(Qt::NoFocus);
+    bottone->setFocusPolicy(Qt::TabFocus);
+    bottone->setAutoDefault(true); // Enter presses it, as the blank does
     connect(bottone, &QPushButton::clicked, this, [this, tag = strumento.tag] { emit Premuto(tag); });
     colonna->addWidget(bottone);
   }
@@ -33,6 +35,15 @@ PannelloStrumenti::PannelloStrumenti(QWidget* padre) : QFrame(padre) {
   ombra->setColor(ColoreTema(Tono::Ombra));
   setGraphicsEffect(ombra);
   hide();
+}
+
+void PannelloStrumenti::Entra() {
+  findChild<QPushButton*>()->setFocus(Qt::TabFocusReason);
+}
+
+void PannelloStrumenti::keyPressEvent(QKeyEvent* evento) {
+  if (evento->key() != Qt::Key_Escape) return QFrame::keyPressEvent(evento);
+  emit Lasciato();
 }
 
 } // namespace lirmeto::ui

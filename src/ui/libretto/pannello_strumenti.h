@@ -14,9 +14,17 @@ class PannelloStrumenti : public QFrame {
 public:
   explicit PannelloStrumenti(QWidget* padre);
 
+  // The keyboard goes to its first tool.
+  void Entra();
+
 signals:
   // The tool's tag, which the table of the tools holds.
   void Premuto(std::string_view tag);
+  // With Esc.
+  void Lasciato();
+
+protected:
+  void keyPressEvent(QKeyEvent* evento) override;
 };
 
 } // namespace lirmeto::ui

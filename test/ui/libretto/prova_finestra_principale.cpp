@@ -124,6 +124,23 @@ TEST(FinestraPrincipale, IlPannelloDegliStrumentiSegueIlPuntatore) {
   EXPECT_FALSE(strumenti->isVisible());
 }
 
+TEST(FinestraPrincipale, GliStrumentiCoiTasti) {
+  Tavolo tavolo;
+  QApplication::setActiveWindow(&*tavolo.finestra);
+  auto* utilita = tavolo.finestra->findChild<ui::PannelloPulsanti*>()->Bottone(PulsanteUtilita);
+  auto* strumenti = tavolo.finestra->findChild<ui::PannelloStrumenti*>();
+  utilita->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(utilita, Qt::Key_Space);
+  const auto bottoni = strumenti->findChildren<QPushButton*>();
+  EXPECT_EQ(QApplication::focusWidget(), bottoni[0]);
+  for (int i = 0; i < 2; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+  EXPECT_EQ(QApplication::focusWidget(), bottoni[2]);
+  EXPECT_TRUE(strumenti->isVisible());
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+  EXPECT_FALSE(strumenti->isVisible());
+  EXPECT_EQ(QApplication::focusWidget(), tavolo.vista);
+}
+
 TEST(FinestraPrincipale, LeOpzioniSonoSpenteELoDicono) {
   Tavolo tavolo;
   auto& opzioni = Figlio<QListWidget>(tavolo, "Opzioni");
