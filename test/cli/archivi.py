@@ -67,6 +67,24 @@ def guasti(zip_, cartella):
     assert {p.name for p in (cartella / "da_guasto").iterdir()} == {"UNO.TXT", "TRE.TXT"}
 
 
+def protetti(zip_, cartella, sorgenti):
+    """Of an archive with an entry that has a password the rest comes out, whoever made it and whatever the cipher."""
+    aperta, chiusa = sorgenti[0], sorgenti[2]
+    for prima, poi in (
+        (("zip", "-jq"), ("zip", "-jq", "-P", "segreto")),
+        (("7z", "a", "-bd", "-tzip"), ("7z", "a", "-bd", "-tzip", "-psegreto", "-mem=AES256")),
+    ):
+        archivio = cartella / f"protetto_{prima[0]}.zip"
+        if not (esegui(*prima, archivio, aperta) and esegui(*poi, archivio, chiusa)):
+            continue
+        dove = cartella / archivio.stem
+        fatto = subprocess.run((*zip_, "estrai", archivio, dove), capture_output=True)
+        detto = fatto.stderr.decode()
+        assert fatto.returncode == 1 and f"{chiusa.name} - è protetta da password" in detto, fatto
+        assert aperta.name not in detto, fatto
+        confronta(dove, [aperta.name])
+
+
 def main(cli):
     with tempfile.TemporaryDirectory() as nome:
         cartella = pathlib.Path(nome)
@@ -80,6 +98,7 @@ def main(cli):
         scritti(cartella / "nostro.zip", cartella)
         letti(zip_, cartella, sorgenti)
         guasti(zip_, cartella)
+        protetti(zip_, cartella, sorgenti)
     return 77 if mancanti else 0
 
 
