@@ -59,8 +59,21 @@ public:
         {"%1 File", QStringLiteral("File %1")},
         {"Shift", QStringLiteral("Maiusc")},
         {"Home", QStringLiteral("Home")},
+        {"Pages", QStringLiteral("Pagine")},
+        {"Double Sided Printing", QStringLiteral("Stampa fronte-retro")},
+        {"Off", QStringLiteral("No")},
+        {"Long side binding", QStringLiteral("Rilegatura sul lato lungo")},
+        {"Short side binding", QStringLiteral("Rilegatura sul lato corto")},
+        {"Advanced", QStringLiteral("Avanzate")},
+        {"Banner page at start", QStringLiteral("Pagina iniziale")},
+        {"Banner page at end", QStringLiteral("Pagina finale")},
+        {"Invalid Pages Definition", QStringLiteral("Pagine non valide")},
+        {"There are conflicts in some options. Please fix them.",
+         QStringLiteral("Alcune opzioni sono in conflitto: vanno corrette.")},
+        {"Please choose a different file name.", QStringLiteral("Scegliere un altro nome di file.")},
+        {"Normal", QStringLiteral("Normale")},
         {"Displays help on commandline options.", QStringLiteral("Mostra questo aiuto.")},
-        {"Displays help, including generic Qt options.", QStringLiteral("Mostra anche le opzioni di Qt.")},
+        {"Displays help including Qt specific options.", QStringLiteral("Mostra anche le opzioni di Qt.")},
     };
     return testi.value(testo);
   }
