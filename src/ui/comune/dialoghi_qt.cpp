@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QFontInfo>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QMessageBox>
@@ -158,7 +159,9 @@ void DialoghiQt::Stampa(const Stampato& stampato) {
 
 Carattere DialoghiQt::ScegliCarattere(const Carattere& attuale) {
   NascondiBarra();
-  QFontDialog finestra(FontDa(attuale), FinestraAttuale());
+  QFont suo = FontDa(attuale);
+  suo.setFamily(QFontInfo(suo).family()); // the one that stands in for it, if it is not installed
+  QFontDialog finestra(suo, FinestraAttuale());
   finestra.setWindowTitle(QStringLiteral("Carattere dell'elenco"));
   if (Mostra(finestra) != QDialog::Accepted) throw Errore(errore::DialogoAnnullato);
   return CarattereDa(finestra.selectedFont());
