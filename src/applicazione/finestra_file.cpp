@@ -23,7 +23,8 @@ namespace lirmeto {
 //   the extract of the act before    is not that of another one whose file names none; it stays with the rows of an .LXB
 //   where the dialog opens           the folder of the open libretto, or of the last file, or "c:\"
 //   a command handed over            runs here: its file, when it names one, is opened first, if the user says so
-//   nobody takes what is handed over the user is asked whether to end the instance that hangs, and to go on here
+//   nobody takes what is handed over the user is asked whether to end the other instance and to go on here: it may hang, or
+//                                    be at the forms of a command, which come before any window of its own
 
 namespace {
 
@@ -165,8 +166,8 @@ bool KR_LibrettoOriginale::PrendeIlPosto(const std::string& comando) {
     return false;
   }
   const Risposta risposta = ambiente_.dialoghi.Chiedi(
-      std::string("Modulo già attivo!"_w) + "\r\nNon risponde: terminarlo? Il lavoro non salvato va perso.",
-      TitoloProgramma, Bottoni::SiNo);
+      "Modulo già attivo!\r\nÈ occupato o bloccato: terminarlo? Il lavoro non salvato va perso."_w, TitoloProgramma,
+      Bottoni::SiNo);
   if (risposta == Risposta::Si) TerminaAltriModuli(ambiente_);
   return risposta == Risposta::Si;
 }

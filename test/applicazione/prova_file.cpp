@@ -168,8 +168,8 @@ TEST_P(SecondoAvvio, ConsegnaEFinisceDaSolo) {
 INSTANTIATE_TEST_SUITE_P(
     Casi, SecondoAvvio,
     testing::Values(CasoSecondo{"presa", true, Risposta::No, false, {}, std::string("Modulo già attivo!"_w)},
-                    CasoSecondo{"bloccata", false, Risposta::No, false, {}, "Non risponde"},
-                    CasoSecondo{"terminata", false, Risposta::Si, true, {5}, "Non risponde"}),
+                    CasoSecondo{"bloccata", false, Risposta::No, false, {}, "occupato o bloccato"},
+                    CasoSecondo{"terminata", false, Risposta::Si, true, {5}, "occupato o bloccato"}),
     [](const auto& caso) { return caso.param.nome; });
 
 TEST(Consegne, LaFinestraLeEsegueComeUnFileTrascinato) {
