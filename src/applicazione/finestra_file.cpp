@@ -187,13 +187,23 @@ void KR_LibrettoOriginale::EseguiConsegne() {
   }
 }
 
+// A drawing whose forms are given up leaves the libretto that stood, and so does a command that fails.
 void KR_LibrettoOriginale::EseguiConsegnata(const std::string& linea) {
   const bool conFile = !Parte(linea, '|', 0).empty();
+  const bool daDisegno = Maiuscolo(std::string(Parte(linea, '|', 1))) == "LIBRETTO_DA_DISEGNO";
   if (conFile && !ConsenteDiSostituire(Parte(linea, '|', 1))) return;
   Comanda(Parte(linea, '|', 1), [&] {
+    Sessione& sessione = ambiente_.sessione;
+    Sessione prima = sessione;
     AggiornaLibrettoMisure(ambiente_);
-    if (conFile) ambiente_.sessione.EstrattoAssociato.clear();
-    EseguiLineaDiComando(ambiente_, linea);
+    if (conFile) sessione.EstrattoAssociato.clear();
+    try {
+      EseguiLineaDiComando(ambiente_, linea);
+    } catch (...) {
+      sessione = std::move(prima);
+      throw;
+    }
+    if (daDisegno && sessione.EsitoForm != EsitoConfermato) return static_cast<void>(sessione = std::move(prima));
     CaricaLibrettoInList1(ambiente_);
   });
   MostraSessione();

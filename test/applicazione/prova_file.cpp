@@ -196,6 +196,26 @@ TEST(Consegne, LaFinestraLeEsegueComeUnFileTrascinato) {
   EXPECT_FALSE(sala.finestra.ArrivateConsegne());
 }
 
+// No save of the window may go over a drawing that was handed to it.
+TEST(Consegne, UnDisegnoAbbandonatoLasciaIlLibrettoCheCEra) {
+  for (const bool intestazione : {false, true}) { // confirmed, and the drawing's form given up after it
+    Sala sala;
+    sala.finestra.Avvia("C:\\ACT.DAT");
+    sala.sessione.EstrattoAssociato = "MIO.EMP";
+    const auto prima = sala.Foto();
+    sala.disco.Metti("C:\\R.LXC", "P,1,10,20,3\r\n");
+    sala.disco.Metti(Programma + "\\TEMP\\4.consegna", "C:\\R.LXC|libretto_da_disegno|");
+    sala.finestre.disponibili = {"FormCatasto1TXT", "LibrettoDaDisegno"};
+    sala.sessione.EsitoForm = intestazione ? EsitoConfermato : EsitoAnnullato;
+    sala.dialoghi.risposte = {Risposta::Si};
+    EXPECT_TRUE(sala.finestra.ArrivateConsegne());
+    sala.finestra.EseguiConsegne();
+    EXPECT_EQ(sala.finestre.aperte.size(), intestazione ? 2U : 1U);
+    EXPECT_EQ(sala.Foto(), prima);
+    EXPECT_FALSE(sala.finestra.Attivo(Comando::Annulla));
+  }
+}
+
 TEST(Consegne, IModuliBloccatiSiTerminanoDopoUnaDomanda) {
   Sala sala;
   sala.finestra.Avvia("C:\\ACT.DAT");
