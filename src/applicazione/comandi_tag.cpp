@@ -1,11 +1,13 @@
 #include <applicazione/comandi_tag.h>
 
 #include <applicazione/forme.h>
+#include <base/errore.h>
 #include <base/percorsi.h>
 #include <base/testo.h>
 #include <core/apertura.h>
 #include <core/apri_form.h>
 #include <core/mostra_errore.h>
+#include <core/riga.h>
 #include <core/zero_nove.h>
 #include <estratti/copia_estratto.h>
 #include <fiduciali/misurate.h>
@@ -145,13 +147,29 @@ constexpr std::array Conosciuti = {
 DopoComando ComandoTag1(Ambiente& ambiente) {
   ambiente.sessione.PuntoErrore = "COMANDOTAG_1";
   const std::string linea = Sostituisci(ambiente.sessione.ComandoTag, "\"", "");
-  if (!Contiene(linea, "|")) {
+  const bool disegno = !Contiene(linea, "|") && EDisegno(ambiente, PercorsoInCapitali(ambiente.disco, linea));
+  if (!disegno && !Contiene(linea, "|")) {
     ApriFile(ambiente, PercorsoInCapitali(ambiente.disco, linea));
     return DopoComando::FinestraPrincipale;
   }
   DopoComando dopo = DopoComando::Finisce;
-  (void)Intrappola(ambiente, [&] { dopo = EseguiLinea(ambiente, linea); });
-  return dopo;
+  if (disegno) ambiente.sessione.EsitoForm = EsitoAnnullato;
+  (void)Intrappola(ambiente,
+                   [&] { dopo = EseguiLinea(ambiente, disegno ? linea + std::string(ComandoDisegno) : linea); });
+  const bool fatto = disegno && ambiente.sessione.EsitoForm == EsitoConfermato;
+  return fatto ? DopoComando::FinestraPrincipale : dopo;
+}
+
+bool EDisegno(const Ambiente& ambiente, const std::string& percorso) {
+  constexpr std::size_t inizio = 65536; // bytes, in which a point stands
+  if (!FinisceConSenzaCaso(percorso, EstensioneDisegno)) return false;
+  try {
+    const std::string testo = ambiente.disco.LeggiInizio(percorso, inizio);
+    const auto righe = RigheDi(testo);
+    return std::any_of(righe.begin(), righe.end(), [](std::string_view riga) { return riga.starts_with("P,"); });
+  } catch (const Errore&) { // whoever opens it tells
+    return false;
+  }
 }
 
 void EseguiLineaDiComando(Ambiente& ambiente, std::string_view linea) {

@@ -20,8 +20,9 @@ constexpr auto Effetti = std::to_array<Voce>({
     {Comando::NuovoLibretto, "Un libretto nuovo: si compilano le righe 0 e 9, e chi rinuncia riha quello di prima"},
     {Comando::NuovoLibrettoVuoto,
      "Un libretto nuovo: si compilano le righe 0 e 9, e chi rinuncia riha quello di prima"},
-    {Comando::ApriDaFile, "Si sceglie un file: un libretto .DAT, .TXT, .LXB, .PDF prende il posto di quello aperto, un "
-                          "estratto .EMP, .ZIP va fra gli estratti di Pregeo"},
+    {Comando::ApriDaFile,
+     "Si sceglie un file: un libretto .DAT, .TXT, .LXB, .PDF prende il posto di quello aperto, da un "
+     "disegno .LXC se ne fa uno, un estratto .EMP, .ZIP va fra gli estratti di Pregeo"},
     {Comando::ApriDaPregeo, "L'archivio di Pregeo: i libretti, i loro punti, e l'importazione di questi"},
     {Comando::LibrettiRecenti, "Gli ultimi dieci file aperti"},
     {Comando::RipristinaDaArchivio, "Si sceglie una copia della cartella Backup_Libretti, che prende il posto del "

@@ -19,6 +19,8 @@ namespace lirmeto {
 //
 //   a file chosen in a dialog        takes the road of one that is dropped, with its question
 //   a file dropped beside the rows   an extract is imported, a libretto opened; the rows take libretti alone
+//   a drawing (.LXC)                 becomes a libretto, with the forms of that command; it is never opened as rows, over which
+//                                    a save would go
 //   a file that is not there         is told, and nothing changes; among the last files it leaves their list
 //   the extract of the act before    is not that of another one whose file names none; it stays with the rows of an .LXB
 //   where the dialog opens           the folder of the open libretto, or of the last file, or "c:\"
@@ -29,8 +31,8 @@ namespace lirmeto {
 namespace {
 
 constexpr std::string_view Lxb = ".LXB";
-constexpr std::string_view Filtro = "Libretti ed estratti (*.dat *.DAT *.txt *.TXT *.lxb *.LXB *.pdf *.PDF *.emp *.EMP "
-                                    "*.zip *.ZIP);;Tutti i file (*)";
+constexpr std::string_view Filtro = "Libretti, disegni ed estratti (*.dat *.DAT *.txt *.TXT *.lxb *.LXB *.pdf *.PDF "
+                                    "*.lxc *.LXC *.emp *.EMP *.zip *.ZIP);;Tutti i file (*)";
 constexpr std::string_view CartellaPredefinita = "c:\\";
 
 bool EstensioneLibretto(std::string_view percorso) {
@@ -107,6 +109,7 @@ void KR_LibrettoOriginale::TrascinaAccanto(const std::string& percorso) {
 }
 
 void KR_LibrettoOriginale::PrendiFile(std::string_view comando, const std::string& percorso) {
+  if (EDisegno(ambiente_, percorso)) return EseguiConsegnata(percorso + std::string(ComandoDisegno));
   if (!EstensioneLibretto(percorso)) return PrendiEstratto(percorso);
   if (ConsenteDiSostituire(comando)) PrendiLibretto(comando, percorso);
 }
@@ -190,9 +193,10 @@ void KR_LibrettoOriginale::EseguiConsegne() {
 // A drawing whose forms are given up leaves the libretto that stood, and so does a command that fails.
 void KR_LibrettoOriginale::EseguiConsegnata(const std::string& linea) {
   const bool conFile = !Parte(linea, '|', 0).empty();
-  const bool daDisegno = Maiuscolo(std::string(Parte(linea, '|', 1))) == "LIBRETTO_DA_DISEGNO";
-  if (conFile && !ConsenteDiSostituire(Parte(linea, '|', 1))) return;
-  Comanda(Parte(linea, '|', 1), [&] {
+  const bool daDisegno = Maiuscolo(std::string(Parte(linea, '|', 1))) + "|" == ComandoDisegno.substr(1);
+  const std::string nome(daDisegno ? "Libretto da Disegno" : Parte(linea, '|', 1));
+  if (conFile && !ConsenteDiSostituire(nome)) return;
+  Comanda(nome, [&] {
     Sessione& sessione = ambiente_.sessione;
     Sessione prima = sessione;
     AggiornaLibrettoMisure(ambiente_);

@@ -114,7 +114,8 @@ bool KR_LibrettoOriginale::Carica(const std::string& comandoAvvio) {
   if (!ApriDaComando(comandoAvvio, delFile)) return false;
   CaricaElenco(delFile);
   // What a command or an .LXB brought in is on no disk yet.
-  if (!Contiene(comandoAvvio, "|") && !FinisceConSenzaCaso(comandoAvvio, Lxb)) Prova([&] { RicordaIntatto(); });
+  const bool daAltro = FinisceConSenzaCaso(comandoAvvio, Lxb) || FinisceConSenzaCaso(comandoAvvio, ".LXC");
+  if (!Contiene(comandoAvvio, "|") && !daAltro) Prova([&] { RicordaIntatto(); });
   return true;
 }
 

@@ -202,6 +202,11 @@ TEST_P(DalDisegno, FinisceSoloSeIlLibrettoCE) {
   banco.disco.Metti("C:\\R.LXC\\D.LXC", disegno);
   banco.sessione.ComandoTag = "c:\\r.lxc\\d.lxc|LIBRETTO_DA_DISEGNO|";
   EXPECT_EQ(ComandoTag1(vere.ambiente), caso.dopo);
+  if (caso.preme && caso.siScrive) { // the drawing alone, without the command, shows what came of it
+    banco.disco.Elimina("C:\\R.LXC\\D.TXT");
+    banco.sessione.ComandoTag = "c:\\r.lxc\\d.lxc";
+    EXPECT_EQ(ComandoTag1(vere.ambiente), DopoComando::FinestraPrincipale);
+  }
   EXPECT_EQ(banco.sessione.NomeFileLibretto, "C:\\R.LXC\\D.TXT");
   EXPECT_EQ(banco.disco.Contenuto("C:\\R.LXC\\D.LXC"), disegno);
   EXPECT_EQ(Contiene(banco.sessione.Libretto, "\r\n2|101|"), caso.preme);

@@ -204,7 +204,7 @@ TEST(Consegne, UnDisegnoAbbandonatoLasciaIlLibrettoCheCEra) {
     sala.sessione.EstrattoAssociato = "MIO.EMP";
     const auto prima = sala.Foto();
     sala.disco.Metti("C:\\R.LXC", "P,1,10,20,3\r\n");
-    sala.disco.Metti(Programma + "\\TEMP\\4.consegna", "C:\\R.LXC|libretto_da_disegno|");
+    sala.disco.Metti(Programma + "\\TEMP\\4.consegna", intestazione ? "C:\\R.LXC|libretto_da_disegno|" : "C:\\R.LXC");
     sala.finestre.disponibili = {"FormCatasto1TXT", "LibrettoDaDisegno"};
     sala.sessione.EsitoForm = intestazione ? EsitoConfermato : EsitoAnnullato;
     sala.dialoghi.risposte = {Risposta::Si};
