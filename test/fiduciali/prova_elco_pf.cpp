@@ -4,6 +4,7 @@
 #include <base/testo.h>
 #include <core/cartelle.h>
 #include <fiduciali/elco_pf.h>
+#include <fiduciali/elco_pf_file.h>
 #include <fiduciali/elco_pf_grafica.h>
 #include <fiduciali/elco_pf_griglia.h>
 #include <supporto/imputa.h>
@@ -250,6 +251,9 @@ TEST_F(Vista, EsceNeiFileDegliAltriProgrammi) {
 }
 
 TEST_F(Vista, SiStampanoISelezionati) {
+  form.Punti[1].selezionato = selezione::Si;
+  EXPECT_EQ(TestoStampaPF(std::span(form.Punti).first(1), tabella), TestoStampaPF({}, tabella)) << "of one not chosen";
+  form.Punti[1].selezionato = selezione::No;
   form.Punti[2].selezionato = selezione::Si;
   std::string mostrata;
   banco.finestre.utente = [&](Modello& modello) {

@@ -153,6 +153,14 @@ INSTANTIATE_TEST_SUITE_P(
         CasoDxf{"Nessuna", "0 CIRCLE 8 RC 10 1 20 1 40 5 0 ENDSEC", {}}),
     [](const auto& caso) { return caso.param.nome; });
 
+TEST(PolilineeDxf, SenzaNomeDelloStratoNonSonoContorni) {
+  Banco banco;
+  EXPECT_EQ(ElencoDaDxf(banco.dialoghi,
+                        "0\nSECTION\n2\nENTITIES\n0\nLWPOLYLINE\n8\n\n70\n1\n10\n1\n20\n1\n10\n2\n20\n2\n"
+                        "0\nENDSEC\n0\nEOF\n"),
+            "");
+}
+
 struct CasoDxfGuasto {
   std::string byte;
   int numero;

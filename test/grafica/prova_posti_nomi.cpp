@@ -28,6 +28,9 @@ TEST(PostiNomi, IlPrimoCheScegliePrendeIlPostoDetto) {
   EXPECT_EQ(posti[1], Scarto{});
   ASSERT_TRUE(posti[2]);
   EXPECT_FALSE(SiCoprono(tre[0], *posti[0], tre[2], *posti[2]));
+  const auto unPunto = DisponiScritte(std::vector<Scritta>{Nome(0, 0, "A"), Nome(0, 0, "B"), Nome(0, 0, "C")});
+  ASSERT_TRUE(unPunto[0] && unPunto[2]);
+  EXPECT_EQ(unPunto[0]->y, unPunto[2]->y) << "on both sides of a point they stand on one line";
   // The place does not depend on where the view is.
   std::vector<Scritta> altrove = tre;
   for (Scritta& una : altrove) una.x += 1280;
