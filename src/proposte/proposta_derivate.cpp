@@ -71,8 +71,7 @@ PropostaDerivate::Ingressi PropostaDerivate::LeggiIngressi() {
   EsplodiAreeProposta(LAmbiente());
   const std::string temp = LaSessione().CartellaProgramma + "\\temp\\";
   const std::string aree = temp + "Aree Per Censuario.txt";
-  conProposta_ = LAmbiente().disco.Esiste(aree);
-  if (!conProposta_) LAmbiente().dialoghi.Messaggio("Proposta Assente!", "Impossibile continuare");
+  if (!LAmbiente().disco.Esiste(aree)) LAmbiente().dialoghi.Messaggio("Proposta Assente!", "Impossibile continuare");
   Ingressi ingressi;
   (void)Intrappola(LAmbiente(), [&] {
     ingressi = {CaricaFileIntero(LAmbiente(), aree), CaricaFileIntero(LAmbiente(), temp + "Modello Censuario.TXT"),

@@ -133,7 +133,6 @@ private:
   int modo_ = ModoSopprime;
   std::size_t ultimaLettera_ = 0; // temporary names already used
   std::string fileMemo_;          // empty: the memo is not written
-  bool conProposta_ = false;
   std::string assorbito_;
 };
 
