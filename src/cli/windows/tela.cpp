@@ -3,6 +3,7 @@
 #include <base/errore.h>
 #include <piattaforma/windows/win32.h>
 
+#include <cmath>
 #include <numbers>
 
 #include <objidl.h>
@@ -45,7 +46,17 @@ void Prepara(Gdiplus::Pen& disegno, const Penna& penna) {
   if (penna.Continua()) return;
   const Gdiplus::REAL tratti[] = {Reale(penna.tratti[0] / penna.larga), Reale(penna.tratti[1] / penna.larga)};
   disegno.SetDashPattern(tratti, 2);
-  disegno.SetDashOffset(Reale(penna.saltati / penna.larga));
+}
+
+// From where the first dash of a line begins, which lies further from the picture than the line was cut. Not every system
+// minds the offset that the library could be told.
+Segmento DalPrimoTratto(Segmento segmento, const Penna& penna) {
+  const double lungo = std::hypot(segmento.x2 - segmento.x1, segmento.y2 - segmento.y1);
+  if (penna.Continua() || lungo == 0) return segmento;
+  const double indietro = std::fmod(penna.saltati, penna.tratti[0] + penna.tratti[1]) / lungo;
+  segmento.x1 -= (segmento.x2 - segmento.x1) * indietro;
+  segmento.y1 -= (segmento.y2 - segmento.y1) * indietro;
+  return segmento;
 }
 
 // The family told, else the first that this system has.
@@ -92,7 +103,8 @@ Tela::~Tela() = default;
 void Tela::Linea(const Segmento& segmento, const Penna& penna) {
   Gdiplus::Pen disegno(Colore(penna.tinta), Reale(penna.larga));
   Prepara(disegno, penna);
-  dentro_->disegno.DrawLine(&disegno, Reale(segmento.x1), Reale(segmento.y1), Reale(segmento.x2), Reale(segmento.y2));
+  const Segmento s = DalPrimoTratto(segmento, penna);
+  dentro_->disegno.DrawLine(&disegno, Reale(s.x1), Reale(s.y1), Reale(s.x2), Reale(s.y2));
 }
 
 void Tela::Cerchio(double x, double y, double raggio, const Penna& penna) {
