@@ -6,6 +6,7 @@
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_superficie.h>
 #include <ui/disegno/grafica_uscite.h>
+#include <ui/disegno/parti_grafica.h>
 
 #include <base/errore.h>
 #include <base/percorsi.h>
@@ -14,7 +15,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QListView>
 #include <QMenu>
@@ -94,7 +94,7 @@ GraficaPannello::GraficaPannello(Ambiente& ambiente, Grafica& grafica, std::int1
   colonna->setSpacing(0);
   colonna->addWidget(barra_);
   colonna->addWidget(piano, 1);
-  colonna->addLayout(CreaPiede());
+  colonna->addLayout(PiedeGrafica(*posto_, *conteggi_));
   RiempiBarra();
   RiempiMenu();
   connect(superficie_, &GraficaSuperficie::MenuRichiesto, this, &GraficaPannello::MostraMenu);
@@ -102,17 +102,6 @@ GraficaPannello::GraficaPannello(Ambiente& ambiente, Grafica& grafica, std::int1
   connect(superficie_, &GraficaSuperficie::Uscito, posto_, &QLabel::clear);
   connect(superficie_, &GraficaSuperficie::Ridisegnata, this, &GraficaPannello::MostraConteggi);
   MostraConteggi();
-}
-
-QLayout* GraficaPannello::CreaPiede() {
-  posto_->setObjectName(QStringLiteral("PostoMouse"));
-  posto_->setFont(FontMonospazio(9));
-  conteggi_->setObjectName(QStringLiteral("Posto"));
-  auto* piede = new QHBoxLayout;
-  piede->setContentsMargins(10, 4, 10, 4);
-  piede->addWidget(posto_, 1);
-  piede->addWidget(conteggi_);
-  return piede;
 }
 
 void GraficaPannello::RiempiMenu() {
@@ -199,14 +188,7 @@ void GraficaPannello::AggiungiStrumenti() {
       ->addAction(Icona(QStringLiteral("coincidenti")), QStringLiteral("Coincidenti"), this,
                   [this] { grafica_.KR_PuntiCoincidenti(); })
       ->setToolTip(QStringLiteral("Elenca i punti che distano fra loro meno di un centimetro"));
-  righello_ = barra_->addAction(Icona(QStringLiteral("righello")), QStringLiteral("Righello"));
-  righello_->setCheckable(true);
-  righello_->setToolTip(QStringLiteral("Misura distanza, direzione e area fra i punti su cui si fa clic"));
-  connect(righello_, &QAction::toggled, this, [this](bool acceso) {
-    grafica_.AccendiMetro(acceso);
-    superficie_->setFocus();
-  });
-  connect(superficie_, &GraficaSuperficie::RighelloLasciato, this, [this] { righello_->setChecked(false); });
+  righello_ = AggiungiRighello(*barra_, *superficie_, [this](bool acceso) { grafica_.AccendiMetro(acceso); });
 }
 
 void GraficaPannello::AggiungiFlag(const VoceFlag& voce) {

@@ -55,7 +55,6 @@ private:
   };
 
   [[nodiscard]] QWidget* CreaRighe();
-  [[nodiscard]] QLayout* CreaPiede();
   void RiempiBarra();
   void RiempiMenu();
   void AggiungiVoce(const VoceGrafica& voce);

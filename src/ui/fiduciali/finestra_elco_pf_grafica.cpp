@@ -4,9 +4,9 @@
 #include <ui/comune/barra_a_capo.h>
 #include <ui/comune/testo_qt.h>
 #include <ui/disegno/grafica_superficie.h>
+#include <ui/disegno/parti_grafica.h>
 
 #include <QCheckBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
@@ -61,20 +61,13 @@ FinestraElcoPfGrafica::FinestraElcoPfGrafica(KR_ElcoPFGrafica& modello, QWidget*
   setWindowTitle(QStringLiteral("Grafica dei Punti Fiduciali"));
   RiempiComandi();
   RiempiSelezione();
-  posto_->setObjectName(QStringLiteral("PostoMouse"));
-  posto_->setFont(FontMonospazio(9));
-  conteggi_->setObjectName(QStringLiteral("Posto"));
-  auto* piede = new QHBoxLayout;
-  piede->setContentsMargins(10, 4, 10, 4);
-  piede->addWidget(posto_, 1);
-  piede->addWidget(conteggi_);
   auto* colonna = new QVBoxLayout(this);
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->setSpacing(0);
   colonna->addWidget(comandi_);
   colonna->addWidget(selezione_);
   colonna->addWidget(superficie_, 1);
-  colonna->addLayout(piede);
+  colonna->addLayout(PiedeGrafica(*posto_, *conteggi_));
   superficie_->installEventFilter(this);
   connect(superficie_, &GraficaSuperficie::MenuRichiesto, this, [this](const QPoint& dove) { menu_->popup(dove); });
   connect(superficie_, &GraficaSuperficie::Sopra, this, [this](double x, double y) {
@@ -118,7 +111,11 @@ void FinestraElcoPfGrafica::RiempiSelezione() {
     azione->setToolTip(AQString(voce.spiegazione));
   }
   selezione_->Allarga();
-  AggiungiRighello();
+  AggiungiRighello(*selezione_, *superficie_, [this](bool acceso) {
+    modello_.LasciaStrumento();
+    modello_.Grafica1().AccendiMetro(acceso);
+    Mostra();
+  });
   auto* nomi = new QCheckBox(QStringLiteral("&Nomi"), this);
   nomi->setObjectName(QStringLiteral("Check1"));
   nomi->setChecked(modello_.Check1());
@@ -133,19 +130,6 @@ void FinestraElcoPfGrafica::RiempiSelezione() {
     modello_.Grafica1().Vista().NomiSovrapposti = si;
     modello_.Grafica1().KR_RidisegnaGrafica();
   });
-}
-
-void FinestraElcoPfGrafica::AggiungiRighello() {
-  QAction* righello = selezione_->addAction(Icona(QStringLiteral("righello")), QStringLiteral("Righello"));
-  righello->setCheckable(true);
-  righello->setToolTip(QStringLiteral("Misura distanza, direzione e area fra i punti su cui si fa clic"));
-  connect(righello, &QAction::toggled, this, [this](bool acceso) {
-    modello_.LasciaStrumento();
-    modello_.Grafica1().AccendiMetro(acceso);
-    superficie_->setFocus();
-    Mostra();
-  });
-  connect(superficie_, &GraficaSuperficie::RighelloLasciato, righello, [righello] { righello->setChecked(false); });
 }
 
 void FinestraElcoPfGrafica::Esegui(int indice) {

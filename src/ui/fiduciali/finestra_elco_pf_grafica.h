@@ -31,7 +31,6 @@ protected:
 private:
   void RiempiComandi();
   void RiempiSelezione();
-  void AggiungiRighello();
   void Esegui(int indice);
   bool UsaStrumento(QEvent& evento);
   void Traccia(const QPoint& posto);
